@@ -1,0 +1,88 @@
+// Texts from bytes, numbers from texts and back.
+#include "Text.h"
+
+#include <QRegularExpression>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <string>
+
+namespace foundation {
+
+namespace {
+
+constexpr int kSignificantDigits = 15;
+
+/// The text without leading blanks as plain characters; anything that is not ASCII ends it.
+std::string asciiPrefix(QStringView text)
+{
+    std::string result;
+    for (const QChar c : text.trimmed()) {
+        if (c.unicode() > 0x7f)
+            break;
+        result.push_back(static_cast<char>(c.unicode()));
+    }
+    return result;
+}
+
+bool isAscii(const char *bytes)
+{
+    return std::all_of(bytes, bytes + qstrlen(bytes), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+} // namespace
+
+StringEncoding systemEncoding() { return StringEncoding::utf8; }
+
+std::optional<QString> stringFromBytes(const char *bytes, StringEncoding encoding)
+{
+    if (!bytes || (encoding == StringEncoding::ascii && !isAscii(bytes)))
+        return std::nullopt;
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString text = decode(QByteArrayView(bytes));
+    return decode.hasError() ? std::nullopt : std::optional(text.isNull() ? QString("") : std::move(text));
+}
+
+double doubleValue(QStringView text)
+{
+    const std::string prefix = asciiPrefix(text);
+    const char *begin = prefix.data();
+    const char *const end = begin + prefix.size();
+    if (begin != end && *begin == '+' && end - begin > 1 && begin[1] != '-')
+        ++begin;
+    const char *const digits = begin != end && *begin == '-' ? begin + 1 : begin;
+    if (digits == end || !(*digits == '.' || (*digits >= '0' && *digits <= '9'))) // "inf" and "nan" are no numbers here
+        return 0;
+    double value = 0;
+    const auto [next, failed] = std::from_chars(begin, end, value);
+    if (failed == std::errc::result_out_of_range)
+        return *begin == '-' ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
+    return value;
+}
+
+int integerValue(QStringView text)
+{
+    const std::string prefix = asciiPrefix(text);
+    const char *begin = prefix.data();
+    const char *const end = begin + prefix.size();
+    if (begin != end && *begin == '+' && end - begin > 1 && begin[1] != '-')
+        ++begin;
+    int value = 0;
+    const auto [next, failed] = std::from_chars(begin, end, value);
+    if (failed == std::errc::result_out_of_range)
+        return *begin == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    return value;
+}
+
+QString stringFromDouble(double value) { return QString::number(value, 'g', kSignificantDigits); }
+
+QPointF pointFromString(const QString &text)
+{
+    static const QRegularExpression notation(R"(^\s*\{\s*([^,{}]+?)\s*,\s*([^,{}]+?)\s*\}\s*$)");
+    const auto match = notation.match(text);
+    return match.hasMatch() ? QPointF(doubleValue(match.captured(1)), doubleValue(match.captured(2))) : QPointF();
+}
+
+} // namespace foundation

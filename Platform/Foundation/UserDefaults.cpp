@@ -1,0 +1,36 @@
+// User defaults over QSettings.
+#include "UserDefaults.h"
+
+#include <QSettings>
+
+namespace foundation {
+
+UserDefaults &UserDefaults::standard()
+{
+    static UserDefaults defaults;
+    return defaults;
+}
+
+UserDefaults::UserDefaults() = default;
+UserDefaults::~UserDefaults() = default;
+
+void UserDefaults::useStore(std::unique_ptr<QSettings> store) { m_store = std::move(store); }
+
+QSettings &UserDefaults::store() const
+{
+    if (!m_store)
+        m_store = std::make_unique<QSettings>();
+    return *m_store;
+}
+
+std::optional<QString> UserDefaults::objectForKey(const QString &key) const
+{
+    const QVariant value = store().value(key);
+    return value.isValid() ? std::optional(value.toString()) : std::nullopt;
+}
+
+void UserDefaults::setObjectForKey(const QString &value, const QString &key) { store().setValue(key, value); }
+
+void UserDefaults::removeObjectForKey(const QString &key) { store().remove(key); }
+
+} // namespace foundation

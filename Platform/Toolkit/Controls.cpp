@@ -1,0 +1,232 @@
+// Pop-up menus, buttons, steppers and pages.
+#include "Controls.h"
+
+#include <QButtonGroup>
+#include <QKeyEvent>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QStandardItemModel>
+#include <QStyle>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace toolkit {
+
+namespace {
+
+QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
+
+} // namespace
+
+PopUpControl::PopUpControl(QWidget *parent) : QComboBox(parent) {}
+
+void PopUpControl::select(int index)
+{
+    if (index >= 0 && index < count())
+        setCurrentIndex(index);
+}
+
+void PopUpControl::insertTitle(const QString &title, int index)
+{
+    const int selected = currentIndex();
+    insertItem(std::clamp(index, 0, count()), title);
+    setCurrentIndex(selected);
+}
+
+void PopUpControl::removeAt(int index)
+{
+    if (index < 0 || index >= count())
+        return;
+    const int selected = currentIndex();
+    removeItem(index);
+    setCurrentIndex(std::min(selected, count() - 1));
+}
+
+bool PopUpControl::isItemEnabled(int index) const
+{
+    return model()->flags(model()->index(index, 0)).testFlag(Qt::ItemIsEnabled);
+}
+
+void PopUpControl::setItemEnabled(int index, bool enabled)
+{
+    if (auto *item = static_cast<QStandardItemModel *>(model())->item(index))
+        item->setEnabled(enabled);
+}
+
+void PopUpControl::validateItems()
+{
+    if (!m_validator)
+        return;
+    for (int index = 0; index < count(); ++index)
+        setItemEnabled(index, m_validator(index));
+}
+
+void PopUpControl::choose(int index)
+{
+    setCurrentIndex(index);
+    Q_EMIT activated(index);
+}
+
+void PopUpControl::showPopup()
+{
+    validateItems();
+    QComboBox::showPopup();
+}
+
+void PopUpControl::keyPressEvent(QKeyEvent *event)
+{
+    validateItems(); // keys move through the items of a closed menu too
+    QComboBox::keyPressEvent(event);
+}
+
+void PopUpControl::wheelEvent(QWheelEvent *event)
+{
+    event->ignore(); // scrolling past a print option must not change it
+}
+
+void CheckControl::setTitle(const QString &title)
+{
+    m_title = title;
+    setText(withoutMnemonic(title));
+}
+
+RadioControl::RadioControl(QWidget *parent)
+    : QWidget(parent)
+    , m_group(new QButtonGroup(this))
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    connect(m_group, &QButtonGroup::idClicked, this, &RadioControl::chosen);
+}
+
+void RadioControl::setRows(const QStringList &titles)
+{
+    qDeleteAll(m_group->buttons());
+    m_rows.clear();
+    for (const QString &title : titles) {
+        auto *button = new QRadioButton(this);
+        layout()->addWidget(button);
+        m_group->addButton(button, static_cast<int>(m_rows.size()));
+        m_rows.append(QString());
+        setRowTitle(static_cast<int>(m_rows.size()) - 1, title);
+    }
+}
+
+void RadioControl::setRowTitle(int row, const QString &title)
+{
+    if (auto *button = m_group->button(row)) {
+        m_rows[row] = title;
+        button->setText(withoutMnemonic(title));
+    }
+}
+
+int RadioControl::selectedRow() const { return m_group->checkedId(); }
+
+void RadioControl::select(int row)
+{
+    if (auto *button = m_group->button(row))
+        button->setChecked(true);
+}
+
+void RadioControl::choose(int row)
+{
+    if (auto *button = m_group->button(row))
+        button->click();
+}
+
+StepperControl::StepperControl(QWidget *parent)
+    : QWidget(parent)
+    , m_up(arrow(Qt::UpArrow, 1))
+    , m_down(arrow(Qt::DownArrow, -1))
+{
+    setFocusPolicy(Qt::TabFocus);
+}
+
+QToolButton *StepperControl::arrow(Qt::ArrowType type, int direction)
+{
+    auto *button = new QToolButton(this);
+    button->setArrowType(type);
+    button->setAutoRepeat(true);
+    button->setFocusPolicy(Qt::NoFocus); // the arrow keys work on the whole stepper
+    connect(button, &QToolButton::clicked, this, [this, direction] { step(direction); });
+    return button;
+}
+
+void StepperControl::setValue(double value) { m_value = std::min(std::max(value, m_minimum), m_maximum); }
+
+QString StepperControl::increaseName() const { return m_up->accessibleName(); }
+void StepperControl::setIncreaseName(const QString &name) { m_up->setAccessibleName(name); }
+QString StepperControl::decreaseName() const { return m_down->accessibleName(); }
+void StepperControl::setDecreaseName(const QString &name) { m_down->setAccessibleName(name); }
+
+void StepperControl::step(int direction)
+{
+    setValue(m_value + direction * m_increment);
+    Q_EMIT stepped();
+}
+
+void StepperControl::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const int half = height() / 2;
+    m_up->setGeometry(0, 0, width(), half);
+    m_down->setGeometry(0, half, width(), height() - half);
+}
+
+void StepperControl::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Up)
+        step(1);
+    else if (event->key() == Qt::Key_Down)
+        step(-1);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+QList<QWidget *> TabControl::pages() const
+{
+    auto children = findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    children.removeIf([](const QWidget *child) { return !child->property("identifier").isValid(); });
+    return children;
+}
+
+QStringList TabControl::identifiers() const
+{
+    QStringList result;
+    for (const QWidget *page : pages())
+        result.append(page->property("identifier").toString());
+    return result;
+}
+
+QString TabControl::label(const QString &identifier) const
+{
+    for (const QWidget *page : pages())
+        if (page->property("identifier") == identifier)
+            return page->accessibleName();
+    return {};
+}
+
+void TabControl::setLabel(const QString &identifier, const QString &label)
+{
+    for (QWidget *page : pages())
+        if (page->property("identifier") == identifier)
+            page->setAccessibleName(label);
+}
+
+void TabControl::setCurrent(const QString &identifier)
+{
+    m_current = identifier;
+    for (QWidget *page : pages())
+        page->setVisible(page->property("identifier") == identifier);
+}
+
+SeparatorControl::SeparatorControl(QWidget *parent) : QFrame(parent)
+{
+    setFrameShape(QFrame::HLine);
+    setFrameShadow(QFrame::Sunken);
+}
+
+} // namespace toolkit

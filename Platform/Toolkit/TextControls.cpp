@@ -1,0 +1,103 @@
+// Labels and entry fields.
+#include "Controls.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QToolTip>
+
+namespace toolkit {
+
+namespace {
+
+QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
+
+bool isPaletteEvent(const QEvent &event)
+{
+    return event.type() == QEvent::PaletteChange || event.type() == QEvent::ApplicationPaletteChange ||
+           event.type() == QEvent::ParentChange;
+}
+
+} // namespace
+
+void TextControl::setTextColor(TextColor color)
+{
+    if (m_color == color)
+        return;
+    m_color = color;
+    followPalette();
+}
+
+void TextControl::followPalette()
+{
+    if (m_applying) // setting a palette reports a palette change
+        return;
+    m_applying = true;
+    QPalette palette;
+    if (m_color == TextColor::disabledControl) {
+        const QPalette around = m_self.parentWidget() ? m_self.parentWidget()->palette() : QPalette();
+        for (const auto role : {QPalette::WindowText, QPalette::Text})
+            for (const auto group : {QPalette::Active, QPalette::Inactive})
+                palette.setColor(group, role, around.color(QPalette::Disabled, role));
+    }
+    m_self.setPalette(palette);
+    m_applying = false;
+}
+
+LabelControl::LabelControl(QWidget *parent)
+    : QLabel(parent)
+    , TextControl(static_cast<QWidget &>(*this))
+{
+    setTextFormat(Qt::PlainText);
+}
+
+void LabelControl::setStringValue(const QString &text)
+{
+    m_text = text;
+    setText(withoutMnemonic(text)); // a buddy makes '&' a mnemonic; texts of a PPD mean the character
+}
+
+void LabelControl::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (isPaletteEvent(*event))
+        followPalette();
+}
+
+FieldControl::FieldControl(QWidget *parent)
+    : QLineEdit(parent)
+    , TextControl(static_cast<QWidget &>(*this))
+{
+    connect(this, &QLineEdit::textEdited, this, &FieldControl::edited);
+    connect(this, &QLineEdit::returnPressed, this, &FieldControl::enter);
+}
+
+void FieldControl::paste(const QString &text)
+{
+    setText(text);
+    Q_EMIT edited();
+}
+
+void FieldControl::enter()
+{
+    Q_EMIT entered();
+    Q_EMIT editingEnded();
+}
+
+bool FieldControl::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && m_expansionToolTips &&
+        fontMetrics().horizontalAdvance(text()) > contentsRect().width()) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+void FieldControl::changeEvent(QEvent *event)
+{
+    QLineEdit::changeEvent(event);
+    if (isPaletteEvent(*event))
+        followPalette();
+}
+
+} // namespace toolkit
