@@ -3,10 +3,9 @@
 
 #include <QButtonGroup>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QRadioButton>
-#include <QSignalBlocker>
 #include <QStandardItemModel>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -223,10 +222,12 @@ void TabControl::setCurrent(const QString &identifier)
         page->setVisible(page->property("identifier") == identifier);
 }
 
-SeparatorControl::SeparatorControl(QWidget *parent) : QFrame(parent)
+void SeparatorControl::paintEvent(QPaintEvent *)
 {
-    setFrameShape(QFrame::HLine);
-    setFrameShadow(QFrame::Sunken);
+    constexpr double kQuiet = 0.25;
+    QPainter painter(this);
+    painter.setOpacity(kQuiet);
+    painter.fillRect(0, height() / 2, width(), 1, palette().windowText());
 }
 
 } // namespace toolkit

@@ -4,7 +4,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStringList>
@@ -70,7 +69,8 @@ public:
     explicit FieldControl(QWidget *parent = nullptr);
 
     QString stringValue() const override { return text(); }
-    void setStringValue(const QString &text) override { setText(text); }
+    /// The cursor stays where it was, so that a correction while typing does not carry it away.
+    void setStringValue(const QString &text) override;
 
     bool isEditable() const { return !isReadOnly(); }
     void setEditable(bool editable) { setReadOnly(!editable); }
@@ -91,6 +91,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -251,13 +252,16 @@ private:
     QString m_current;
 };
 
-/// A line between groups.
-class SeparatorControl : public QFrame
+/// A thin line between groups, quiet in light and dark palettes alike.
+class SeparatorControl : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit SeparatorControl(QWidget *parent = nullptr);
+    explicit SeparatorControl(QWidget *parent = nullptr) : QWidget(parent) {}
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };
 
 } // namespace toolkit

@@ -3,7 +3,10 @@
 
 #include <QEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace toolkit {
 
@@ -68,7 +71,13 @@ FieldControl::FieldControl(QWidget *parent)
     , TextControl(static_cast<QWidget &>(*this))
 {
     connect(this, &QLineEdit::textEdited, this, &FieldControl::edited);
-    connect(this, &QLineEdit::returnPressed, this, &FieldControl::enter);
+}
+
+void FieldControl::setStringValue(const QString &text)
+{
+    const int cursor = cursorPosition();
+    setText(text);
+    setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
 }
 
 void FieldControl::paste(const QString &text)
@@ -91,6 +100,14 @@ bool FieldControl::event(QEvent *event)
         return true;
     }
     return QLineEdit::event(event);
+}
+
+void FieldControl::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        enter(); // and no further: Return in a field must not press the dialog's default button
+    else
+        QLineEdit::keyPressEvent(event);
 }
 
 void FieldControl::changeEvent(QEvent *event)

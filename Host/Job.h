@@ -1,0 +1,59 @@
+// A print job and the places that it can go to.
+#pragma once
+
+#include "Document.h"
+#include "PPDDocument.h"
+
+#include <functional>
+
+namespace host {
+
+struct Job
+{
+    Document &document;
+    QString title;
+    int copies = 1;
+    OptionValues options;
+};
+
+/// `done` of `total` bytes have gone; false stops the job.
+using JobProgress = std::function<bool(qint64 done, qint64 total)>;
+
+/// Where a job goes. Submitting blocks, and may run on a thread of its own.
+class JobSink
+{
+public:
+    struct Result
+    {
+        bool done = false;
+        QString sentence; // for people: where the job went, or what is wrong
+    };
+
+    virtual ~JobSink() = default;
+    /// A job that is stopped or fails leaves nothing behind.
+    virtual Result submit(const Job &job, const JobProgress &progress) = 0;
+};
+
+/// Into a folder: a copy of the document, and beside it a ticket in JSON with every option. Never over another job.
+class FolderSink final : public JobSink
+{
+public:
+    explicit FolderSink(QString folder) : m_folder(std::move(folder)) {}
+    Result submit(const Job &job, const JobProgress &progress) override;
+
+private:
+    QString m_folder;
+};
+
+/// To a queue of the CUPS server, streamed.
+class CupsSink final : public JobSink
+{
+public:
+    explicit CupsSink(QString queue) : m_queue(std::move(queue)) {}
+    Result submit(const Job &job, const JobProgress &progress) override;
+
+private:
+    QString m_queue;
+};
+
+} // namespace host

@@ -1,0 +1,287 @@
+// Opening, marking and asking a PPD.
+#include "PPDDocument.h"
+
+#include "Foundation/Text.h"
+
+#include <QFile>
+#include <QRegularExpression>
+
+#include <cmath>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+constexpr auto kCustom = "Custom";
+constexpr auto kCustomPrefix = "Custom.";
+constexpr auto kPageSize = "PageSize";
+
+QString text(const char *bytes) { return QString::fromUtf8(bytes); }
+
+/// A regular file to read from, -1 with a sentence otherwise. Opened without waiting, so that a pipe can't hold us.
+int openRegularFile(const QString &path, QString *error)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat status = {};
+    if (fd < 0 || ::fstat(fd, &status) != 0) {
+        *error = QString("%1: %2").arg(path, text(std::strerror(errno)));
+    } else if (!S_ISREG(status.st_mode)) {
+        *error = QString("%1: not a file").arg(path);
+    } else if (status.st_size == 0) {
+        *error = QString("%1: not a PPD file (the file is empty)").arg(path);
+    } else {
+        return fd;
+    }
+    if (fd >= 0)
+        ::close(fd);
+    return -1;
+}
+
+void collectOptions(ppd_group_t &group, std::vector<ppd_option_t *> &options)
+{
+    for (int i = 0; i < group.num_options; ++i)
+        options.push_back(&group.options[i]);
+    for (int i = 0; i < group.num_subgroups; ++i)
+        collectOptions(group.subgroups[i], options);
+}
+
+bool isPlainDecimal(const QString &value)
+{
+    static const QRegularExpression decimal(R"(^[+-]?([0-9]+(\.[0-9]*)?|\.[0-9]+)$)",
+                                            QRegularExpression::DontCaptureOption);
+    return decimal.match(value).hasMatch() && !value.endsWith('\n');
+}
+
+/// Both ends belong to the range. The limits are single-precision, so the value is compared as such.
+bool isInRange(const ppd_cparam_t &parameter, double value)
+{
+    const auto number = static_cast<float>(value);
+    const auto within = [number](float least, float largest) { return least <= number && number <= largest; };
+    switch (parameter.type) {
+    case PPD_CUSTOM_REAL: return within(parameter.minimum.custom_real, parameter.maximum.custom_real);
+    case PPD_CUSTOM_CURVE: return within(parameter.minimum.custom_curve, parameter.maximum.custom_curve);
+    case PPD_CUSTOM_INVCURVE: return within(parameter.minimum.custom_invcurve, parameter.maximum.custom_invcurve);
+    case PPD_CUSTOM_POINTS: return within(parameter.minimum.custom_points, parameter.maximum.custom_points);
+    case PPD_CUSTOM_INT: return value >= parameter.minimum.custom_int && value <= parameter.maximum.custom_int;
+    default: return false; // texts have no range of numbers
+    }
+}
+
+QString compact(double number) { return QString::number(number, 'g', 6); }
+
+} // namespace
+
+std::unique_ptr<PPDDocument> PPDDocument::open(const QString &path, QString *error)
+{
+    const int fd = openRegularFile(path, error);
+    if (fd < 0)
+        return nullptr;
+    printing::PPDFile file(ppdOpenFd(fd)); // closes the descriptor
+    if (!file) {
+        int line = 0;
+        const ppd_status_t status = ppdLastError(&line);
+        *error = QString("%1: not a PPD file (line %2: %3)").arg(path).arg(line).arg(text(ppdErrorString(status)));
+        return nullptr;
+    }
+    return std::unique_ptr<PPDDocument>(new PPDDocument(std::move(file)));
+}
+
+PPDDocument::PPDDocument(printing::PPDFile file) : m_file(std::move(file))
+{
+    for (int i = 0; i < m_file->num_groups; ++i)
+        collectOptions(m_file->groups[i], m_options);
+    for (const ppd_option_t *option : m_options) {
+        m_declaredDefaults.emplace_back(option->defchoice);
+        if (m_declaredDefaults.back().startsWith(kCustomPrefix))
+            m_customValues[option] = text(option->defchoice + std::strlen(kCustomPrefix));
+    }
+    ppdMarkDefaults(m_file.get());
+}
+
+ppd_option_t *PPDDocument::findOption(const QString &keyword) const
+{
+    ppd_option_t *const option = ppdFindOption(m_file.get(), keyword.toUtf8().constData());
+    return option && keyword == option->keyword ? option : nullptr; // the library does not mind letter case; we do
+}
+
+bool PPDDocument::canMark(const ppd_option_t &option, const QString &choice, QString *markAs) const
+{
+    const QByteArray keyword = choice.toUtf8();
+    for (int i = 0; i < option.num_choices; ++i) {
+        if (keyword == option.choices[i].choice) {
+            *markAs = choice;
+            return true;
+        }
+    }
+    ppd_coption_t *const custom = ppdFindCustomOption(m_file.get(), option.keyword);
+    ppd_cparam_t *const parameter = custom ? ppdFirstCustomParam(custom) : nullptr; // the first in the file
+    if (!parameter || keyword.isEmpty() || std::strcmp(option.keyword, kPageSize) == 0 || !isPlainDecimal(choice) ||
+        !isInRange(*parameter, foundation::doubleValue(choice)))
+        return false;
+    *markAs = kCustomPrefix + choice;
+    return true;
+}
+
+void PPDDocument::adoptDefaults(const OptionValues &values)
+{
+    for (const auto &[keyword, value] : values.asKeyValueRange()) {
+        ppd_option_t *const option = findOption(keyword);
+        QString markAs;
+        // Saved options give custom values with their prefix.
+        const bool listed = option && canMark(*option, value, &markAs);
+        const QString bare = value.startsWith(kCustomPrefix) ? value.mid(std::strlen(kCustomPrefix)) : value;
+        if (!option || (!listed && !canMark(*option, bare, &markAs)))
+            continue;
+        const QByteArray keywordOfChoice = markAs.startsWith(kCustomPrefix) ? QByteArray(kCustom) : markAs.toUtf8();
+        std::strncpy(option->defchoice, keywordOfChoice.constData(), sizeof(option->defchoice) - 1);
+        option->defchoice[sizeof(option->defchoice) - 1] = '\0';
+        markOne(*option, markAs.toUtf8());
+    }
+}
+
+std::optional<PPDDocument::Changes> PPDDocument::mark(const QString &keyword, const QString &choice)
+{
+    ppd_option_t *const option = findOption(keyword);
+    QString markAs;
+    if (!option || !canMark(*option, choice, &markAs))
+        return std::nullopt;
+    return apply(*option, markAs);
+}
+
+std::optional<PPDDocument::Changes> PPDDocument::markCustomPageSize(const printing::Paper &paper)
+{
+    ppd_option_t *const option = findOption(kPageSize);
+    if (!option || !hasCustomPageSize())
+        return std::nullopt;
+    return apply(*option, kCustomPrefix + compact(paper.width) + 'x' + compact(paper.height));
+}
+
+PPDDocument::Changes PPDDocument::apply(ppd_option_t &option, const QString &markAs)
+{
+    const Marks before = marks();
+    const QByteArray choice = markAs.toUtf8();
+    markOne(option, choice);
+    resolveConflicts(option, choice);
+    const Marks after = marks();
+
+    Changes changes;
+    for (std::size_t i = 0; i < m_options.size(); ++i) {
+        if (before[i] == after[i])
+            continue;
+        Change change{text(m_options[i]->keyword), text(after[i])};
+        changes.insert(m_options[i] == &option ? changes.begin() : changes.end(), std::move(change));
+    }
+    return changes;
+}
+
+void PPDDocument::markOne(ppd_option_t &option, const QByteArray &choice)
+{
+    if (choice.startsWith(kCustomPrefix))
+        m_customValues[&option] = text(choice.constData() + std::strlen(kCustomPrefix));
+    ppdMarkOption(m_file.get(), option.keyword, choice.constData());
+}
+
+void PPDDocument::resolveConflicts(const ppd_option_t &asked, const QByteArray &choice)
+{
+    if (ppdConflicts(m_file.get()) == 0)
+        return;
+    cups_option_t *options = nullptr;
+    int count = 0;
+    if (cupsResolveConflicts(m_file.get(), asked.keyword, choice.constData(), &count, &options)) {
+        for (int i = 0; i < count; ++i) {
+            ppd_option_t *const moved = ppdFindOption(m_file.get(), options[i].name);
+            if (moved && moved != &asked)
+                markOne(*moved, options[i].value);
+        }
+    }
+    cupsFreeOptions(count, options);
+}
+
+const char *PPDDocument::markedKeyword(const ppd_option_t &option) const
+{
+    const ppd_choice_t *const choice = ppdFindMarkedChoice(m_file.get(), option.keyword);
+    return choice ? choice->choice : "";
+}
+
+PPDDocument::Marks PPDDocument::marks() const
+{
+    Marks result;
+    result.reserve(m_options.size());
+    for (const ppd_option_t *option : m_options)
+        result.emplace_back(markedKeyword(*option));
+    return result;
+}
+
+QString PPDDocument::markedValue(const ppd_option_t &option, bool forPeople) const
+{
+    const char *const keyword = markedKeyword(option);
+    const auto custom = m_customValues.constFind(&option);
+    if (std::strcmp(keyword, kCustom) != 0 || custom == m_customValues.cend())
+        return text(keyword);
+    const bool isNumber = forPeople && isPlainDecimal(*custom);
+    return kCustomPrefix + (isNumber ? compact(foundation::doubleValue(*custom)) : *custom);
+}
+
+OptionValues PPDDocument::marked() const
+{
+    OptionValues values;
+    for (const ppd_option_t *option : m_options)
+        if (*markedKeyword(*option))
+            values.insert(text(option->keyword), markedValue(*option, true));
+    return values;
+}
+
+OptionValues PPDDocument::jobOptions() const
+{
+    OptionValues values;
+    for (std::size_t i = 0; i < m_options.size(); ++i) {
+        const ppd_option_t &option = *m_options[i];
+        const char *const keyword = markedKeyword(option);
+        const bool isPageSize = std::strcmp(option.keyword, kPageSize) == 0;
+        if (*keyword && (isPageSize || m_declaredDefaults[i] != keyword))
+            values.insert(text(option.keyword), markedValue(option, false));
+    }
+    return values;
+}
+
+QString PPDDocument::pageSizeName() const
+{
+    const ppd_option_t *const option = findOption(kPageSize);
+    return option ? text(markedKeyword(*option)) : QString();
+}
+
+std::optional<printing::Paper> PPDDocument::pageSize(const QString &name) const
+{
+    for (int i = 0; i < m_file->num_sizes; ++i) {
+        const ppd_size_t &size = m_file->sizes[i];
+        if (name == text(size.name) && name != kCustom)
+            return printing::Paper{size.width, size.length};
+    }
+    return std::nullopt;
+}
+
+std::vector<PPDDocument::PageSize> PPDDocument::pageSizes() const
+{
+    std::vector<PageSize> result;
+    const ppd_option_t *const option = findOption(kPageSize);
+    for (int i = 0; option && i < option->num_choices; ++i) {
+        const QString name = text(option->choices[i].choice);
+        if (const auto paper = pageSize(name)) {
+            const QString shown = text(option->choices[i].text);
+            result.push_back({name, shown.isEmpty() ? name : shown, *paper});
+        }
+    }
+    return result;
+}
+
+std::optional<QString> PPDDocument::attribute(const char *name) const
+{
+    const ppd_attr_t *const found = ppdFindAttr(m_file.get(), name, nullptr);
+    return found && found->value ? std::optional(text(found->value)) : std::nullopt;
+}
+
+} // namespace host

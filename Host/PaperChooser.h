@@ -1,0 +1,39 @@
+// The paper of the dialog: the PPD's sizes, and a size of the user's own within the PPD's limits.
+#pragma once
+
+#include "DialogSession.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QDoubleSpinBox;
+
+namespace host {
+
+class PaperChooser : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PaperChooser(QWidget *parent = nullptr);
+
+    /// Shows the papers of a session, with its own selected; nothing is reported.
+    void offer(const DialogSession &session);
+    /// Nil before anything was offered.
+    std::optional<ChosenPaper> chosen() const;
+
+Q_SIGNALS:
+    void chose(); // a person did
+
+private:
+    void choose();
+
+    QComboBox *m_names;
+    QWidget *m_ownSize;
+    QDoubleSpinBox *m_width;
+    QDoubleSpinBox *m_height;
+    double m_pointsPerUnit;
+    std::vector<PPDDocument::PageSize> m_sizes;
+};
+
+} // namespace host

@@ -1,0 +1,71 @@
+// Finding and loading plug-in bundles.
+#include "PlugIn.h"
+
+#include "Foundation/Bundle.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QPluginLoader>
+
+namespace host {
+
+namespace {
+
+constexpr auto kPathVariable = "QNPRINT_PLUGIN_PATH";
+constexpr auto kBundlePattern = "*.plugin";
+
+} // namespace
+
+QStringList plugInDirectories()
+{
+    const QString application = QCoreApplication::applicationDirPath();
+    QStringList directories = qEnvironmentVariable(kPathVariable).split(':', Qt::SkipEmptyParts);
+    directories << application + "/../plugins" << application + "/" QN_PLUGIN_DIR;
+    return directories;
+}
+
+std::optional<QString> findBundle(const std::optional<QString> &dialogExtension)
+{
+    const QString name = QFileInfo(dialogExtension.value_or(QString())).fileName();
+    std::optional<QString> first;
+    for (const QString &path : plugInDirectories()) {
+        const QDir directory(path);
+        const QStringList bundles = directory.entryList({kBundlePattern}, QDir::Dirs, QDir::Name);
+        if (bundles.contains(name))
+            return directory.filePath(name);
+        if (!first && !bundles.isEmpty())
+            first = directory.filePath(bundles.first());
+    }
+    return first;
+}
+
+std::optional<PlugIn> loadBundle(const QString &path, const QString &localization, QString *error)
+{
+    PlugIn plugIn;
+    plugIn.bundle = foundation::Bundle::open(path, localization, error);
+    if (!plugIn.bundle)
+        return std::nullopt;
+    const auto &info = plugIn.bundle->info();
+    if (info.abiVersion != kPDEInterfaceVersion) {
+        *error = QString("%1: made for interface version %2, this dialog has %3")
+                     .arg(path)
+                     .arg(info.abiVersion)
+                     .arg(kPDEInterfaceVersion);
+        return std::nullopt;
+    }
+    QPluginLoader loader(plugIn.bundle->path() + '/' + info.executable);
+    QObject *const root = loader.instance();
+    if (!root) {
+        *error = QString("%1: %2").arg(path, loader.errorString());
+        return std::nullopt;
+    }
+    plugIn.entry = qobject_cast<PDEPlugInEntry *>(root);
+    if (!plugIn.entry) {
+        *error = QString("%1: %2 is not the code of a panel plug-in").arg(path, info.executable);
+        return std::nullopt;
+    }
+    return plugIn;
+}
+
+} // namespace host

@@ -1,0 +1,399 @@
+// The requests of `qnprint script`.
+#include "Script.h"
+
+#include "ControlState.h"
+#include "Foundation/Locale.h"
+#include "Foundation/SystemVersion.h"
+#include "Foundation/UserDefaults.h"
+#include "Toolkit/Alert.h"
+#include "Toolkit/Controls.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <iostream>
+#include <string>
+
+namespace host {
+
+namespace {
+
+constexpr auto kDisplayOrder = "Summary Display Order";
+constexpr auto kDefaultURI = "ipp://localhost/printers/qn";
+constexpr auto kDefaultSystem = "11.0.0";
+constexpr auto kDefaultLocale = "en_US";
+constexpr auto kDefaultLanguage = "en";
+
+QJsonObject toObject(const OptionValues &values)
+{
+    QJsonObject object;
+    for (const auto &[key, value] : values.asKeyValueRange())
+        object[key] = value;
+    return object;
+}
+
+QString styleName(toolkit::Alert::Style style)
+{
+    switch (style) {
+    case toolkit::Alert::Style::warning: return "warning";
+    case toolkit::Alert::Style::informational: return "informational";
+    case toolkit::Alert::Style::critical: return "critical";
+    }
+    return {};
+}
+
+QJsonArray itemsOf(toolkit::PopUpControl &menu) { return controlState(menu)["items"].toArray(); }
+
+/// Width and height of a request, which go together; nil when it gives none.
+std::optional<printing::Paper> paperSize(const ScriptRequest &request)
+{
+    if (!request.has("width") && !request.has("height"))
+        return std::nullopt;
+    return printing::Paper{request.number("width"), request.number("height")};
+}
+
+/// What `open` sets for the whole process.
+struct Surroundings
+{
+    std::optional<foundation::SystemVersion> system;
+    QLocale locale;
+
+    void apply() const
+    {
+        foundation::setSystemVersion(system);
+        foundation::Locale::current().set(locale);
+    }
+};
+
+Surroundings surroundings(const ScriptRequest &request)
+{
+    Surroundings result;
+    if (!request.isNull("system")) {
+        const QString version = request.stringOr("system", kDefaultSystem);
+        result.system = foundation::systemVersionFromString(version.toLatin1().constData());
+        if (!result.system)
+            throw ScriptRefusal(QString("\"%1\" is not a system version of the form 11.0.0").arg(version));
+    }
+    const QString name = request.stringOr("locale", kDefaultLocale);
+    result.locale = QLocale(name);
+    if (result.locale == QLocale::c() && name != "C")
+        throw ScriptRefusal(QString("\"%1\" is not a known locale").arg(name));
+    return result;
+}
+
+DialogSession::Parameters parameters(const ScriptRequest &request)
+{
+    DialogSession::Parameters result;
+    result.ppdPath = request.string("ppd");
+    const QString uri = request.stringOr("uri", kDefaultURI);
+    if (!uri.isEmpty())
+        result.uri = uri;
+    if (request.has("paper"))
+        result.paperName = request.isNull("paper") ? std::nullopt : std::optional(request.string("paper"));
+    result.paperSize = paperSize(request);
+    if (request.has("defaults"))
+        result.defaults = request.strings("defaults");
+    if (request.has("bundle"))
+        result.bundlePath = request.string("bundle");
+    result.localization = request.stringOr("language", kDefaultLanguage);
+    result.panelType = request.stringOr("type", result.panelType);
+    return result;
+}
+
+} // namespace
+
+// `job` and `state` only tell what the host knows; every other request may run the panels' code.
+const std::array<Script::Verb, 21> Script::kVerbs{{
+    {"open", &Script::open, true},       {"show", &Script::show, true},     {"hide", &Script::hide, true},
+    {"menu", &Script::menu, true},       {"pick", &Script::pick, true},     {"click", &Script::click, true},
+    {"row", &Script::row, true},         {"type", &Script::type, true},     {"enter", &Script::enter, true},
+    {"step", &Script::step, true},       {"paper", &Script::paper, true},   {"mark", &Script::mark, true},
+    {"keys", &Script::keys, true},       {"name", &Script::name, true},     {"save", &Script::save, true},
+    {"restore", &Script::restore, true}, {"summary", &Script::summary, true}, {"print", &Script::print, true},
+    {"job", &Script::job, false},        {"state", &Script::state, false},  {"close", &Script::close, true},
+}};
+
+Script::Script()
+{
+    toolkit::Alert::setPresenter([this](const toolkit::Alert &alert) {
+        m_alerts.append(QJsonObject{{"message", alert.messageText()},
+                                    {"informative", alert.informativeText()},
+                                    {"buttons", QJsonArray::fromStringList(alert.buttons())},
+                                    {"style", styleName(alert.style())}});
+    });
+}
+
+Script::~Script()
+{
+    m_session.reset();
+    toolkit::Alert::setPresenter({});
+}
+
+std::optional<QByteArray> Script::reply(const QByteArray &line)
+{
+    if (line.trimmed().isEmpty() || line.startsWith('#'))
+        return std::nullopt;
+    QJsonObject reply;
+    try {
+        reply = perform(line);
+        reply["ok"] = true;
+    } catch (const ScriptRefusal &refusal) {
+        reply = {{"ok", false}, {"error", QString::fromUtf8(refusal.what())}};
+    }
+    return QJsonDocument(reply).toJson(QJsonDocument::Compact);
+}
+
+QJsonObject Script::perform(const QByteArray &line)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+    const QString name = document.object().value("do").toString();
+    const auto *const verb = std::ranges::find_if(kVerbs, [&](const Verb &v) { return name == v.name; });
+    m_allLinesKnown = m_allLinesKnown && verb != kVerbs.end();
+    if (error.error != QJsonParseError::NoError)
+        throw ScriptRefusal(QString("not JSON (%1 at character %2)").arg(error.errorString()).arg(error.offset));
+    if (!document.isObject())
+        throw ScriptRefusal("not a JSON object");
+    if (verb == kVerbs.end())
+        throw ScriptRefusal(document.object().contains("do") ? QString("unknown request \"%1\"").arg(name)
+                                                             : QString("member \"do\" is missing"));
+    m_marks = {};
+    m_alerts = {};
+    QJsonObject reply = (this->*verb->perform)(ScriptRequest(document.object()));
+    if (verb->runsPanels) {
+        reply["marks"] = m_marks;
+        reply["alerts"] = m_alerts;
+    }
+    return reply;
+}
+
+DialogSession &Script::session() const
+{
+    if (!m_session)
+        throw ScriptRefusal("no dialog is open");
+    return *m_session;
+}
+
+PDEPanel &Script::panel(const ScriptRequest &request) const
+{
+    const QString identifier = request.string("panel");
+    PDEPanel *const panel = session().panel(identifier);
+    if (!panel)
+        throw ScriptRefusal(QString("the dialog has no panel \"%1\"").arg(identifier));
+    return *panel;
+}
+
+/// The control of a request, of the kind that the request is for, and such that a person could use it.
+template <class C> C &Script::control(const ScriptRequest &request) const
+{
+    PDEPanel &owner = panel(request);
+    const QString name = request.string("control");
+    const auto controls = owner.inspection().controls();
+    const auto found = std::ranges::find(controls, name, &PDEPanelInspection::Control::name);
+    if (found == controls.end())
+        throw ScriptRefusal(QString("the panel has no control \"%1\"").arg(name));
+    if (&owner != session().panelOnDisplay())
+        throw ScriptRefusal(QString("%1: its panel is not on display").arg(name));
+    if (const auto reason = reasonNotUsable(name, found->widget, owner.panelView()))
+        throw ScriptRefusal(*reason);
+    C *const control = qobject_cast<C *>(found->widget);
+    if (!control)
+        throw ScriptRefusal(QString("%1: not a control of the kind that this request is for").arg(name));
+    return *control;
+}
+
+QJsonArray Script::panelIdentifiers() const
+{
+    QJsonArray identifiers;
+    for (const auto &panel : *m_session->panels())
+        identifiers.append(panel->inspection().identifier());
+    return identifiers;
+}
+
+QJsonObject Script::open(const ScriptRequest &request)
+{
+    const auto wanted = parameters(request);
+    const Surroundings around = surroundings(request);
+    const bool prepare = !request.has("prepare") || request.boolean("prepare");
+
+    QString error;
+    auto next = DialogSession::open(wanted, &error);
+    if (!next)
+        throw ScriptRefusal(error);
+    m_session.reset();
+    around.apply();
+    m_session = std::move(next);
+    m_session->onPanelMark = [this](const QString &key, const QString &choice) {
+        m_marks.append(QJsonArray{key, choice});
+    };
+    m_session->start(prepare ? DialogSession::Prepare::everyPanel : DialogSession::Prepare::nothing);
+
+    QJsonObject reply{{"accepted", m_session->isAccepted()}, {"panels", QJsonArray()}};
+    if (m_session->isAccepted())
+        reply["panels"] = m_session->panels() ? QJsonValue(panelIdentifiers()) : QJsonValue();
+    return reply;
+}
+
+QJsonObject Script::show(const ScriptRequest &request)
+{
+    if (!session().show(panel(request)))
+        throw ScriptRefusal(QString("panel \"%1\" has no interface to show").arg(request.string("panel")));
+    return {};
+}
+
+QJsonObject Script::hide(const ScriptRequest &)
+{
+    const auto answer = session().hide();
+    if (!answer)
+        throw ScriptRefusal("no panel is on display");
+    return {{"result", *answer}};
+}
+
+QJsonObject Script::menu(const ScriptRequest &request)
+{
+    auto &menu = control<toolkit::PopUpControl>(request);
+    menu.validateItems();
+    return {{"items", itemsOf(menu)}};
+}
+
+QJsonObject Script::pick(const ScriptRequest &request)
+{
+    const int index = request.index("index");
+    auto &menu = control<toolkit::PopUpControl>(request);
+    menu.validateItems();
+    const QString name = request.string("control");
+    if (index < 0 || index >= menu.count())
+        throw ScriptRefusal(QString("%1: the menu has no item %2").arg(name).arg(index));
+    if (!menu.isItemEnabled(index))
+        throw ScriptRefusal(QString("%1: item %2 is not available").arg(name).arg(index));
+    const QJsonArray items = itemsOf(menu);
+    menu.choose(index);
+    return {{"items", items}};
+}
+
+QJsonObject Script::click(const ScriptRequest &request)
+{
+    control<toolkit::CheckControl>(request).click();
+    return {};
+}
+
+QJsonObject Script::row(const ScriptRequest &request)
+{
+    const int row = request.index("row");
+    auto &radio = control<toolkit::RadioControl>(request);
+    if (row < 0 || row >= radio.rows().size())
+        throw ScriptRefusal(QString("%1: there is no row %2").arg(request.string("control")).arg(row));
+    radio.choose(row);
+    return {};
+}
+
+QJsonObject Script::type(const ScriptRequest &request)
+{
+    const QString text = request.string("text");
+    auto &field = control<toolkit::FieldControl>(request);
+    if (!field.isEditable())
+        throw ScriptRefusal(QString("%1: the field is not editable").arg(request.string("control")));
+    field.paste(text);
+    return {};
+}
+
+QJsonObject Script::enter(const ScriptRequest &request)
+{
+    auto &field = control<toolkit::FieldControl>(request);
+    if (!field.isEditable())
+        throw ScriptRefusal(QString("%1: the field is not editable").arg(request.string("control")));
+    field.enter();
+    return {};
+}
+
+QJsonObject Script::step(const ScriptRequest &request)
+{
+    const int by = request.index("by");
+    if (by != 1 && by != -1)
+        throw ScriptRefusal("member \"by\" is neither 1 nor -1");
+    control<toolkit::StepperControl>(request).step(by);
+    return {};
+}
+
+QJsonObject Script::paper(const ScriptRequest &request)
+{
+    const auto name = request.isNull("name") ? std::nullopt : std::optional(request.string("name"));
+    session().changePaper(session().paperNamed(name, paperSize(request)));
+    return {};
+}
+
+QJsonObject Script::mark(const ScriptRequest &request)
+{
+    return {{"result", session().mark(request.string("key"), request.string("choice"))}};
+}
+
+QJsonObject Script::keys(const ScriptRequest &request)
+{
+    const auto keys = panel(request).supportedPPDOptionKeys();
+    return {{"result", keys ? QJsonValue(QJsonArray::fromStringList(*keys)) : QJsonValue()}};
+}
+
+QJsonObject Script::name(const ScriptRequest &request)
+{
+    PDEPanel &asked = panel(request);
+    return {{"result", asked.panelName()}, {"kind", asked.panelKind()}};
+}
+
+QJsonObject Script::save(const ScriptRequest &request)
+{
+    return {{"result", panel(request).saveValuesAndReturnError(nullptr)}};
+}
+
+QJsonObject Script::restore(const ScriptRequest &request)
+{
+    return {{"result", panel(request).restoreValuesAndReturnError(nullptr)}};
+}
+
+QJsonObject Script::summary(const ScriptRequest &request)
+{
+    const auto summary = panel(request).summaryInfo();
+    if (!summary)
+        return {{"result", QJsonValue()}};
+    QJsonObject result = toObject(summary->values);
+    result[kDisplayOrder] = QJsonArray::fromStringList(summary->displayOrder);
+    return {{"result", result}};
+}
+
+QJsonObject Script::print(const ScriptRequest &request)
+{
+    return {{"result", request.has("panel") ? panel(request).shouldPrint() : session().shouldPrint()}};
+}
+
+QJsonObject Script::job(const ScriptRequest &) { return {{"options", toObject(session().ppd().jobOptions())}}; }
+
+QJsonObject Script::close(const ScriptRequest &)
+{
+    session();
+    m_session.reset();
+    return {};
+}
+
+int runScript()
+{
+    // A run must not meet the user's own values, nor another run's.
+    const QTemporaryDir directory;
+    auto &defaults = foundation::UserDefaults::standard();
+    defaults.useStore(std::make_unique<QSettings>(directory.filePath("defaults.ini"), QSettings::IniFormat));
+    bool allLinesKnown = false;
+    {
+        Script script;
+        for (std::string line; std::getline(std::cin, line);) {
+            if (const auto reply = script.reply(QByteArray::fromStdString(line)))
+                std::cout << reply->constData() << std::endl; // flushed: somebody waits for it
+            QCoreApplication::processEvents();
+        }
+        allLinesKnown = script.allLinesKnown();
+    }
+    defaults.useStore(nullptr);
+    return allLinesKnown ? 0 : 2;
+}
+
+} // namespace host

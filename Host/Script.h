@@ -1,0 +1,69 @@
+// `qnprint script`: the dialog driven by lines of JSON, without a display.
+#pragma once
+
+#include "DialogSession.h"
+#include "ScriptRequest.h"
+
+#include <array>
+
+namespace host {
+
+class Script
+{
+public:
+    Script();
+    ~Script();
+
+    /// The reply to one line; nil for a line that gets none. Never fails: what can't be done is said in the reply.
+    std::optional<QByteArray> reply(const QByteArray &line);
+    /// Whether every line so far was an object with a known `do`.
+    bool allLinesKnown() const { return m_allLinesKnown; }
+
+private:
+    /// What a request does, and whether panel code may run in it.
+    struct Verb
+    {
+        const char *name;
+        QJsonObject (Script::*perform)(const ScriptRequest &);
+        bool runsPanels;
+    };
+    static const std::array<Verb, 21> kVerbs;
+
+    QJsonObject open(const ScriptRequest &);
+    QJsonObject show(const ScriptRequest &);
+    QJsonObject hide(const ScriptRequest &);
+    QJsonObject menu(const ScriptRequest &);
+    QJsonObject pick(const ScriptRequest &);
+    QJsonObject click(const ScriptRequest &);
+    QJsonObject row(const ScriptRequest &);
+    QJsonObject type(const ScriptRequest &);
+    QJsonObject enter(const ScriptRequest &);
+    QJsonObject step(const ScriptRequest &);
+    QJsonObject paper(const ScriptRequest &);
+    QJsonObject mark(const ScriptRequest &);
+    QJsonObject keys(const ScriptRequest &);
+    QJsonObject name(const ScriptRequest &);
+    QJsonObject save(const ScriptRequest &);
+    QJsonObject restore(const ScriptRequest &);
+    QJsonObject summary(const ScriptRequest &);
+    QJsonObject print(const ScriptRequest &);
+    QJsonObject job(const ScriptRequest &);
+    QJsonObject state(const ScriptRequest &);
+    QJsonObject close(const ScriptRequest &);
+
+    QJsonObject perform(const QByteArray &line);
+    DialogSession &session() const;
+    PDEPanel &panel(const ScriptRequest &request) const;
+    template <class C> C &control(const ScriptRequest &request) const;
+    QJsonArray panelIdentifiers() const;
+
+    std::unique_ptr<DialogSession> m_session;
+    QJsonArray m_marks;  // of the request at work
+    QJsonArray m_alerts; // of the request at work
+    bool m_allLinesKnown = true;
+};
+
+/// Runs a script from standard input to standard output. Exit status 0, or 2 when a line was no known request.
+int runScript();
+
+} // namespace host

@@ -1,0 +1,53 @@
+// The `state` of `qnprint script`: what panels show and what is marked.
+#include "ControlState.h"
+#include "Script.h"
+
+#include "Foundation/UserDefaults.h"
+
+namespace host {
+
+namespace {
+
+constexpr auto kPerforatedMemo = "QnPerforated";
+
+QJsonValue orNull(const std::optional<QString> &text) { return text ? QJsonValue(*text) : QJsonValue(); }
+
+QJsonObject panelState(const PDEPanelInspection &panel)
+{
+    QJsonObject selections;
+    for (const auto &[name, choice] : panel.selections())
+        selections[name] = orNull(choice);
+    QJsonObject controls;
+    if (panel.isInterfaceLoaded())
+        for (const auto &[name, widget] : panel.controls())
+            controls[name] = widget ? QJsonValue(controlState(*widget)) : QJsonValue();
+    return {{"paperName", orNull(panel.paperName())},
+            {"selections", selections},
+            {"loaded", panel.isInterfaceLoaded()},
+            {"controls", controls}};
+}
+
+} // namespace
+
+QJsonObject Script::state(const ScriptRequest &request)
+{
+    QJsonObject panels;
+    const auto add = [&](const PDEPanelInspection &shown) { panels[shown.identifier()] = panelState(shown); };
+    if (request.has("panel"))
+        add(panel(request).inspection());
+    else if (session().panels())
+        for (const auto &each : *session().panels())
+            add(each->inspection());
+
+    QJsonObject marked;
+    for (const auto &[key, value] : session().ppd().marked().asKeyValueRange())
+        marked[key] = value;
+    const auto memo = foundation::UserDefaults::standard().objectForKey(kPerforatedMemo);
+    const PDEPanel *const onDisplay = session().panelOnDisplay();
+    return {{"panels", panels},
+            {"marked", marked},
+            {"defaults", QJsonObject{{kPerforatedMemo, orNull(memo)}}},
+            {"display", onDisplay ? QJsonValue(onDisplay->inspection().identifier()) : QJsonValue()}};
+}
+
+} // namespace host

@@ -1,0 +1,39 @@
+# What the scripts share: packages and builds. Sourced, not run.
+
+build_packages=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev
+    libgl1-mesa-dev libcups2-dev fonts-dejavu-core)
+test_packages=(libgtest-dev cups-daemon cups-client cups-ipp-utils fonts-noto-cjk)
+
+say() { printf '%s\n' "$*"; }
+
+# Installs what is missing; says nothing when nothing is.
+install_packages() {
+    local missing=()
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    if ! command -v apt-get >/dev/null; then
+        say "Not a Debian machine: please install the counterparts of: ${missing[*]}"
+        return
+    fi
+    local sudo=()
+    [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+    say "Installing: ${missing[*]}"
+    "${sudo[@]}" apt-get update -qq
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures and builds a preset; shows the compiler's words only when it fails.
+build_preset() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        say "Configuring ($preset)"
+        cmake --preset "$preset" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; return 1; }
+    fi
+    cmake --build "build/$preset" -- -n "$@" 2>/dev/null | grep -q 'no work to do' || say "Building ($preset)"
+    cmake --build "build/$preset" -- "$@" >"$log" 2>&1 || { cat "$log"; rm -f "$log"; return 1; }
+    rm -f "$log"
+}
