@@ -81,10 +81,10 @@ std::optional<CommandLine> readCommandLine(const QStringList &arguments, const Q
         std::cout << "qnprint " QN_VERSION << std::endl;
         return std::nullopt;
     }
-    CommandLine line{parser.positionalArguments(), parser.value("destination"), parser.value("ppd"),
-                     parser.value("output"),       parser.value("title"),       parser.value("panel"),
-                     parser.value("language"),     {},                          parser.value("n").toInt(),
-                     parser.isSet("no-dialog")};
+    CommandLine line{
+        parser.positionalArguments(), parser.value("destination"), parser.value("ppd"),      parser.value("output"),
+        parser.value("title"),        parser.value("panel"),       parser.value("language"), {},
+        parser.value("n").toInt(),    parser.isSet("no-dialog")};
     if (line.copies < 1 || line.copies > kMostCopies)
         return wrongUse(QString("-n %1: not a number from 1 to %2").arg(parser.value("n")).arg(kMostCopies));
     if (!line.ppd.isEmpty() && !line.queue.isEmpty())

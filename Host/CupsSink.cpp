@@ -9,7 +9,10 @@ namespace {
 struct Options
 {
     ~Options() { cupsFreeOptions(count, list); }
-    void add(const char *name, const QString &value) { count = cupsAddOption(name, value.toUtf8().constData(), count, &list); }
+    void add(const char *name, const QString &value)
+    {
+        count = cupsAddOption(name, value.toUtf8().constData(), count, &list);
+    }
 
     int count = 0;
     cups_option_t *list = nullptr;
@@ -28,7 +31,8 @@ std::optional<QString> stream(http_t *http, Document &document, const JobProgres
             return document.title() + ": can't be read any more";
         if (part->isEmpty())
             return std::nullopt;
-        if (cupsWriteRequestData(http, part->constData(), static_cast<std::size_t>(part->size())) != HTTP_STATUS_CONTINUE)
+        if (cupsWriteRequestData(http, part->constData(), static_cast<std::size_t>(part->size())) !=
+            HTTP_STATUS_CONTINUE)
             return lastError();
         done += part->size();
         if (!progress(done, document.size()))
@@ -59,8 +63,8 @@ JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
 
     int id = 0;
     const QByteArray title = job.title.toUtf8();
-    if (cupsCreateDestJob(http.get(), destination.get(), info.get(), &id, title.constData(), options.count, options.list) >
-        IPP_STATUS_OK_CONFLICTING)
+    if (cupsCreateDestJob(http.get(), destination.get(), info.get(), &id, title.constData(), options.count,
+                          options.list) > IPP_STATUS_OK_CONFLICTING)
         return failed(lastError());
     std::optional<QString> reason;
     if (cupsStartDestDocument(http.get(), destination.get(), info.get(), id, title.constData(),

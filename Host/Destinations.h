@@ -33,7 +33,9 @@ HttpConnection connectToServer();
 class FileToRemove
 {
 public:
-    explicit FileToRemove(QString path) : m_path(std::move(path)) {}
+    explicit FileToRemove(QString path)
+        : m_path(std::move(path))
+    {}
     ~FileToRemove() { QFile::remove(m_path); }
     FileToRemove(const FileToRemove &) = delete;
     FileToRemove &operator=(const FileToRemove &) = delete;

@@ -23,22 +23,22 @@ public:
     struct Parameters
     {
         QString ppdPath;
-        std::optional<QString> uri;        // of the printer; nil when it has none
+        std::optional<QString> uri; // of the printer; nil when it has none
         /// Outer nil: the PPD's default page size; inner nil: the settings hold no paper name.
         std::optional<std::optional<QString>> paperName;
         std::optional<printing::Paper> paperSize; // nil: the PPD's size of that name
-        OptionValues defaults;             // the user's own
-        std::optional<QString> bundlePath; // nil: the bundle that the PPD names, or the first one there is
-        QString localization = "en";       // of the bundle
+        OptionValues defaults;                    // the user's own
+        std::optional<QString> bundlePath;        // nil: the bundle that the PPD names, or the first one there is
+        QString localization = "en";              // of the bundle
         QString panelType = kPDEPrintingOptionsType;
     };
 
-    /// What `start` prepares. Preparing shows a panel once, unseen, so that its first display, which writes its declared
-    /// defaults, never undoes a choice made since.
+    /// What `start` prepares. Preparing shows a panel once, unseen, so that its first display, which writes its
+    /// declared defaults, never undoes a choice made since.
     enum class Prepare { nothing, firstPanel, everyPanel };
 
-    /// Does all that can fail: opens the PPD and loads the bundle. Null, with one sentence, when one of them can't serve.
-    /// Nothing of an earlier session is touched.
+    /// Does all that can fail: opens the PPD and loads the bundle. Null, with one sentence, when one of them can't
+    /// serve. Nothing of an earlier session is touched.
     static std::unique_ptr<DialogSession> open(const Parameters &parameters, QString *error);
 
     /// Creates the principal object and its panels. No other session may be alive any more.

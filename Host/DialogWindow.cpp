@@ -67,7 +67,7 @@ DialogWindow::~DialogWindow()
     if (m_stop)
         m_stop->store(true);
     QThreadPool::globalInstance()->waitForDone(); // a job being sent holds document and sink
-    m_session.reset(); // and with it the panels' views, before their parents go
+    m_session.reset();                            // and with it the panels' views, before their parents go
 }
 
 void DialogWindow::layOut()
@@ -210,7 +210,8 @@ void DialogWindow::print()
             QMetaObject::invokeMethod(m_progress, "setValue", Qt::QueuedConnection, Q_ARG(int, percent));
             return !stop->load();
         });
-        QMetaObject::invokeMethod(this, [this, result] { finish(result); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, result] { finish(result); }, Qt::QueuedConnection);
     });
 }
 
@@ -230,9 +231,9 @@ void DialogWindow::setSending(bool sending)
     m_stop = sending ? std::make_shared<std::atomic<bool>>(false) : nullptr;
     m_progress->setValue(0);
     m_progress->setVisible(sending);
-    for (QWidget *part : {static_cast<QWidget *>(m_printers), static_cast<QWidget *>(m_paper),
-                          static_cast<QWidget *>(m_copies), static_cast<QWidget *>(m_tabs), m_panelSpace,
-                          static_cast<QWidget *>(m_print)})
+    for (QWidget *part :
+         {static_cast<QWidget *>(m_printers), static_cast<QWidget *>(m_paper), static_cast<QWidget *>(m_copies),
+          static_cast<QWidget *>(m_tabs), m_panelSpace, static_cast<QWidget *>(m_print)})
         part->setEnabled(!sending);
 }
 

@@ -27,7 +27,7 @@ struct Format
 };
 
 constexpr std::array kFormats{
-    Format{"%PDF-", "application/pdf", "pdf"}, Format{"\x89PNG", "image/png", "png"},
+    Format{"%PDF-", "application/pdf", "pdf"},   Format{"\x89PNG", "image/png", "png"},
     Format{"\xff\xd8\xff", "image/jpeg", "jpg"}, Format{"GIF8", "image/gif", "gif"},
     Format{"II*", "image/tiff", "tif"},          Format{"MM", "image/tiff", "tif"},
 };

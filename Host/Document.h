@@ -30,7 +30,10 @@ public:
     void rewind() { m_file->seek(0); }
 
 private:
-    Document(QString title, std::unique_ptr<QFile> file) : m_title(std::move(title)), m_file(std::move(file)) {}
+    Document(QString title, std::unique_ptr<QFile> file)
+        : m_title(std::move(title))
+        , m_file(std::move(file))
+    {}
     bool recognise();
 
     QString m_title;

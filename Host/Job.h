@@ -38,7 +38,9 @@ public:
 class FolderSink final : public JobSink
 {
 public:
-    explicit FolderSink(QString folder) : m_folder(std::move(folder)) {}
+    explicit FolderSink(QString folder)
+        : m_folder(std::move(folder))
+    {}
     Result submit(const Job &job, const JobProgress &progress) override;
 
 private:
@@ -49,7 +51,9 @@ private:
 class CupsSink final : public JobSink
 {
 public:
-    explicit CupsSink(QString queue) : m_queue(std::move(queue)) {}
+    explicit CupsSink(QString queue)
+        : m_queue(std::move(queue))
+    {}
     Result submit(const Job &job, const JobProgress &progress) override;
 
 private:

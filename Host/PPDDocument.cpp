@@ -90,7 +90,8 @@ std::unique_ptr<PPDDocument> PPDDocument::open(const QString &path, QString *err
     return std::unique_ptr<PPDDocument>(new PPDDocument(std::move(file)));
 }
 
-PPDDocument::PPDDocument(printing::PPDFile file) : m_file(std::move(file))
+PPDDocument::PPDDocument(printing::PPDFile file)
+    : m_file(std::move(file))
 {
     for (int i = 0; i < m_file->num_groups; ++i)
         collectOptions(m_file->groups[i], m_options);

@@ -54,7 +54,8 @@ public:
 
     /// Every option with a marked choice; custom values as "Custom.<value>".
     OptionValues marked() const;
-    /// What a job has to say: every choice that is not the PPD's own default as the file declared it, and the page size.
+    /// What a job has to say: every choice that is not the PPD's own default as the file declared it, and the page
+    /// size.
     OptionValues jobOptions() const;
 
     QString pageSizeName() const; // marked; empty when none is
@@ -80,8 +81,8 @@ private:
     QString markedValue(const ppd_option_t &option, bool forPeople) const;
 
     printing::PPDFile m_file;
-    std::vector<ppd_option_t *> m_options;             // in PPD order
-    std::vector<QByteArray> m_declaredDefaults;        // beside m_options
+    std::vector<ppd_option_t *> m_options;               // in PPD order
+    std::vector<QByteArray> m_declaredDefaults;          // beside m_options
     QHash<const ppd_option_t *, QString> m_customValues; // as they were asked for
 };
 

@@ -82,7 +82,8 @@ std::optional<ChosenPaper> PaperChooser::chosen() const
         return std::nullopt;
     const QString name = m_names->currentData().toString();
     if (name == kUserDefinedPaper)
-        return ChosenPaper{name, printing::Paper{m_width->value() * m_pointsPerUnit, m_height->value() * m_pointsPerUnit}};
+        return ChosenPaper{name,
+                           printing::Paper{m_width->value() * m_pointsPerUnit, m_height->value() * m_pointsPerUnit}};
     return ChosenPaper{name, m_sizes[static_cast<std::size_t>(m_names->currentIndex())].paper};
 }
 

@@ -93,14 +93,18 @@ int printWithoutWindow(const CommandLine &line, Document &document)
 class QueueSupply : public QObject
 {
 public:
-    QueueSupply(const CommandLine &line, DialogWindow &window) : QObject(&window), m_line(line), m_window(window)
+    QueueSupply(const CommandLine &line, DialogWindow &window)
+        : QObject(&window)
+        , m_line(line)
+        , m_window(window)
     {
         connect(&window, &DialogWindow::printerChosen, this, &QueueSupply::fetch);
         m_window.say(tr("Looking for printers…"));
         fetch(line.queue);
         QThreadPool::globalInstance()->start([this] {
             const QueueNames found = queueNames();
-            QMetaObject::invokeMethod(this, [this, found] { offer(found); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, found] { offer(found); }, Qt::QueuedConnection);
         });
     }
 
@@ -137,7 +141,8 @@ private:
         m_window.usePrinter(std::move(printer->session), std::move(printer->sink));
         QThreadPool::globalInstance()->start([this] {
             const QueueNames found = queueNames();
-            QMetaObject::invokeMethod(this, [this, found] { offer(found); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, found] { offer(found); }, Qt::QueuedConnection);
         });
     }
 

@@ -107,13 +107,13 @@ DialogSession::Parameters parameters(const ScriptRequest &request)
 
 // `job` and `state` only tell what the host knows; every other request may run the panels' code.
 const std::array<Script::Verb, 21> Script::kVerbs{{
-    {"open", &Script::open, true},       {"show", &Script::show, true},     {"hide", &Script::hide, true},
-    {"menu", &Script::menu, true},       {"pick", &Script::pick, true},     {"click", &Script::click, true},
-    {"row", &Script::row, true},         {"type", &Script::type, true},     {"enter", &Script::enter, true},
-    {"step", &Script::step, true},       {"paper", &Script::paper, true},   {"mark", &Script::mark, true},
-    {"keys", &Script::keys, true},       {"name", &Script::name, true},     {"save", &Script::save, true},
+    {"open", &Script::open, true},       {"show", &Script::show, true},       {"hide", &Script::hide, true},
+    {"menu", &Script::menu, true},       {"pick", &Script::pick, true},       {"click", &Script::click, true},
+    {"row", &Script::row, true},         {"type", &Script::type, true},       {"enter", &Script::enter, true},
+    {"step", &Script::step, true},       {"paper", &Script::paper, true},     {"mark", &Script::mark, true},
+    {"keys", &Script::keys, true},       {"name", &Script::name, true},       {"save", &Script::save, true},
     {"restore", &Script::restore, true}, {"summary", &Script::summary, true}, {"print", &Script::print, true},
-    {"job", &Script::job, false},        {"state", &Script::state, false},  {"close", &Script::close, true},
+    {"job", &Script::job, false},        {"state", &Script::state, false},    {"close", &Script::close, true},
 }};
 
 Script::Script()
@@ -187,7 +187,8 @@ PDEPanel &Script::panel(const ScriptRequest &request) const
 }
 
 /// The control of a request, of the kind that the request is for, and such that a person could use it.
-template <class C> C &Script::control(const ScriptRequest &request) const
+template <class C>
+C &Script::control(const ScriptRequest &request) const
 {
     PDEPanel &owner = panel(request);
     const QString name = request.string("control");

@@ -54,7 +54,8 @@ private:
     QJsonObject perform(const QByteArray &line);
     DialogSession &session() const;
     PDEPanel &panel(const ScriptRequest &request) const;
-    template <class C> C &control(const ScriptRequest &request) const;
+    template <class C>
+    C &control(const ScriptRequest &request) const;
     QJsonArray panelIdentifiers() const;
 
     std::unique_ptr<DialogSession> m_session;

@@ -29,8 +29,7 @@ double ScriptRequest::number(const char *member) const
 int ScriptRequest::index(const char *member) const
 {
     const double number = value(member).toDouble(0.5);
-    if (!value(member).isDouble() || number != std::floor(number) ||
-        std::abs(number) > std::numeric_limits<int>::max())
+    if (!value(member).isDouble() || number != std::floor(number) || std::abs(number) > std::numeric_limits<int>::max())
         refuse(member, "a whole number");
     return static_cast<int>(number);
 }

@@ -14,13 +14,17 @@ namespace host {
 class ScriptRefusal : public std::runtime_error
 {
 public:
-    explicit ScriptRefusal(const QString &sentence) : std::runtime_error(sentence.toStdString()) {}
+    explicit ScriptRefusal(const QString &sentence)
+        : std::runtime_error(sentence.toStdString())
+    {}
 };
 
 class ScriptRequest
 {
 public:
-    explicit ScriptRequest(QJsonObject object) : m_object(std::move(object)) {}
+    explicit ScriptRequest(QJsonObject object)
+        : m_object(std::move(object))
+    {}
 
     bool has(const char *member) const { return m_object.contains(QLatin1String(member)); }
     bool isNull(const char *member) const { return has(member) && value(member).isNull(); }

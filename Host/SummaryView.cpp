@@ -11,7 +11,8 @@ constexpr int kRowPadding = 5;
 
 } // namespace
 
-SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent)
+SummaryView::SummaryView(QWidget *parent)
+    : QTreeWidget(parent)
 {
     setColumnCount(2);
     setHeaderHidden(true);

@@ -55,8 +55,8 @@ public:
     /// The PPD's file version; nil when there is no PPD or it names none.
     std::optional<QString> fileVerString() const;
 
-    /// Marks the choice at an index through the host and reads back what is marked. Null, and nothing marked, for nil, for
-    /// an index beyond the list and for an empty list.
+    /// Marks the choice at an index through the host and reads back what is marked. Null, and nothing marked, for nil,
+    /// for an index beyond the list and for an empty list.
     const PDEChoice *selectionForItem(std::uint64_t item, const QString &key, const std::optional<ChoiceList> &choices,
                                       PDEItemFlags itemType);
 

@@ -13,7 +13,9 @@ class QNKVPageSettings15PlugIn_v100_ final : public PDEPlugIn
 {
 public:
     /// The makers stand in the order of the panels; the panels themselves live a floor above.
-    explicit QNKVPageSettings15PlugIn_v100_(std::span<const PDEPanelMaker> makers) : mMakers(makers) {}
+    explicit QNKVPageSettings15PlugIn_v100_(std::span<const PDEPanelMaker> makers)
+        : mMakers(makers)
+    {}
 
     bool initWithBundle(const foundation::Bundle &bundle) override;
     const PDEPanels *PDEPanelsForType(const QString &type, PDEPluginCallback_v100_ &callback) override;

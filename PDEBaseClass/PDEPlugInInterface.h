@@ -47,9 +47,9 @@ public:
     virtual const printing::Printer *PMPrinter() const = 0;
     virtual ppd_file_t *ppdFile() const = 0; // open; panels neither close it nor mark choices in it
 
-    /// Marks a choice: the only way for a panel to change one. `choice` is a choice's keyword, or a number for an option
-    /// with a custom option. False when nothing could be marked. Every option whose marked choice is then another than
-    /// before is reported to all panels before this returns.
+    /// Marks a choice: the only way for a panel to change one. `choice` is a choice's keyword, or a number for an
+    /// option with a custom option. False when nothing could be marked. Every option whose marked choice is then
+    /// another than before is reported to all panels before this returns.
     virtual bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) = 0;
 };
 

@@ -141,7 +141,8 @@ void PrintSettingPDE_v100_::stepInches(const QString &text, double stepped)
     inch += 0.1; // not what the new text is made from; kept so
 
     if (stepped > kPaperFeedMax)
-        return showTextAndStepper(kLargestInchesText); // not the PPD's maximum: in millimetres it is, here deliberately not
+        return showTextAndStepper(
+            kLargestInchesText); // not the PPD's maximum: in millimetres it is, here deliberately not
     if (stepped != 0.1 && text.isEmpty() && stepped != 1.0)
         return showTextAndStepper(QString());
     if (stepped == 0.1 && !text.isEmpty())
@@ -170,14 +171,14 @@ bool PrintSettingPDE_v100_::shouldShowAlert() const
     const QString text = mPaperFeedTxt.stringValue().value_or(QString());
     const double amount = mPaperFeedTxt.doubleValue();
     // The order of these tests is kept, and with it those that an earlier one makes needless.
-    const bool refused =
-        isInMillimetres()
-            ? amount < kSmallestMillimetres || last(text) == "." || first(text) == "0" ||
-                  (first(text) == "0" && amount >= 1.0) || (first(text) == "0" && amount >= kLargestMillimetres) ||
-                  amount > kLargestMillimetres || amount < kSmallestMillimetres
-            : amount < kSmallestInches || last(text) == "." || first(text) == "." ||
-                  (first(text) == "0" && amount >= 1.0) || (first(text) == "0" && amount >= kLargestInches) ||
-                  amount > kLargestInches || amount < kSmallestInches;
+    const bool refused = isInMillimetres() ? amount < kSmallestMillimetres || last(text) == "." || first(text) == "0" ||
+                                                 (first(text) == "0" && amount >= 1.0) ||
+                                                 (first(text) == "0" && amount >= kLargestMillimetres) ||
+                                                 amount > kLargestMillimetres || amount < kSmallestMillimetres
+                                           : amount < kSmallestInches || last(text) == "." || first(text) == "." ||
+                                                 (first(text) == "0" && amount >= 1.0) ||
+                                                 (first(text) == "0" && amount >= kLargestInches) ||
+                                                 amount > kLargestInches || amount < kSmallestInches;
     if (refused)
         showAlert();
     return !refused;

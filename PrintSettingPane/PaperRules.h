@@ -103,15 +103,19 @@ constexpr bool holds(When when, int formFeed, int perforated)
 struct Correction
 {
     bool (*isWrong)(int formFeed);
-    int formFeed;              // the item selected instead
-    bool enablesPerforated1;   // together with that move
-    bool clearsPerforated1;    // PF 1 becomes PF 0
+    int formFeed;            // the item selected instead
+    bool enablesPerforated1; // together with that move
+    bool clearsPerforated1;  // PF 1 becomes PF 0
 };
 
 namespace rows {
 constexpr bool is3(int item) { return item == 3; }
 constexpr bool is2or3(int item) { return item == 2 || item == 3; }
-template <int N> constexpr bool isNot(int item) { return item != N; }
+template <int N>
+constexpr bool isNot(int item)
+{
+    return item != N;
+}
 
 inline constexpr std::array<Correction, kGroups> kCorrections{{
     // clang-format off

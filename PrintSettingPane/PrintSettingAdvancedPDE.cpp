@@ -5,9 +5,9 @@
 
 namespace {
 
-constexpr std::array<PDEItemFlags, 9> kRefreshOrder{
-    kPDEItem_Density,  kPDEItem_Media,    kPDEItem_FormFeedMode, kPDEItem_PaperFeed, kPDEItem_Perforated,
-    kPDEItem_Halftone, kPDEItem_Reversal, kPDEItem_Mirror,       kPDEItem_BiDiPrint};
+constexpr std::array<PDEItemFlags, 9> kRefreshOrder{kPDEItem_Density,   kPDEItem_Media,      kPDEItem_FormFeedMode,
+                                                    kPDEItem_PaperFeed, kPDEItem_Perforated, kPDEItem_Halftone,
+                                                    kPDEItem_Reversal,  kPDEItem_Mirror,     kPDEItem_BiDiPrint};
 
 /// The basic panel claims the others, although this one saves the perforated choice too.
 constexpr std::array kClaimed{OptionId::density,  OptionId::speed,  OptionId::halftone,
@@ -17,9 +17,9 @@ constexpr std::array kClaimed{OptionId::density,  OptionId::speed,  OptionId::ha
 
 PrintSettingAdvancedPDE_v100_::PrintSettingAdvancedPDE_v100_()
 {
-    mControlFields.insert(mControlFields.end(), {{"mSpeedStr", &mSpeedStr},
-                                                 {"mSpeedPopUp", &mSpeedPopUp},
-                                                 {"mPerforatedChkBx", &mPerforatedChkBx}});
+    mControlFields.insert(
+        mControlFields.end(),
+        {{"mSpeedStr", &mSpeedStr}, {"mSpeedPopUp", &mSpeedPopUp}, {"mPerforatedChkBx", &mPerforatedChkBx}});
 }
 
 PrintSettingAdvancedPDE_v100_::~PrintSettingAdvancedPDE_v100_() { delete kAdvPDEView; }

@@ -49,8 +49,7 @@ toolkit::PopUpButton *PrintSettingPDE_v100_::popUpOf(OptionId id)
 std::vector<PDEPanelInspection::Selection> PrintSettingPDE_v100_::selections() const
 {
     auto result = SharedSettingsPDE::selections();
-    result.push_back({"mRollPrint_Selection",
-                      mRollPrint_Selection ? mRollPrint_Selection->ppdTitle() : std::nullopt});
+    result.push_back({"mRollPrint_Selection", mRollPrint_Selection ? mRollPrint_Selection->ppdTitle() : std::nullopt});
     return result;
 }
 

@@ -16,10 +16,7 @@ void PrintSettingPDE_v100_::changeDensity()
     pick(OptionId::density, mDensityPopUp.indexOfSelectedItem(), kPDEItem_Density);
 }
 
-void PrintSettingPDE_v100_::changeMedia()
-{
-    pick(OptionId::media, mMediaPopUp.indexOfSelectedItem(), kPDEItem_Media);
-}
+void PrintSettingPDE_v100_::changeMedia() { pick(OptionId::media, mMediaPopUp.indexOfSelectedItem(), kPDEItem_Media); }
 
 void PrintSettingPDE_v100_::changeRollPrint()
 {

@@ -114,10 +114,7 @@ void PrintSettingPDE_v100_::saveSetting_Media() { savePopUp(OptionId::media, mMe
 
 void PrintSettingPDE_v100_::saveSetting_Perforated() { savePopUp(OptionId::perforated, mPerforatedPopUp); }
 
-void PrintSettingPDE_v100_::saveSetting_FormFeedMode()
-{
-    savePopUpOfPaper(OptionId::formFeedMode, mFormFeedModePopUp);
-}
+void PrintSettingPDE_v100_::saveSetting_FormFeedMode() { savePopUpOfPaper(OptionId::formFeedMode, mFormFeedModePopUp); }
 
 void PrintSettingPDE_v100_::saveSetting_RollPrint() { savePopUpOfPaper(OptionId::rollPrint, mRollPrintPopUp); }
 

@@ -48,8 +48,7 @@ void SharedSettingsPDE::selectItem_Adjust()
 void SharedSettingsPDE::saveSetting_PaperSize()
 {
     set_paperName = readPaperName();
-    pdePluginCallbackObject->willChangePPDOptionKeyValue("QnPaperSizeType",
-                                                         paper::availability(paperGroup()).sizeType);
+    pdePluginCallbackObject->willChangePPDOptionKeyValue("QnPaperSizeType", paper::availability(paperGroup()).sizeType);
 }
 
 bool SharedSettingsPDE::validateMenuItem(const toolkit::MenuItem &item)

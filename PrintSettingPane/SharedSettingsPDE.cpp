@@ -235,7 +235,8 @@ int SharedSettingsPDE::indexOfSelection(OptionId id)
     const auto fields = fieldsOf(id);
     if (!fields || !fields->selection || !fields->choices)
         return -1;
-    const auto found = std::ranges::find_if(*fields->choices, [&](const PDEChoice &c) { return &c == fields->selection; });
+    const auto found =
+        std::ranges::find_if(*fields->choices, [&](const PDEChoice &c) { return &c == fields->selection; });
     return found == fields->choices->end() ? -1 : static_cast<int>(found - fields->choices->begin());
 }
 

@@ -131,7 +131,7 @@ protected:
                     *mFormFeedMode_Selection = nullptr, *mPaperFeed_Selection = nullptr,
                     *mPerforated_Selection = nullptr, *mHalftone_Selection = nullptr,
                     *mOption_Selection = nullptr, // of the option group as a whole; never set
-        *mReversal_Selection = nullptr, *mMirror_Selection = nullptr, *mBiDiPrint_Selection = nullptr;
+                        *mReversal_Selection = nullptr, *mMirror_Selection = nullptr, *mBiDiPrint_Selection = nullptr;
 
     bool usb_dec = false;           // the printer is connected by USB
     bool set_formatSetting = false; // the first display is done

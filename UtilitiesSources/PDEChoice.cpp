@@ -32,12 +32,9 @@ QString PDEChoice::description() const
 {
     const ppd_option_t &option = *mChoice->option;
     const auto text = [](const std::optional<QString> &title) { return title.value_or("(null)"); };
-    const std::array<foundation::LogArgument, 7> arguments{"PDEChoice",
-                                                           static_cast<const void *>(this),
-                                                           text(userTitle()),
-                                                           text(ppdTitle()),
-                                                           mChoice->marked ? "YES" : "NO",
-                                                           static_cast<int>(mChoice - option.choices) + 1,
-                                                           option.num_choices};
+    const std::array<foundation::LogArgument, 7> arguments{
+        "PDEChoice",       static_cast<const void *>(this), text(userTitle()),
+        text(ppdTitle()),  mChoice->marked ? "YES" : "NO",  static_cast<int>(mChoice - option.choices) + 1,
+        option.num_choices};
     return foundation::formattedString(R"(<%@ %p userTitle:"%@" ppdTitle:"%@" marked:%s choice:%i of %i>)", arguments);
 }

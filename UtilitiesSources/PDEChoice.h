@@ -28,7 +28,9 @@ public:
     QString description() const;
 
 private:
-    explicit PDEChoice(ppd_choice_t *choice) : mChoice(choice) {}
+    explicit PDEChoice(ppd_choice_t *choice)
+        : mChoice(choice)
+    {}
 
     mutable std::optional<QString> mUserTitle;
     mutable std::optional<QString> mPPDTitle;

@@ -25,7 +25,8 @@ QString systemString(const char *bytes)
 
 /// A flag byte read as the start of a text: a record's name follows its flag, so a raised flag shows as a character and
 /// that name, a flag that is not raised as nothing. Kept so, because people know the dump by it.
-template <class Record> QString flagAsString(const Record &record)
+template <class Record>
+QString flagAsString(const Record &record)
 {
     return systemString(reinterpret_cast<const char *>(&record));
 }

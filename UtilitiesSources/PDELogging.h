@@ -24,6 +24,6 @@ QString Format(const std::optional<QString> &object, const QString &tag, const Q
 /// Dumps one option. Null arguments are told; an option that the PPD lacks gives no line.
 void PDELog_ppd_option_t(ppd_file_t *ppd, const char *ppdOptionName);
 
-/// Writes the settings as a property list to /QnPDE_<name>.plist. Does nothing without settings or name, and deliberately
-/// does not report a root directory that can't be written.
+/// Writes the settings as a property list to /QnPDE_<name>.plist. Does nothing without settings or name, and
+/// deliberately does not report a root directory that can't be written.
 void PDELog_PMPrintSettings_WriteToFile(const printing::Settings *settings, const std::optional<QString> &name);

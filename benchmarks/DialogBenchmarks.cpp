@@ -10,8 +10,8 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPixmap>
-#include <QRadioButton>
 #include <QProcess>
+#include <QRadioButton>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -57,7 +57,8 @@ std::unique_ptr<DialogSession> open(const QString &ppd, DialogSession::Prepare p
     return session;
 }
 
-template <class Control> Control &find(DialogSession &session, const QString &panel, const QString &name)
+template <class Control>
+Control &find(DialogSession &session, const QString &panel, const QString &name)
 {
     for (const auto &control : session.panel(panel)->inspection().controls())
         if (control.name == name)
@@ -162,7 +163,8 @@ constexpr std::array kPPDs{0, 1}; // 0: the example, 1: the large one
 
 } // namespace
 
-#define QN_BENCHMARK(name) BENCHMARK(name)->ArgName("large")->Arg(kPPDs[0])->Arg(kPPDs[1])->Unit(benchmark::kMicrosecond)
+#define QN_BENCHMARK(name)                                                                                             \
+    BENCHMARK(name)->ArgName("large")->Arg(kPPDs[0])->Arg(kPPDs[1])->Unit(benchmark::kMicrosecond)
 QN_BENCHMARK(openSession);
 QN_BENCHMARK(openSessionWithFirstPanelOnly);
 QN_BENCHMARK(firstShow);

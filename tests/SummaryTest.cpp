@@ -51,8 +51,7 @@ struct FallbackTitle
 };
 
 class FallbackTitles : public Summary, public testing::WithParamInterface<FallbackTitle>
-{
-};
+{};
 
 TEST_P(FallbackTitles, NameAnOptionWhoseTextIsNotUTF8)
 {
@@ -64,18 +63,19 @@ TEST_P(FallbackTitles, NameAnOptionWhoseTextIsNotUTF8)
     EXPECT_EQ(order(summary("basic")), QStringList(GetParam().title));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    EachOption, FallbackTitles,
-    testing::Values(FallbackTitle{"QnDensity", "RS_STitle_Density"}, FallbackTitle{"QnSpeed", "RS_Speed"},
-                    FallbackTitle{"QnMedia", "RS_STitle_Media"},
-                    FallbackTitle{"QnFormFeedMode", "RS_STitle_FormFeedMode"},
-                    FallbackTitle{"QnPaperFeed", "RS_STitle_PaperFeed"},
-                    FallbackTitle{"QnPerforated", "RS_STitle_Perforated"},
-                    FallbackTitle{"QnHalftonePattern", "HC_STitle_Halftone"},
-                    FallbackTitle{"QnRollPrinterCase", "HC_STitle_RollPrint"},
-                    FallbackTitle{"QnReversal", "HC_STitle_Reversal"}, FallbackTitle{"QnMirror", "HC_STitle_Mirror"},
-                    FallbackTitle{"QnBiDiPrint", "HC_STitle_BiDiPrint"}),
-    [](const auto &row) { return std::string(row.param.option); });
+INSTANTIATE_TEST_SUITE_P(EachOption, FallbackTitles,
+                         testing::Values(FallbackTitle{"QnDensity", "RS_STitle_Density"},
+                                         FallbackTitle{"QnSpeed", "RS_Speed"},
+                                         FallbackTitle{"QnMedia", "RS_STitle_Media"},
+                                         FallbackTitle{"QnFormFeedMode", "RS_STitle_FormFeedMode"},
+                                         FallbackTitle{"QnPaperFeed", "RS_STitle_PaperFeed"},
+                                         FallbackTitle{"QnPerforated", "RS_STitle_Perforated"},
+                                         FallbackTitle{"QnHalftonePattern", "HC_STitle_Halftone"},
+                                         FallbackTitle{"QnRollPrinterCase", "HC_STitle_RollPrint"},
+                                         FallbackTitle{"QnReversal", "HC_STitle_Reversal"},
+                                         FallbackTitle{"QnMirror", "HC_STitle_Mirror"},
+                                         FallbackTitle{"QnBiDiPrint", "HC_STitle_BiDiPrint"}),
+                         [](const auto &row) { return std::string(row.param.option); });
 
 struct IndexKeys
 {
@@ -93,8 +93,8 @@ protected:
         PPDText::Choices choices;
         for (int i = 0; i < GetParam().withText.size() + 1; ++i)
             choices.emplace_back("C" + QByteArray::number(i), textOfChoices + QByteArray::number(i));
-        open(PPDText().option(GetParam().option, "Title", "C0", choices).attribute("QnBiDiPrintObjHidden", "False"), "A4",
-             kUSB);
+        open(PPDText().option(GetParam().option, "Title", "C0", choices).attribute("QnBiDiPrintObjHidden", "False"),
+             "A4", kUSB);
     }
 };
 
@@ -138,15 +138,23 @@ const QStringList kHalftones{"HC_Binary", "HC_Dither", "HC_ErrorDiffusion"};
 INSTANTIATE_TEST_SUITE_P(
     EachOption, ValuesByIndex,
     testing::Values(
-        IndexKeys{"QnDensity", "RS_STitle_Density", numbered(12),
+        IndexKeys{"QnDensity",
+                  "RS_STitle_Density",
+                  numbered(12),
                   {"RS_Density_home", "RS_Density_0", "RS_Density_1", "RS_Density_2", "RS_Density_3", "RS_Density_4",
                    "RS_Density_5", "RS_Density_6", "RS_Density_7", "RS_Density_8", "RS_Density_9", "RS_Density_10"}},
-        IndexKeys{"QnSpeed", "RS_Speed", numbered(5),
+        IndexKeys{"QnSpeed",
+                  "RS_Speed",
+                  numbered(5),
                   {"RS_Speed_home", "RS_Speed_0", "RS_Speed_1", "RS_Speed_2", "RS_Speed_3"}},
         IndexKeys{"QnMedia", "", numbered(2), {"RS_Media_Thermal", "RS_Media_ThermalCopy"}},
-        IndexKeys{"QnFormFeedMode", "", numbered(4),
+        IndexKeys{"QnFormFeedMode",
+                  "",
+                  numbered(4),
                   {"RS_FormFeedMode_NO", "RS_FormFeedMode_FIX", "RS_FormFeedMode_END", "RS_FormFeedMode_RET"}},
-        IndexKeys{"QnPaperFeed", "", numbered(5),
+        IndexKeys{"QnPaperFeed",
+                  "",
+                  numbered(5),
                   {"RS_PaperFeed_NO", "RS_PaperFeed_1/2", "RS_PaperFeed_1", "RS_PaperFeed_1-1/2", "RS_PaperFeed_2"}},
         IndexKeys{"QnPerforated", "", numbered(2), {"RS_Perforated_ON", "RS_Perforated_OFF"}}, // on first, on purpose
         IndexKeys{"QnHalftonePattern", "", kHalftones, kHalftones}, IndexKeys{"QnRollPrinterCase", "", kNoYes, kNoYes},
@@ -178,7 +186,10 @@ TEST_F(Summary, OmitsModelAndVersionThatAreEmpty)
 
 TEST_F(Summary, KeepsAnEmptyTitleInTheOrder)
 {
-    open(PPDText().line("*OpenUI *QnMedia/ : PickOne").line("*DefaultQnMedia: A").line("*QnMedia A/Alpha: \"x\"")
+    open(PPDText()
+             .line("*OpenUI *QnMedia/ : PickOne")
+             .line("*DefaultQnMedia: A")
+             .line("*QnMedia A/Alpha: \"x\"")
              .line("*CloseUI: *QnMedia"));
     const QJsonObject entries = summary("basic");
     ASSERT_EQ(order(entries).size(), 1);
@@ -218,8 +229,7 @@ struct MirrorRow
 };
 
 class MirrorEntry : public Summary, public testing::WithParamInterface<MirrorRow>
-{
-};
+{};
 
 TEST_P(MirrorEntry, DependsOnTheSystem)
 {
@@ -240,8 +250,7 @@ struct BiDiRow
 };
 
 class BiDiEntry : public Summary, public testing::WithParamInterface<BiDiRow>
-{
-};
+{};
 
 TEST_P(BiDiEntry, NeedsUSBAndAFlagThatSaysFalse)
 {

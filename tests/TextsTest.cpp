@@ -1,5 +1,6 @@
 // The texts of the bundle: every key has one in every language, and every one has room.
 #include "DialogSession.h"
+#include "Print.h"
 
 #include "Foundation/UserDefaults.h"
 #include "Toolkit/Controls.h"
@@ -67,8 +68,7 @@ QSet<QString> keysInUse()
 }
 
 class Texts : public testing::TestWithParam<QString>
-{
-};
+{};
 
 std::string languageName(const testing::TestParamInfo<QString> &language) { return language.param.toStdString(); }
 
@@ -78,15 +78,13 @@ TEST_P(Texts, ExistForEveryKeyThatCodeAndInterfaceFilesName)
 {
     const auto texts = table(GetParam());
     const auto keys = keysInUse();
-    ASSERT_TRUE(keys.contains("RS_PaperFeed_1-1/2") && keys.contains("Unsupported Paper MSG4") && keys.contains("STEXT_TAB2"));
+    ASSERT_TRUE(keys.contains("RS_PaperFeed_1-1/2") && keys.contains("Unsupported Paper MSG4") &&
+                keys.contains("STEXT_TAB2"));
     for (const QString &key : keys)
         EXPECT_FALSE(texts[key].trimmed().isEmpty()) << key.toStdString();
 }
 
-TEST_P(Texts, HaveTheSameKeysInEveryLanguage)
-{
-    EXPECT_EQ(table(GetParam()).keys(), table("en").keys());
-}
+TEST_P(Texts, HaveTheSameKeysInEveryLanguage) { EXPECT_EQ(table(GetParam()).keys(), table("en").keys()); }
 
 TEST_P(Texts, ExistForEveryTextOfTheFullExample)
 {
@@ -180,9 +178,9 @@ TEST_P(Room, IsEnoughForEveryTextInBothPanels)
         view.ensurePolished();
         int checked = 0;
         for (QWidget *control : view.findChildren<QWidget *>()) {
-            if (!control->isVisibleTo(&view) || !(qobject_cast<toolkit::LabelControl *>(control) ||
-                                                  qobject_cast<toolkit::PopUpControl *>(control) ||
-                                                  qobject_cast<QAbstractButton *>(control)))
+            if (!control->isVisibleTo(&view) ||
+                !(qobject_cast<toolkit::LabelControl *>(control) || qobject_cast<toolkit::PopUpControl *>(control) ||
+                  qobject_cast<QAbstractButton *>(control)))
                 continue;
             if (auto *column = control->parentWidget()->layout())
                 column->activate();

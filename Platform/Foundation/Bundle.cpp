@@ -59,8 +59,7 @@ std::unique_ptr<Bundle> Bundle::open(const QString &path, const QString &localiz
 Bundle::Bundle(QString path, Info info)
     : m_path(std::move(path))
     , m_info(std::move(info))
-{
-}
+{}
 
 Bundle::~Bundle() = default;
 

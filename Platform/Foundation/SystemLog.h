@@ -13,11 +13,21 @@ namespace foundation {
 class LogArgument
 {
 public:
-    LogArgument(const QString &text) : m_value(text) {}
-    LogArgument(const char *text) : m_value(text ? QVariant(QString::fromUtf8(text)) : QVariant()) {}
-    LogArgument(int number) : m_value(number) {}
-    LogArgument(double number) : m_value(number) {}
-    LogArgument(const void *address) : m_value(QVariant::fromValue(reinterpret_cast<quintptr>(address))) {}
+    LogArgument(const QString &text)
+        : m_value(text)
+    {}
+    LogArgument(const char *text)
+        : m_value(text ? QVariant(QString::fromUtf8(text)) : QVariant())
+    {}
+    LogArgument(int number)
+        : m_value(number)
+    {}
+    LogArgument(double number)
+        : m_value(number)
+    {}
+    LogArgument(const void *address)
+        : m_value(QVariant::fromValue(reinterpret_cast<quintptr>(address)))
+    {}
 
     const QVariant &value() const { return m_value; }
 

@@ -57,8 +57,7 @@ private:
 
 /// Stands for one print dialog; holds nothing that a panel reads.
 class Session
-{
-};
+{};
 
 /// The scheme of an address as it is written, letter case included; nil when there is none.
 std::optional<QString> uriScheme(const QString &uri);

@@ -20,7 +20,9 @@ QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
 
 } // namespace
 
-PopUpControl::PopUpControl(QWidget *parent) : QComboBox(parent) {}
+PopUpControl::PopUpControl(QWidget *parent)
+    : QComboBox(parent)
+{}
 
 void PopUpControl::select(int index)
 {

@@ -33,7 +33,9 @@ public:
     void setTextColor(TextColor color);
 
 protected:
-    explicit TextControl(QWidget &self) : m_self(self) {}
+    explicit TextControl(QWidget &self)
+        : m_self(self)
+    {}
     /// Call when the palette may have changed.
     void followPalette();
 
@@ -85,9 +87,9 @@ public:
     void enter();
 
 Q_SIGNALS:
-    void edited();         // a person changed the text; never sent for what code sets
-    void entered();        // a person pressed Return
-    void editingEnded();   // after `entered`; moving the focus away does not end editing, so nobody is held in the field
+    void edited();       // a person changed the text; never sent for what code sets
+    void entered();      // a person pressed Return
+    void editingEnded(); // after `entered`; moving the focus away does not end editing, so nobody is held in the field
 
 protected:
     bool event(QEvent *event) override;
@@ -142,7 +144,9 @@ class CheckControl : public QCheckBox
     Q_PROPERTY(QString text READ title WRITE setTitle)
 
 public:
-    explicit CheckControl(QWidget *parent = nullptr) : QCheckBox(parent) {}
+    explicit CheckControl(QWidget *parent = nullptr)
+        : QCheckBox(parent)
+    {}
 
     QString title() const { return m_title; }
     void setTitle(const QString &title);
@@ -237,7 +241,9 @@ class TabControl : public QWidget
     Q_PROPERTY(QString current READ current WRITE setCurrent)
 
 public:
-    explicit TabControl(QWidget *parent = nullptr) : QWidget(parent) {}
+    explicit TabControl(QWidget *parent = nullptr)
+        : QWidget(parent)
+    {}
 
     QStringList identifiers() const;
     QString label(const QString &identifier) const;
@@ -258,7 +264,9 @@ class SeparatorControl : public QWidget
     Q_OBJECT
 
 public:
-    explicit SeparatorControl(QWidget *parent = nullptr) : QWidget(parent) {}
+    explicit SeparatorControl(QWidget *parent = nullptr)
+        : QWidget(parent)
+    {}
 
 protected:
     void paintEvent(QPaintEvent *event) override;

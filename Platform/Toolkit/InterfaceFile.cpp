@@ -14,7 +14,11 @@ namespace toolkit {
 
 namespace {
 
-template <class W> QWidget *make(QWidget *parent) { return new W(parent); }
+template <class W>
+QWidget *make(QWidget *parent)
+{
+    return new W(parent);
+}
 
 struct ControlClass
 {
@@ -36,7 +40,11 @@ constexpr std::array kControlClasses{
 class FormLoader : public QUiLoader
 {
 public:
-    explicit FormLoader(QObject *parent) : QUiLoader(parent) { setLanguageChangeEnabled(false); }
+    explicit FormLoader(QObject *parent)
+        : QUiLoader(parent)
+    {
+        setLanguageChangeEnabled(false);
+    }
 
     QWidget *createWidget(const QString &className, QWidget *parent, const QString &name) override
     {
@@ -66,8 +74,8 @@ FormLoader &formLoader()
 }
 
 /// Properties of controls that people read or hear, and that a file therefore gives as keys.
-constexpr std::array kTextProperties{"text", "toolTip", "accessibleName", "accessibleDescription", "increaseName",
-                                     "decreaseName"};
+constexpr std::array kTextProperties{"text",         "toolTip",     "accessibleName", "accessibleDescription",
+                                     "increaseName", "decreaseName"};
 
 void localize(QWidget *widget, const foundation::Bundle &bundle)
 {
@@ -123,8 +131,7 @@ void connectForm(QWidget *form, const foundation::Bundle &bundle, InterfaceOwner
 
 } // namespace
 
-std::unique_ptr<QWidget> loadInterfaceFile(const foundation::Bundle &bundle, const QString &name,
-                                           InterfaceOwner &owner)
+std::unique_ptr<QWidget> loadInterfaceFile(const foundation::Bundle &bundle, const QString &name, InterfaceOwner &owner)
 {
     const auto path = bundle.pathForResource(name, "ui");
     QFile file(path.value_or(QString()));

@@ -14,7 +14,9 @@ class View
 {
 public:
     View() = default;
-    explicit View(QWidget *widget) : m_widget(widget) {}
+    explicit View(QWidget *widget)
+        : m_widget(widget)
+    {}
     virtual ~View() = default;
     View(const View &) = default;
     View &operator=(const View &) = default;
@@ -46,7 +48,11 @@ public:
 
 protected:
     virtual bool accepts(QWidget *widget) const;
-    template <class W> W *as() const { return static_cast<W *>(m_widget.data()); }
+    template <class W>
+    W *as() const
+    {
+        return static_cast<W *>(m_widget.data());
+    }
 
 private:
     QPointer<QWidget> m_widget;

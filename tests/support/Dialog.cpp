@@ -137,7 +137,8 @@ QJsonObject Dialog::state(const QString &panel) const
 QJsonObject Dialog::control(const QString &name) const
 {
     const QJsonObject controls = state(m_panel)["panels"][m_panel]["controls"].toObject();
-    EXPECT_TRUE(controls.contains(name)) << name.toStdString() << " is no control of the panel " << m_panel.toStdString();
+    EXPECT_TRUE(controls.contains(name)) << name.toStdString() << " is no control of the panel "
+                                         << m_panel.toStdString();
     return controls[name].toObject();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "PPDText.h"
+#include "Print.h"
 
 #include "Script.h"
 
@@ -84,7 +85,6 @@ private:
 
 /// A test that talks to one dialog, and speaks of it without naming it.
 class DialogTest : public testing::Test, protected Dialog
-{
-};
+{};
 
 } // namespace support

@@ -34,7 +34,11 @@ void handle(QtMsgType type, const QMessageLogContext &, const QString &message)
 
 } // namespace
 
-ExpectMessage::ExpectMessage(const QString &part) : m_part(part) { expectations.push_back(this); }
+ExpectMessage::ExpectMessage(const QString &part)
+    : m_part(part)
+{
+    expectations.push_back(this);
+}
 
 ExpectMessage::~ExpectMessage()
 {

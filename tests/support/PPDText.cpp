@@ -41,29 +41,69 @@ struct StandardOption
 const std::vector<StandardOption> &standardOptions()
 {
     static const std::vector<StandardOption> options{
-        {"QnDensity", "QnDensityObjHidden", "Print Density", "DHome",
-         {{"DHome", "Use Printer Setting"}, {"D0", "Level 0 (Lightest)"}, {"D1", "Level 1"}, {"D2", "Level 2"},
-          {"D3", "Level 3"}, {"D4", "Level 4"}, {"D5", "Level 5"}, {"D6", "Level 6"}, {"D7", "Level 7"},
-          {"D8", "Level 8"}, {"D9", "Level 9"}, {"D10", "Level 10 (Darkest)"}}},
-        {"QnSpeed", "QnSpeedObjHidden", "Print Speed", "SHome",
+        {"QnDensity",
+         "QnDensityObjHidden",
+         "Print Density",
+         "DHome",
+         {{"DHome", "Use Printer Setting"},
+          {"D0", "Level 0 (Lightest)"},
+          {"D1", "Level 1"},
+          {"D2", "Level 2"},
+          {"D3", "Level 3"},
+          {"D4", "Level 4"},
+          {"D5", "Level 5"},
+          {"D6", "Level 6"},
+          {"D7", "Level 7"},
+          {"D8", "Level 8"},
+          {"D9", "Level 9"},
+          {"D10", "Level 10 (Darkest)"}}},
+        {"QnSpeed",
+         "QnSpeedObjHidden",
+         "Print Speed",
+         "SHome",
          {{"SHome", "Use Printer Setting"}, {"S0", "Slow"}, {"S1", "Normal"}, {"S2", "Fast"}, {"S3", "Fastest"}}},
-        {"QnMedia", "QnMediaObjHidden", "Paper Type", "Thermal",
+        {"QnMedia",
+         "QnMediaObjHidden",
+         "Paper Type",
+         "Thermal",
          {{"Thermal", "Thermal Paper"}, {"ThermalCopy", "Thermal Copy Paper"}}},
-        {"QnFormFeedMode", "QnFormFeedModeObjHidden", "Form Feed", "FF0",
+        {"QnFormFeedMode",
+         "QnFormFeedModeObjHidden",
+         "Form Feed",
+         "FF0",
          {{"FF0", "No Form Feed"}, {"FF1", "Fixed Page Length"}, {"FF2", "End of Page"}, {"FF3", "Retract Paper"}}},
-        {"QnPaperFeed", "QnPaperFeedObjHidden", "Paper Feed", "Feed0",
+        {"QnPaperFeed",
+         "QnPaperFeedObjHidden",
+         "Paper Feed",
+         "Feed0",
          {{"Feed0", "None"}, {"Feed1", "1/2 inch"}, {"Feed2", "1 inch"}, {"Feed3", "1-1/2 inch"}, {"Feed4", "2 inch"}}},
         {"QnPerforated", "QnPerforatedObjHidden", "Perforated Paper", "OFF", {{"OFF", "Off"}, {"ON", "On"}}},
-        {"QnHalftonePattern", nullptr, "Halftone", "Dither",
+        {"QnHalftonePattern",
+         nullptr,
+         "Halftone",
+         "Dither",
          {{"Binary", "Binary"}, {"Dither", "Dither"}, {"ErrorDiffusion", "Error Diffusion"}}},
         {"QnReversal", "QnReversalObjHidden", "Reverse Black and White", "OFF", {{"OFF", "Off"}, {"ON", "On"}}},
         {"QnMirror", "QnMirrorObjHidden", "Mirror Image", "OFF", {{"OFF", "Off"}, {"ON", "On"}}},
         {"QnBiDiPrint", "QnBiDiPrintObjHidden", "Bi-directional Printing", "OFF", {{"OFF", "Off"}, {"ON", "On"}}},
-        {"QnRollPrinterCase", "QnRollPrinterCaseHidden", "Roll Printer Case", "Default",
-         {{"Default", "Printer Default"}, {"Off", "Not Used"}, {"On", "Used"}, {"OnNoAntiCurl", "Used, without Anti-Curl"}}},
-        {"QnPaperSizeType", nullptr, "Kind of Paper", "QnCutSize",
-         {{"QnCutSize", "Cut Sheet"}, {"QnPerforatedSize", "Perforated"}, {"QnRollSize", "Roll"},
-          {"QnInfiniteSize", "Continuous"}, {"QnPerforatedRetractSize", "Perforated, Retract"}, {"QnCustomSize", "Custom"}}},
+        {"QnRollPrinterCase",
+         "QnRollPrinterCaseHidden",
+         "Roll Printer Case",
+         "Default",
+         {{"Default", "Printer Default"},
+          {"Off", "Not Used"},
+          {"On", "Used"},
+          {"OnNoAntiCurl", "Used, without Anti-Curl"}}},
+        {"QnPaperSizeType",
+         nullptr,
+         "Kind of Paper",
+         "QnCutSize",
+         {{"QnCutSize", "Cut Sheet"},
+          {"QnPerforatedSize", "Perforated"},
+          {"QnRollSize", "Roll"},
+          {"QnInfiniteSize", "Continuous"},
+          {"QnPerforatedRetractSize", "Perforated, Retract"},
+          {"QnCustomSize", "Custom"}}},
     };
     return options;
 }
@@ -72,8 +112,8 @@ QByteArray pageSizeLines()
 {
     QByteArray lines;
     for (const QByteArray keyword : {"PageSize", "PageRegion"}) {
-        lines += "*OpenUI *" + keyword + "/Media Size: PickOne\n*OrderDependency: 10 AnySetup *" + keyword + "\n*Default" +
-                 keyword + ": A4\n";
+        lines += "*OpenUI *" + keyword + "/Media Size: PickOne\n*OrderDependency: 10 AnySetup *" + keyword +
+                 "\n*Default" + keyword + ": A4\n";
         for (const QByteArray &name : paperNames())
             lines += "*" + keyword + " " + name + "/" + name + ": \"x\"\n";
         lines += "*CloseUI: *" + keyword + "\n";
@@ -88,10 +128,10 @@ QByteArray pageSizeLines()
 
 const std::vector<QByteArray> &paperNames()
 {
-    static const std::vector<QByteArray> names{"A4",        "Letter",     "Legal",      "A5",     "A5Rotated",
-                                               "PerfA4",    "PerfLetter", "PerfLegal",  "RollA4", "RollLetter",
-                                               "RollLegal", "ContinuousLetter", "RetractA4", "RetractLetter",
-                                               "RetractLegal"};
+    static const std::vector<QByteArray> names{"A4",        "Letter",        "Legal",       "A5",
+                                               "A5Rotated", "PerfA4",        "PerfLetter",  "PerfLegal",
+                                               "RollA4",    "RollLetter",    "RollLegal",   "ContinuousLetter",
+                                               "RetractA4", "RetractLetter", "RetractLegal"};
     return names;
 }
 

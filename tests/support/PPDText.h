@@ -14,8 +14,8 @@ class PPDText
 public:
     using Choices = std::vector<std::pair<QByteArray, QByteArray>>; // keyword, text
 
-    /// A printer with the page sizes A4 (595 x 842), RollA4 and the others of `paperNames`, default A4, and custom sizes
-    /// from 72 x 72 to 612 x 3600 points.
+    /// A printer with the page sizes A4 (595 x 842), RollA4 and the others of `paperNames`, default A4, and custom
+    /// sizes from 72 x 72 to 612 x 3600 points.
     PPDText();
 
     /// `standard` is the declared default; empty declares none.

@@ -1,0 +1,8 @@
+// How Qt's values show in the words of a failing test.
+#pragma once
+
+#include <QString>
+
+#include <ostream>
+
+inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
