@@ -44,8 +44,7 @@ struct Typed
 void PrintTo(const Typed &row, std::ostream *out) { *out << row.unit << ' ' << row.typed.left(20).toStdString(); }
 
 class Typing : public Amount, public testing::WithParamInterface<Typed>
-{
-};
+{};
 
 TEST_P(Typing, IsFilteredCutAndChecked)
 {
@@ -64,17 +63,20 @@ INSTANTIATE_TEST_SUITE_P(
                     Typed{"mm", "", "", 0, 0}, Typed{"mm", "abc", "abc", 0, 0}, Typed{"mm", "51", "51", 51, 0},
                     Typed{"mm", "52", "52", 52, 1}, Typed{"mm", "099", "099", 99, 0}, // a leading zero never alerts
                     Typed{"mm", "0999", "099", 99, 0}, Typed{"mm", "-5", "5", 5, 0}, Typed{"mm", "1 2", "12", 12, 0},
-                    Typed{"mm", "1,5", "15", 15, 0}, Typed{"mm", QString::fromUtf8("٣٤"), QString::fromUtf8("٣٤"), 0, 0},
-                    Typed{"mm", QString(10000, '1'), "111", 99, 1}, Typed{"mm", QString(10000, 'x'), QString(10000, 'x'), 0, 0}));
+                    Typed{"mm", "1,5", "15", 15, 0},
+                    Typed{"mm", QString::fromUtf8("٣٤"), QString::fromUtf8("٣٤"), 0, 0},
+                    Typed{"mm", QString(10000, '1'), "111", 99, 1},
+                    Typed{"mm", QString(10000, 'x'), QString(10000, 'x'), 0, 0}));
 
-INSTANTIATE_TEST_SUITE_P(
-    Inches, Typing,
-    testing::Values(Typed{"inch", "1.2.3", "1.2", 1.2, 0}, Typed{"inch", "0.9", "0.9", 0.9, 0},
-                    Typed{"inch", "2.0", "2.0", 2, 0}, Typed{"inch", "2.1", "2.1", 2.1, 1},
-                    Typed{"inch", ".5", ".5", 0.5, 0}, Typed{"inch", ".", ".", 0, 0}, Typed{"inch", "1..2", "1.2", 1.2, 0},
-                    Typed{"inch", "09", "09", 9, 0}, Typed{"inch", ".99", ".99", 0.99, 0}, Typed{"inch", "9", "9", 9, 1},
-                    Typed{"inch", "1,5", "15", 15, 1}, Typed{"inch", "", "", 0, 0}, Typed{"inch", "abc", "abc", 0, 0},
-                    Typed{"inch", QString(10000, '9'), "999", 99, 1}));
+INSTANTIATE_TEST_SUITE_P(Inches, Typing,
+                         testing::Values(Typed{"inch", "1.2.3", "1.2", 1.2, 0}, Typed{"inch", "0.9", "0.9", 0.9, 0},
+                                         Typed{"inch", "2.0", "2.0", 2, 0}, Typed{"inch", "2.1", "2.1", 2.1, 1},
+                                         Typed{"inch", ".5", ".5", 0.5, 0}, Typed{"inch", ".", ".", 0, 0},
+                                         Typed{"inch", "1..2", "1.2", 1.2, 0}, Typed{"inch", "09", "09", 9, 0},
+                                         Typed{"inch", ".99", ".99", 0.99, 0}, Typed{"inch", "9", "9", 9, 1},
+                                         Typed{"inch", "1,5", "15", 15, 1}, Typed{"inch", "", "", 0, 0},
+                                         Typed{"inch", "abc", "abc", 0, 0},
+                                         Typed{"inch", QString(10000, '9'), "999", 99, 1}));
 
 // One click after a text was typed: which rule answers.
 struct Click
@@ -91,8 +93,7 @@ struct Click
 void PrintTo(const Click &row, std::ostream *out) { *out << row.name; }
 
 class Stepping : public Amount, public testing::WithParamInterface<Click>
-{
-};
+{};
 
 TEST_P(Stepping, FollowsItsRule)
 {
@@ -107,41 +108,39 @@ TEST_P(Stepping, FollowsItsRule)
 
 std::string clickName(const testing::TestParamInfo<Click> &row) { return row.param.name; }
 
-INSTANTIATE_TEST_SUITE_P(
-    Millimetres, Stepping,
-    testing::Values(Click{"TextThatEndsWithAFullStopAlerts", "mm", "a.", 1, "a.", 1, 1},
-                    Click{"LeadingZeroFrom1Alerts", "mm", "05", 1, "05", 6, 1},
-                    Click{"MoreThan51Alerts", "mm", "60", -1, "60", 59, 1},
-                    Click{"TwoZerosAlert", "mm", "00", 1, "00", 1, 1},
-                    Click{"ThreeZerosAlert", "mm", "000", 1, "000", 1, 1},
-                    Click{"BeyondTheMaximumStaysThere", "mm", "51", 1, "51", 51, 0},
-                    Click{"EmptyAt0StaysEmpty", "mm", "", -1, "", 0, 0},
-                    Click{"ZeroAt0StaysZero", "mm", "0", -1, "0", 0, 0},
-                    Click{"NoNumberAt0StaysAsItIs", "mm", "a", -1, "a", 0, 0},
-                    Click{"From1DownIs0", "mm", "1", -1, "0", 0, 0},
-                    Click{"FromEmptyUpIs1", "mm", "", 1, "1", 1, 0},
-                    Click{"UpAddsOne", "mm", "10", 1, "11", 11, 0},
-                    Click{"DownTakesOne", "mm", "10", -1, "9", 9, 0},
-                    Click{"FromZeroUpIs1", "mm", "0", 1, "1", 1, 0}),
-    clickName);
+INSTANTIATE_TEST_SUITE_P(Millimetres, Stepping,
+                         testing::Values(Click{"TextThatEndsWithAFullStopAlerts", "mm", "a.", 1, "a.", 1, 1},
+                                         Click{"LeadingZeroFrom1Alerts", "mm", "05", 1, "05", 6, 1},
+                                         Click{"MoreThan51Alerts", "mm", "60", -1, "60", 59, 1},
+                                         Click{"TwoZerosAlert", "mm", "00", 1, "00", 1, 1},
+                                         Click{"ThreeZerosAlert", "mm", "000", 1, "000", 1, 1},
+                                         Click{"BeyondTheMaximumStaysThere", "mm", "51", 1, "51", 51, 0},
+                                         Click{"EmptyAt0StaysEmpty", "mm", "", -1, "", 0, 0},
+                                         Click{"ZeroAt0StaysZero", "mm", "0", -1, "0", 0, 0},
+                                         Click{"NoNumberAt0StaysAsItIs", "mm", "a", -1, "a", 0, 0},
+                                         Click{"From1DownIs0", "mm", "1", -1, "0", 0, 0},
+                                         Click{"FromEmptyUpIs1", "mm", "", 1, "1", 1, 0},
+                                         Click{"UpAddsOne", "mm", "10", 1, "11", 11, 0},
+                                         Click{"DownTakesOne", "mm", "10", -1, "9", 9, 0},
+                                         Click{"FromZeroUpIs1", "mm", "0", 1, "1", 1, 0}),
+                         clickName);
 
-INSTANTIATE_TEST_SUITE_P(
-    Inches, Stepping,
-    testing::Values(Click{"TextThatEndsWithAFullStopAlerts", "inch", "1.", 1, "1.", 1.1, 1},
-                    Click{"TextThatBeginsWithAFullStopAlerts", "inch", ".5", 1, ".5", 0.6, 1},
-                    Click{"LeadingZeroFrom1Alerts", "inch", "01", 1, "01", 1.1, 1},
-                    Click{"MoreThan2Alerts", "inch", "2.1", -1, "2.1", 2.0, 1},
-                    Click{"TwoZerosAlert", "inch", "00", 1, "00", 0.1, 1},
-                    Click{"ThreeZerosAlert", "inch", "000", 1, "000", 0.1, 1},
-                    Click{"BeyondTheMaximumIsTwo", "inch", "2", 1, "2.0", 2, 0},
-                    Click{"EmptyDownStaysEmpty", "inch", "", -1, "", 0, 0},
-                    Click{"EmptyUpIsOneTenth", "inch", "", 1, "0.1", 0.1, 0},
-                    Click{"DownToOneTenthIsExact", "inch", "0.2", -1, "0.1", 0.1, 0},
-                    Click{"ZeroAt0StaysZero", "inch", "0", -1, "0", 0, 0},
-                    Click{"From1UpIs1Point1", "inch", "1", 1, "1.1", 1.1, 0},
-                    Click{"FromOneTenthDownIsZeroPointZero", "inch", "0.1", -1, "0.0", 0, 0},
-                    Click{"ManyTenthsStayTenths", "inch", "0.7", -1, "0.6", 0.6, 0}),
-    clickName);
+INSTANTIATE_TEST_SUITE_P(Inches, Stepping,
+                         testing::Values(Click{"TextThatEndsWithAFullStopAlerts", "inch", "1.", 1, "1.", 1.1, 1},
+                                         Click{"TextThatBeginsWithAFullStopAlerts", "inch", ".5", 1, ".5", 0.6, 1},
+                                         Click{"LeadingZeroFrom1Alerts", "inch", "01", 1, "01", 1.1, 1},
+                                         Click{"MoreThan2Alerts", "inch", "2.1", -1, "2.1", 2.0, 1},
+                                         Click{"TwoZerosAlert", "inch", "00", 1, "00", 0.1, 1},
+                                         Click{"ThreeZerosAlert", "inch", "000", 1, "000", 0.1, 1},
+                                         Click{"BeyondTheMaximumIsTwo", "inch", "2", 1, "2.0", 2, 0},
+                                         Click{"EmptyDownStaysEmpty", "inch", "", -1, "", 0, 0},
+                                         Click{"EmptyUpIsOneTenth", "inch", "", 1, "0.1", 0.1, 0},
+                                         Click{"DownToOneTenthIsExact", "inch", "0.2", -1, "0.1", 0.1, 0},
+                                         Click{"ZeroAt0StaysZero", "inch", "0", -1, "0", 0, 0},
+                                         Click{"From1UpIs1Point1", "inch", "1", 1, "1.1", 1.1, 0},
+                                         Click{"FromOneTenthDownIsZeroPointZero", "inch", "0.1", -1, "0.0", 0, 0},
+                                         Click{"ManyTenthsStayTenths", "inch", "0.7", -1, "0.6", 0.6, 0}),
+                         clickName);
 
 TEST_F(Amount, StepsFromOneTenthToTwoInTenths)
 {
@@ -226,8 +225,7 @@ struct Printed
 void PrintTo(const Printed &row, std::ostream *out) { *out << row.unit << " \"" << row.typed << '"'; }
 
 class Printing : public Amount, public testing::WithParamInterface<Printed>
-{
-};
+{};
 
 TEST_P(Printing, TakesOnlyAnAcceptableAmount)
 {

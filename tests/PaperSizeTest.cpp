@@ -11,14 +11,14 @@ enum class AmountIs { open, locked };
 struct Row
 {
     const char *name;
-    const char *from;      // paper, form feed and perforated items: "A4 F0 P0"
+    const char *from; // paper, form feed and perforated items: "A4 F0 P0"
     const char *paper;
-    const char *formFeed;  // FF 0 to FF 3
-    const char *perforated;// PF 0, PF 1
+    const char *formFeed;   // FF 0 to FF 3
+    const char *perforated; // PF 0, PF 1
     int selectedFormFeed;
     int selectedPerforated;
     AmountIs amount;
-    const char *memo;      // "": none
+    const char *memo; // "": none
 };
 
 void PrintTo(const Row &row, std::ostream *out) { *out << row.name; }
@@ -103,7 +103,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Row{"Plain", "customsize F1 P1", "A4", "+++-", "+-", 1, 0, AmountIs::locked, "YES"},
                     Row{"Perforated", "customsize F1 P1", "PerfA4", "--+-", "+-", 2, 0, AmountIs::locked, "YES"},
                     Row{"Roll", "customsize F1 P1", "RollA4", "-+--", "++", 1, 1, AmountIs::locked, "YES"},
-                    Row{"Continuous", "customsize F1 P1", "ContinuousLetter", "+---", "+-", 0, 0, AmountIs::open, "YES"},
+                    Row{"Continuous", "customsize F1 P1", "ContinuousLetter", "+---", "+-", 0, 0, AmountIs::open,
+                        "YES"},
                     Row{"Retract", "customsize F1 P1", "RetractA4", "---+", "++", 3, 0, AmountIs::locked, "YES"},
                     Row{"Other", "customsize F1 P1", "Poster", "-+--", "++", 1, 1, AmountIs::locked, "YES"}),
     rowName);
@@ -115,8 +116,7 @@ struct Kind
 };
 
 class PaperKind : public DialogTest, public testing::WithParamInterface<Kind>
-{
-};
+{};
 
 TEST_P(PaperKind, IsMarkedByBothPanelsOnAPaperChangeAndBeforePrinting)
 {
@@ -227,8 +227,7 @@ struct Size
 };
 
 class SizeCheck : public DialogTest, public testing::WithParamInterface<Size>
-{
-};
+{};
 
 // Limits of the PPD: 72 to 612 wide, 100 to 900 high.
 TEST_P(SizeCheck, KeepsToThePPDsLimits)
@@ -308,8 +307,7 @@ struct Box
 };
 
 class PerforatedBox : public DialogTest, public testing::WithParamInterface<Box>
-{
-};
+{};
 
 TEST_P(PerforatedBox, FollowsThePaperAndTheMemo)
 {
@@ -325,23 +323,23 @@ TEST_P(PerforatedBox, FollowsThePaperAndTheMemo)
     EXPECT_EQ(isEnabled("mPerforatedChkBx"), GetParam().enabled);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Papers, PerforatedBox,
-    testing::Values(Box{"Plain", "A4", "FF1", "", false}, Box{"Perforated", "PerfA4", "FF2", "", false},
-                    Box{"RollWithoutMemo", "RollLetter", "FF0", "", true},
-                    Box{"RollWithMemoYes", "RollLetter", "FF1", "YES", true},
-                    Box{"RollWithMemoNo", "RollLetter", "FF0", "NO", false},
-                    Box{"Continuous", "ContinuousLetter", "FF0", "", false},
-                    Box{"Retract", "RetractA4", "FF3", "", false}),
-    [](const auto &row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Papers, PerforatedBox,
+                         testing::Values(Box{"Plain", "A4", "FF1", "", false},
+                                         Box{"Perforated", "PerfA4", "FF2", "", false},
+                                         Box{"RollWithoutMemo", "RollLetter", "FF0", "", true},
+                                         Box{"RollWithMemoYes", "RollLetter", "FF1", "YES", true},
+                                         Box{"RollWithMemoNo", "RollLetter", "FF0", "NO", false},
+                                         Box{"Continuous", "ContinuousLetter", "FF0", "", false},
+                                         Box{"Retract", "RetractA4", "FF3", "", false}),
+                         [](const auto &row) { return std::string(row.param.name); });
 
 class OtherPaper : public DialogTest, public testing::WithParamInterface<int>
-{
-};
+{};
 
 TEST_P(OtherPaper, EnablesTheBoxAndPerforatedItem1InFormFeedMode1Only)
 {
-    open(PPDText().allOptions(), "Poster", {{"defaults", QJsonObject{{"QnFormFeedMode", QString("FF%1").arg(GetParam())}}}});
+    open(PPDText().allOptions(), "Poster",
+         {{"defaults", QJsonObject{{"QnFormFeedMode", QString("FF%1").arg(GetParam())}}}});
     show("advanced");
     choosePaper("Banner");
     EXPECT_EQ(isEnabled("mPerforatedChkBx"), GetParam() == 1);
