@@ -167,4 +167,10 @@ QString Dialog::marked(const QString &key) const { return state(m_panel)["marked
 
 QString Dialog::memo() const { return state(m_panel)["defaults"].toObject()["QnPerforated"].toString(); }
 
+QPointF originOf(const QJsonObject &control)
+{
+    const QJsonArray point = control["origin"].toArray();
+    return {point[0].toDouble(), point[1].toDouble()};
+}
+
 } // namespace support

@@ -9,6 +9,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QPointF>
 #include <QString>
 #include <QStringList>
 
@@ -82,6 +83,9 @@ private:
     QJsonObject m_reply;
     QString m_panel = "basic";
 };
+
+/// Lower left corner, from the state of a control.
+QPointF originOf(const QJsonObject &control);
 
 /// A test that talks to one dialog, and speaks of it without naming it.
 class DialogTest : public testing::Test, protected Dialog
