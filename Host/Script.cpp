@@ -141,7 +141,7 @@ std::optional<QByteArray> Script::reply(const QByteArray &line)
         reply = perform(line);
         reply["ok"] = true;
     } catch (const ScriptRefusal &refusal) {
-        reply = {{"ok", false}, {"error", QString::fromUtf8(refusal.what())}};
+        reply = {{"ok", false}, {"error", refusal.sentence()}};
     }
     return QJsonDocument(reply).toJson(QJsonDocument::Compact);
 }

@@ -6,17 +6,21 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <stdexcept>
+#include <exception>
 
 namespace host {
 
 /// Ends a request: its sentence is the reply's `error`.
-class ScriptRefusal : public std::runtime_error
+class ScriptRefusal : public std::exception
 {
 public:
-    explicit ScriptRefusal(const QString &sentence)
-        : std::runtime_error(sentence.toStdString())
+    explicit ScriptRefusal(QString sentence)
+        : m_sentence(std::move(sentence))
     {}
+    const QString &sentence() const { return m_sentence; }
+
+private:
+    QString m_sentence;
 };
 
 class ScriptRequest

@@ -12,10 +12,10 @@ protected:
     QJsonObject job() { return request({{"do", "job"}})["options"].toObject(); }
 };
 
-const Marks kOpeningMarks{{"QnMedia", "Thermal"},          {"QnFormFeedMode", "FF0"},   {"QnPaperFeed", "0.000000"},
-                          {"QnPerforated", "OFF"},         {"QnRollPrinterCase", "Default"}, {"QnDensity", "DHome"},
-                          {"QnSpeed", "SHome"},            {"QnPerforated", "OFF"},     {"QnHalftonePattern", "Dither"},
-                          {"QnReversal", "OFF"},           {"QnMirror", "OFF"},         {"QnBiDiPrint", "OFF"}};
+const Marks kOpeningMarks{
+    {"QnMedia", "Thermal"},           {"QnFormFeedMode", "FF0"}, {"QnPaperFeed", "0.000000"}, {"QnPerforated", "OFF"},
+    {"QnRollPrinterCase", "Default"}, {"QnDensity", "DHome"},    {"QnSpeed", "SHome"},        {"QnPerforated", "OFF"},
+    {"QnHalftonePattern", "Dither"},  {"QnReversal", "OFF"},     {"QnMirror", "OFF"},         {"QnBiDiPrint", "OFF"}};
 
 TEST_F(HostPolicy, AsksBothPanelsForTheirKeysBeforeAnyDisplay)
 {
@@ -104,8 +104,7 @@ struct Wanted
 void PrintTo(const Wanted &row, std::ostream *out) { *out << '"' << row.choice.toStdString() << '"'; }
 
 class Marking : public DialogTest, public testing::WithParamInterface<Wanted>
-{
-};
+{};
 
 // The first parameter in the file has the range 0.1 to 2.01, in single precision.
 TEST_P(Marking, TakesListedChoicesAndNumbersWithinTheRange)
@@ -122,15 +121,16 @@ TEST_P(Marking, TakesListedChoicesAndNumbersWithinTheRange)
     EXPECT_EQ(marked("QnPaperFeed"), accepted ? GetParam().marked : "Feed1");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Values, Marking,
-    testing::Values(Wanted{"Feed2", "Feed2"}, Wanted{"feed2", ""}, Wanted{"1.5", "Custom.1.5"},
-                    Wanted{"+1.5", "Custom.1.5"}, Wanted{"1", "Custom.1"}, Wanted{"1.", "Custom.1"},
-                    Wanted{".5", "Custom.0.5"}, Wanted{"0.1", "Custom.0.1"}, Wanted{"2.01", "Custom.2.01"},
-                    Wanted{"2.02", ""}, Wanted{"0.09", ""}, Wanted{"-1", ""}, Wanted{"0", ""}, Wanted{"1.5x", ""},
-                    Wanted{" 1.5", ""}, Wanted{"1.5\n", ""}, Wanted{"1,5", ""}, Wanted{"1e0", ""}, Wanted{"nan", ""},
-                    Wanted{"inf", ""}, Wanted{"0x1", ""}, Wanted{"", ""}, Wanted{"Custom.1.5", ""},
-                    Wanted{"1.0236220472", "Custom.1.02362"}, Wanted{QString(10000, '1'), ""}));
+INSTANTIATE_TEST_SUITE_P(Values, Marking,
+                         testing::Values(Wanted{"Feed2", "Feed2"}, Wanted{"feed2", ""}, Wanted{"1.5", "Custom.1.5"},
+                                         Wanted{"+1.5", "Custom.1.5"}, Wanted{"1", "Custom.1"},
+                                         Wanted{"1.", "Custom.1"}, Wanted{".5", "Custom.0.5"},
+                                         Wanted{"0.1", "Custom.0.1"}, Wanted{"2.01", "Custom.2.01"}, Wanted{"2.02", ""},
+                                         Wanted{"0.09", ""}, Wanted{"-1", ""}, Wanted{"0", ""}, Wanted{"1.5x", ""},
+                                         Wanted{" 1.5", ""}, Wanted{"1.5\n", ""}, Wanted{"1,5", ""}, Wanted{"1e0", ""},
+                                         Wanted{"nan", ""}, Wanted{"inf", ""}, Wanted{"0x1", ""}, Wanted{"", ""},
+                                         Wanted{"Custom.1.5", ""}, Wanted{"1.0236220472", "Custom.1.02362"},
+                                         Wanted{QString(10000, '1'), ""}));
 
 TEST_F(HostPolicy, MarksNothingForAnOptionThatThePPDLacks)
 {
@@ -144,8 +144,10 @@ TEST_F(HostPolicy, MarksNothingForAnOptionThatThePPDLacks)
 
 TEST_F(HostPolicy, KeepsTheChoiceAskedForAndMovesTheOthersThatAreForbidden)
 {
-    open(PPDText().allOptions().line("*UIConstraints: *QnMedia ThermalCopy *QnSpeed S3").line(
-        "*UIConstraints: *QnSpeed S3 *QnMedia ThermalCopy"));
+    open(PPDText()
+             .allOptions()
+             .line("*UIConstraints: *QnMedia ThermalCopy *QnSpeed S3")
+             .line("*UIConstraints: *QnSpeed S3 *QnMedia ThermalCopy"));
     ASSERT_TRUE(mark("QnSpeed", "S3"));
     ASSERT_TRUE(mark("QnMedia", "ThermalCopy"));
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
@@ -216,10 +218,17 @@ TEST_F(HostPolicy, AsksEveryPanelBeforePrintingAndThenSavesTheOneOnDisplay)
     open(PPDText().allOptions());
     show("advanced");
     EXPECT_TRUE(print());
-    const Marks expected{{"QnPaperSizeType", "QnCutSize"}, {"QnPaperFeed", "1.023622"}, {"QnPaperSizeType", "QnCutSize"},
-                         {"QnPaperSizeType", "QnCutSize"}, {"QnDensity", "DHome"},      {"QnSpeed", "SHome"},
-                         {"QnPerforated", "OFF"},          {"QnHalftonePattern", "Dither"}, {"QnReversal", "OFF"},
-                         {"QnMirror", "OFF"},              {"QnBiDiPrint", "OFF"}};
+    const Marks expected{{"QnPaperSizeType", "QnCutSize"},
+                         {"QnPaperFeed", "1.023622"},
+                         {"QnPaperSizeType", "QnCutSize"},
+                         {"QnPaperSizeType", "QnCutSize"},
+                         {"QnDensity", "DHome"},
+                         {"QnSpeed", "SHome"},
+                         {"QnPerforated", "OFF"},
+                         {"QnHalftonePattern", "Dither"},
+                         {"QnReversal", "OFF"},
+                         {"QnMirror", "OFF"},
+                         {"QnBiDiPrint", "OFF"}};
     EXPECT_EQ(marks(), expected);
 }
 
@@ -250,8 +259,7 @@ void PrintTo(const SystemRow &row, std::ostream *out) { *out << row.version.toSt
 
 /// Each of these runs in a process of its own: the plug-in tests the version once per process.
 class SystemTest : public DialogTest, public testing::WithParamInterface<SystemRow>
-{
-};
+{};
 
 TEST_P(SystemTest, IsAcceptedFrom10Point5OnAndNeverAskedAgain)
 {

@@ -1,0 +1,209 @@
+// Bundles that lack something, or are something else: one clear sentence, and whatever works goes on working.
+#include "Dialog.h"
+#include "Messages.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace support;
+
+namespace {
+
+class DamagedBundle : public DialogTest
+{
+protected:
+    void SetUp() override
+    {
+        m_path = m_directory.filePath("Copy.plugin");
+        ASSERT_EQ(QProcess::execute("cp", {"-r", QN_BUNDLE_DIR, m_path}), 0);
+    }
+    void remove(const QString &pattern)
+    {
+        QDir resources(m_path + "/Resources");
+        for (const QString &name : resources.entryList({pattern}))
+            ASSERT_TRUE(resources.remove(name));
+    }
+    void write(const QString &name, const QByteArray &content)
+    {
+        QFile file(m_path + '/' + name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+    void openCopy(const QString &language = "none")
+    {
+        openFile(PPDText().allOptions().file(), {{"bundle", m_path}, {"language", language}});
+    }
+    /// Opens, and answers the sentence of the refusal.
+    QString refusal()
+    {
+        request({{"do", "open"}, {"ppd", PPDText().allOptions().file()}, {"bundle", m_path}});
+        EXPECT_FALSE(reply()["ok"].toBool(true));
+        EXPECT_TRUE(error().startsWith(m_path)) << error().toStdString();
+        EXPECT_FALSE(error().contains('\n'));
+        return error().mid(m_path.size());
+    }
+
+    QTemporaryDir m_directory;
+    QString m_path;
+};
+
+TEST_F(DamagedBundle, WorksWhole)
+{
+    openCopy();
+    show("basic");
+    pick("mMediaPopUp", 1);
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
+}
+
+TEST_F(DamagedBundle, WithoutInterfaceFilesHasPanelsThatCannotBeShown)
+{
+    remove("*.ui");
+    ExpectMessage basic("the bundle has no interface file PrintSettingPDE.ui");
+    ExpectMessage advanced("the bundle has no interface file PrintSettingAdvancedPDE.ui");
+    openCopy();
+    request({{"do", "show"}, {"panel", "basic"}});
+    EXPECT_EQ(error(), "panel \"basic\" has no interface to show");
+    EXPECT_TRUE(print());
+    EXPECT_EQ(marked("QnPaperSizeType"), "QnCutSize");
+}
+
+class UnreadableInterface : public DamagedBundle, public testing::WithParamInterface<const char *>
+{};
+
+TEST_P(UnreadableInterface, IsLeftOut)
+{
+    write("Resources/PrintSettingPDE.ui", GetParam());
+    RecordMessages messages;
+    openCopy();
+    EXPECT_FALSE(messages.messages().isEmpty());
+    show("advanced");
+    request({{"do", "show"}, {"panel", "basic"}});
+    EXPECT_EQ(error(), "panel \"basic\" has no interface to show");
+    EXPECT_EQ(state("basic")["display"].toString(), "advanced"); // nothing has changed
+}
+
+INSTANTIATE_TEST_SUITE_P(Contents, UnreadableInterface,
+                         testing::Values("", "not XML", "<ui version=\"4.0\">", "<html></html>",
+                                         "<ui version=\"3.0\"/>", "<ui version=\"4.0\"><class>X</class></ui>"));
+
+TEST_F(DamagedBundle, WithAnInterfaceOfOtherControlsConnectsWhatFits)
+{
+    write("Resources/PrintSettingPDE.ui",
+          R"(<ui version="4.0"><class>X</class><widget class="QWidget" name="kPDEView">
+             <widget class="toolkit::LabelControl" name="mMediaPopUp"/>
+             <widget class="toolkit::PopUpControl" name="mFormFeedModePopUp"/>
+             <widget class="toolkit::PopUpControl" name="mUnknown"/></widget></ui>)");
+    openCopy();
+    show("basic");
+    EXPECT_TRUE(state("basic")["panels"][QString("basic")].toObject()["controls"].toObject()["mMediaPopUp"].isNull());
+    EXPECT_EQ(titles("mFormFeedModePopUp").size(), 4); // from an empty menu
+    EXPECT_EQ(selected("mFormFeedModePopUp"), 0);
+    choosePaper("RollA4");
+    EXPECT_TRUE(print());
+}
+
+TEST_F(DamagedBundle, WithoutStringTablesShowsKeys)
+{
+    remove("*.qm");
+    openCopy("de");
+    request({{"do", "name"}, {"panel", "basic"}});
+    EXPECT_EQ(reply()["result"].toString(), "STEXT_TAB1");
+}
+
+TEST_F(DamagedBundle, WithAnUnreadableStringTableFallsBackToEnglish)
+{
+    write("Resources/Localizable_de.qm", "no table");
+    openCopy("de");
+    request({{"do", "name"}, {"panel", "basic"}});
+    EXPECT_EQ(reply()["result"].toString(), "Print Settings");
+}
+
+TEST_F(DamagedBundle, TakesTheLanguageOfARegionItDoesNotKnow)
+{
+    openCopy("de_AT");
+    request({{"do", "name"}, {"panel", "basic"}});
+    EXPECT_EQ(reply()["result"].toString(), "Druckeinstellungen");
+}
+
+TEST_F(DamagedBundle, WithoutPicturesPreviewsNothing)
+{
+    remove("*.png");
+    openCopy();
+    show("advanced");
+    EXPECT_TRUE(control("mHalftoneView")["picture"].isNull());
+    row("mHalftoneRadio", 0);
+    EXPECT_EQ(marked("QnHalftonePattern"), "Binary");
+}
+
+TEST_F(DamagedBundle, WithAnEmptyPicturePreviewsTheOthers)
+{
+    write("Resources/Dither.png", "");
+    openCopy();
+    show("advanced");
+    EXPECT_TRUE(control("mHalftoneView")["picture"].isNull()); // the default row is the dither
+    row("mHalftoneRadio", 0);
+    EXPECT_EQ(control("mHalftoneView")["picture"].toString(), "Binary");
+}
+
+TEST_F(DamagedBundle, OfAnotherInterfaceVersionIsRefused)
+{
+    write(
+        "Info.json",
+        R"({"executable":"QNKVPageSettings15.so","principalClass":"QNKVPageSettings15PlugIn_v100_","abiVersion":99})");
+    EXPECT_EQ(refusal(), ": made for interface version 99, this dialog has 100");
+}
+
+TEST_F(DamagedBundle, WithoutInfoOrWithBrokenInfoIsRefused)
+{
+    write("Info.json", "{");
+    EXPECT_TRUE(refusal().startsWith("/Info.json: "));
+    write("Info.json", "{}");
+    EXPECT_EQ(refusal(), "/Info.json: names no executable or no principal class");
+    ASSERT_TRUE(QFile::remove(m_path + "/Info.json"));
+    EXPECT_TRUE(refusal().contains("not a plug-in bundle"));
+}
+
+TEST_F(DamagedBundle, WithoutItsCodeOrWithOtherCodeIsRefused)
+{
+    write("QNKVPageSettings15.so", "no code");
+    EXPECT_TRUE(refusal().size() > 2);
+    ASSERT_TRUE(QFile::remove(m_path + "/QNKVPageSettings15.so"));
+    EXPECT_TRUE(refusal().size() > 2);
+}
+
+TEST_F(DamagedBundle, OfAnotherPrincipalClassIsNotAccepted)
+{
+    write("Info.json", R"({"executable":"QNKVPageSettings15.so","principalClass":"Another","abiVersion":100})");
+    openCopy();
+    EXPECT_FALSE(reply()["accepted"].toBool(true));
+    EXPECT_EQ(reply()["panels"], QJsonValue(QJsonArray()));
+}
+
+TEST_F(DamagedBundle, ThatDoesNotExistIsRefused)
+{
+    m_path += ".gone";
+    EXPECT_EQ(refusal(), ": no such plug-in bundle");
+}
+
+TEST_F(DamagedBundle, IsNeverTakenFromAPathInThePPD)
+{
+    // Only the name of the PPD's bundle counts, and only among the bundles of the plug-in directories.
+    openFile(PPDText().allOptions().attribute("APDialogExtension", m_path.toLatin1()).file());
+    EXPECT_TRUE(reply()["accepted"].toBool());
+    QProcess program;
+    program.setProcessEnvironment([this] {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QNPRINT_PLUGIN_PATH", m_directory.path());
+        return environment;
+    }());
+    write("Info.json", "{");
+    program.start(QN_PROGRAM, {"script"});
+    program.write("{\"do\":\"open\",\"ppd\":\"" +
+                  PPDText().attribute("APDialogExtension", "/elsewhere/Copy.plugin").file().toUtf8() + "\"}\n");
+    program.closeWriteChannel();
+    ASSERT_TRUE(program.waitForFinished(20000));
+    EXPECT_TRUE(program.readAllStandardOutput().contains("Copy.plugin/Info.json")); // found by its name
+}
+
+} // namespace
