@@ -1,0 +1,375 @@
+// The habits of the toolkit's controls, under mouse, keyboard and code.
+#include "Toolkit/Alert.h"
+#include "Toolkit/View.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+using namespace toolkit;
+
+namespace {
+
+/// A control in a window that is shown, as a person has it.
+template <class Control>
+class InWindow : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        m_window.resize(400, 300);
+        m_control.setGeometry(10, 10, 200, 40);
+        m_window.show();
+        QApplication::setActiveWindow(&m_window);
+    }
+    QWidget m_window;
+    Control &m_control = *new Control(&m_window);
+};
+
+class PopUps : public InWindow<PopUpControl>
+{
+protected:
+    void SetUp() override
+    {
+        for (const char *title : {"zero", "one", "two", "three"})
+            m_control.insertTitle(title, m_control.count());
+        m_control.select(0);
+        InWindow::SetUp();
+        m_control.setValidator([this](int index) {
+            m_asked.append(index);
+            return index != m_refused;
+        });
+    }
+    QList<int> m_asked;
+    int m_refused = 2;
+    QSignalSpy m_chosen{&m_control, &QComboBox::activated};
+};
+
+TEST_F(PopUps, AskForEachItemInOrderWhenAMouseOpensThem)
+{
+    QTest::mouseClick(&m_control, Qt::LeftButton);
+    EXPECT_EQ(m_asked, QList<int>({0, 1, 2, 3}));
+    EXPECT_TRUE(m_control.isItemEnabled(1));
+    EXPECT_FALSE(m_control.isItemEnabled(2));
+    m_control.hidePopup();
+}
+
+TEST_F(PopUps, AskWhenCodeOrAssistiveTechnologyOpensThem)
+{
+    m_control.showPopup();
+    EXPECT_EQ(m_asked.size(), 4);
+    m_control.hidePopup();
+    auto *const actions = QAccessible::queryAccessibleInterface(&m_control)->actionInterface();
+    actions->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_EQ(m_asked.size(), 8);
+    m_control.hidePopup();
+}
+
+TEST_F(PopUps, SkipWithTheKeysWhatIsRefused)
+{
+    QTest::keyClick(&m_control, Qt::Key_Down);
+    EXPECT_EQ(m_control.currentIndex(), 1);
+    QTest::keyClick(&m_control, Qt::Key_Down);
+    EXPECT_EQ(m_control.currentIndex(), 3);
+    QTest::keyClick(&m_control, Qt::Key_Up);
+    EXPECT_EQ(m_control.currentIndex(), 1);
+    QTest::keyClick(&m_control, 't'); // "two" is refused, "three" is not
+    EXPECT_NE(m_control.currentIndex(), 2);
+    EXPECT_GE(m_chosen.size(), 3);
+}
+
+TEST_F(PopUps, LetEffectsOnOtherItemsStand)
+{
+    m_control.setValidator([this](int index) {
+        if (index == 3)
+            m_control.setItemEnabled(0, false);
+        return true;
+    });
+    m_control.validateItems();
+    EXPECT_FALSE(m_control.isItemEnabled(0));
+}
+
+TEST_F(PopUps, SendTheActionForTheItemAlreadySelectedButNothingForCode)
+{
+    m_control.choose(0);
+    EXPECT_EQ(m_chosen.size(), 1);
+    m_control.select(1);
+    EXPECT_EQ(m_chosen.size(), 1);
+}
+
+TEST_F(PopUps, StayAsTheyAreUnderTheWheel)
+{
+    QWheelEvent wheel({5, 5}, m_control.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&m_control, &wheel);
+    EXPECT_EQ(m_control.currentIndex(), 0);
+}
+
+TEST(PopUpItems, KeepTheSelectedIndexWhenTheyComeAndGo)
+{
+    PopUpControl menu;
+    EXPECT_EQ(menu.currentIndex(), -1);
+    menu.insertTitle("a", 0);
+    EXPECT_EQ(menu.currentIndex(), -1); // nothing was selected
+    menu.insertTitle("b", 99);          // appends
+    menu.select(1);
+    menu.insertTitle("front", 0);
+    EXPECT_EQ(menu.currentIndex(), 1);
+    menu.removeAt(2);
+    EXPECT_EQ(menu.currentIndex(), 1);
+    menu.removeAt(0);
+    EXPECT_EQ(menu.currentIndex(), 0); // cut to the last item
+    menu.removeAt(5);
+    EXPECT_EQ(menu.count(), 1);
+    menu.removeAt(0);
+    EXPECT_EQ(menu.currentIndex(), -1);
+}
+
+TEST(PopUpItems, ThatDoNotExistCannotBeSelected)
+{
+    PopUpControl menu;
+    menu.insertTitle("a", 0);
+    menu.select(0);
+    menu.select(1);
+    menu.select(-1);
+    EXPECT_EQ(menu.currentIndex(), 0);
+}
+
+using Boxes = InWindow<CheckControl>;
+
+TEST_F(Boxes, FlipUnderAPersonAndTakeAnyNumberFromCode)
+{
+    QSignalSpy clicked(&m_control, &QAbstractButton::clicked);
+    QTest::mouseClick(&m_control, Qt::LeftButton, {}, {8, 20});
+    EXPECT_EQ(m_control.state(), 1);
+    QTest::keyClick(&m_control, Qt::Key_Space);
+    EXPECT_EQ(m_control.state(), 0);
+    EXPECT_EQ(clicked.size(), 2);
+    m_control.setState(7);
+    EXPECT_EQ(m_control.state(), 1);
+    m_control.setState(0);
+    EXPECT_EQ(m_control.state(), 0);
+    EXPECT_EQ(clicked.size(), 2);
+}
+
+class Radios : public InWindow<RadioControl>
+{
+protected:
+    void SetUp() override
+    {
+        m_control.setRows({"a", "b", "c"});
+        InWindow::SetUp();
+        m_control.resize(200, 100);
+    }
+    QSignalSpy m_chosen{&m_control, &RadioControl::chosen};
+};
+
+TEST_F(Radios, StartWithoutARowAndIgnoreRowsThatTheyDoNotHave)
+{
+    EXPECT_EQ(m_control.selectedRow(), -1);
+    m_control.select(3);
+    m_control.select(-1);
+    EXPECT_EQ(m_control.selectedRow(), -1);
+    m_control.select(1);
+    EXPECT_EQ(m_control.selectedRow(), 1);
+    EXPECT_EQ(m_chosen.size(), 0);
+}
+
+TEST_F(Radios, SendTheActionUnderMouseAndArrowKeys)
+{
+    const auto buttons = m_control.findChildren<QRadioButton *>();
+    QTest::mouseClick(buttons[0], Qt::LeftButton, {}, {8, buttons[0]->height() / 2});
+    EXPECT_EQ(m_control.selectedRow(), 0);
+    EXPECT_EQ(m_chosen.size(), 1);
+    buttons[0]->setFocus();
+    QTest::keyClick(buttons[0], Qt::Key_Down);
+    EXPECT_EQ(m_control.selectedRow(), 1);
+    EXPECT_EQ(m_chosen.size(), 2);
+}
+
+class Steppers : public InWindow<StepperControl>
+{
+protected:
+    QSignalSpy m_stepped{&m_control, &StepperControl::stepped};
+};
+
+TEST_F(Steppers, HoldTheirValueWithinTheRangeAndNeverWrap)
+{
+    m_control.setValue(120);
+    EXPECT_EQ(m_control.value(), 99);
+    m_control.step(1);
+    EXPECT_EQ(m_control.value(), 99);
+    m_control.setValue(-1);
+    EXPECT_EQ(m_control.value(), 0);
+    m_control.step(-1);
+    EXPECT_EQ(m_control.value(), 0);
+    EXPECT_EQ(m_stepped.size(), 2); // a click sends its action all the same
+}
+
+TEST_F(Steppers, StepUnderMouseAndArrowKeys)
+{
+    const auto arrows = m_control.findChildren<QToolButton *>();
+    QTest::mouseClick(arrows[0], Qt::LeftButton);
+    EXPECT_EQ(m_control.value(), 1);
+    QTest::mouseClick(arrows[1], Qt::LeftButton);
+    EXPECT_EQ(m_control.value(), 0);
+    m_control.setFocus();
+    QTest::keyClick(&m_control, Qt::Key_Up);
+    m_control.setIncrement(0.1);
+    QTest::keyClick(&m_control, Qt::Key_Down);
+    EXPECT_DOUBLE_EQ(m_control.value(), 0.9);
+    EXPECT_EQ(m_stepped.size(), 4);
+}
+
+class Fields : public InWindow<FieldControl>
+{
+protected:
+    QSignalSpy m_edited{&m_control, &FieldControl::edited};
+    QSignalSpy m_entered{&m_control, &FieldControl::entered};
+    QSignalSpy m_ended{&m_control, &FieldControl::editingEnded};
+};
+
+TEST_F(Fields, ReportEachEditOfAPersonAndNoneOfCode)
+{
+    QTest::keyClicks(&m_control, "12");
+    EXPECT_EQ(m_edited.size(), 2);
+    m_control.setStringValue("345");
+    EXPECT_EQ(m_edited.size(), 2);
+    m_control.paste("6");
+    EXPECT_EQ(m_edited.size(), 3);
+}
+
+TEST_F(Fields, EndEditingWithReturnAndNotByLosingTheFocus)
+{
+    auto *const button = new QPushButton(&m_window);
+    button->show();
+    m_control.setFocus();
+    QTest::keyClick(&m_control, Qt::Key_Return);
+    EXPECT_EQ(m_entered.size(), 1);
+    EXPECT_EQ(m_ended.size(), 1);
+    QTest::keyClick(&m_control, Qt::Key_Tab);
+    EXPECT_FALSE(m_control.hasFocus()); // nobody is held in the field
+    EXPECT_EQ(m_ended.size(), 1);
+}
+
+TEST_F(Fields, KeepTheCursorWhenCodeCorrectsTheText)
+{
+    m_control.setStringValue("1234");
+    m_control.setCursorPosition(2);
+    m_control.setStringValue("134");
+    EXPECT_EQ(m_control.cursorPosition(), 2);
+    m_control.setStringValue("1");
+    EXPECT_EQ(m_control.cursorPosition(), 1);
+}
+
+TEST_F(Fields, TakeTheFocusOnlyWhereAPersonMayType)
+{
+    auto *const button = new QPushButton(&m_window);
+    button->show();
+    button->setFocus();
+    TextField field;
+    ASSERT_TRUE(field.connect(&m_control));
+    field.setEditable(false);
+    field.becomeFirstResponder();
+    EXPECT_FALSE(m_control.hasFocus());
+    field.setEditable(true);
+    field.becomeFirstResponder();
+    EXPECT_TRUE(m_control.hasFocus());
+}
+
+TEST(Texts, ShowAnAmpersandAsItIs)
+{
+    QWidget window;
+    LabelControl label(&window);
+    LabelControl buddy(&window);
+    label.setBuddy(&buddy);
+    label.setStringValue("Cut & Feed");
+    EXPECT_EQ(label.stringValue(), "Cut & Feed");
+    EXPECT_EQ(label.text(), "Cut && Feed"); // Qt's way to write it
+    CheckControl box(&window);
+    box.setTitle("R&D");
+    EXPECT_EQ(box.title(), "R&D");
+    EXPECT_EQ(box.shortcut(), QKeySequence());
+    label.setStringValue("<b>bold</b>");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+}
+
+class TextColors : public testing::Test
+{
+protected:
+    static QPalette palette(QColor window, QColor text, QColor disabled)
+    {
+        QPalette palette;
+        palette.setColor(QPalette::Window, window);
+        for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+            palette.setColor(role, text);
+            palette.setColor(QPalette::Disabled, role, disabled);
+        }
+        return palette;
+    }
+    QWidget m_window;
+    LabelControl &m_label = *new LabelControl(&m_window);
+};
+
+TEST_F(TextColors, FollowADarkPalette)
+{
+    m_window.setPalette(palette(Qt::black, Qt::white, Qt::darkGray));
+    EXPECT_EQ(m_label.palette().color(QPalette::WindowText), QColor(Qt::white));
+    m_label.setTextColor(TextColor::disabledControl);
+    EXPECT_EQ(m_label.palette().color(QPalette::Active, QPalette::WindowText), QColor(Qt::darkGray));
+    m_label.setTextColor(TextColor::control);
+    EXPECT_EQ(m_label.palette().color(QPalette::WindowText), QColor(Qt::white));
+}
+
+TEST_F(TextColors, FollowAPaletteThatChangesLater)
+{
+    m_label.setTextColor(TextColor::disabledControl);
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(palette(Qt::black, Qt::white, Qt::cyan));
+    QApplication::processEvents();
+    EXPECT_EQ(m_label.palette().color(QPalette::Active, QPalette::WindowText), QColor(Qt::cyan));
+    QApplication::setPalette(before);
+    QApplication::processEvents();
+    EXPECT_EQ(m_label.palette().color(QPalette::Active, QPalette::WindowText),
+              before.color(QPalette::Disabled, QPalette::WindowText));
+}
+
+TEST(Alerts, ShowAMessageBoxWithTheirTexts)
+{
+    Alert alert;
+    alert.setMessageText("What");
+    alert.setInformativeText("Why");
+    alert.addButtonWithTitle("OK");
+    QString seen;
+    QTimer::singleShot(0, [&] {
+        auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        seen = box->text() + '/' + box->informativeText() + '/' + box->buttons().first()->text();
+        EXPECT_EQ(box->icon(), QMessageBox::Warning);
+        box->buttons().first()->click();
+    });
+    alert.runModal();
+    EXPECT_EQ(seen, "What/Why/OK");
+}
+
+TEST(Alerts, GoToWhoeverPresentsThem)
+{
+    QStringList seen;
+    Alert::setPresenter([&](const Alert &alert) { seen.append(alert.messageText()); });
+    Alert alert;
+    alert.setMessageText("What");
+    alert.runModal();
+    Alert::setPresenter({});
+    EXPECT_EQ(seen, QStringList("What"));
+}
+
+} // namespace

@@ -1,0 +1,217 @@
+// What the platform gives a panel beside controls: bundles, defaults, notifications, versions, numbers, the log.
+#include "Messages.h"
+
+#include "Foundation/Bundle.h"
+#include "Foundation/Locale.h"
+#include "Foundation/NotificationCenter.h"
+#include "Foundation/SystemLog.h"
+#include "Foundation/SystemVersion.h"
+#include "Foundation/Text.h"
+#include "Foundation/UserDefaults.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+
+using namespace foundation;
+
+namespace {
+
+struct Number
+{
+    QString text;
+    double value;
+    int integer;
+};
+
+void PrintTo(const Number &row, std::ostream *out) { *out << '"' << row.text.left(30).toStdString() << '"'; }
+
+class Numbers : public testing::TestWithParam<Number>
+{};
+
+TEST_P(Numbers, AreTheLongestPrefixInTheCLocale)
+{
+    EXPECT_DOUBLE_EQ(doubleValue(GetParam().text), GetParam().value);
+    EXPECT_EQ(integerValue(GetParam().text), GetParam().integer);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, Numbers,
+                         testing::Values(Number{"", 0, 0}, Number{"26", 26, 26}, Number{"1.5", 1.5, 1},
+                                         Number{"1,5", 1, 1}, Number{"1.5x", 1.5, 1}, Number{"  7", 7, 7},
+                                         Number{"-3.5", -3.5, -3}, Number{"+3", 3, 3}, Number{"+-3", 0, 0},
+                                         Number{".5", 0.5, 0}, Number{".", 0, 0}, Number{"1.", 1, 1},
+                                         Number{"x1", 0, 0}, Number{"inf", 0, 0}, Number{"nan", 0, 0},
+                                         Number{"-inf", 0, 0}, Number{"0x10", 0, 0}, Number{"1e2", 100, 1},
+                                         Number{QString::fromUtf8("٣"), 0, 0}, Number{"007", 7, 7}));
+
+TEST(NumbersInText, OfTenThousandDigitsAreHeldInRange)
+{
+    EXPECT_TRUE(std::isinf(doubleValue(QString(10000, '9'))));
+    EXPECT_EQ(integerValue(QString(10000, '9')), std::numeric_limits<int>::max());
+    EXPECT_EQ(integerValue('-' + QString(10000, '9')), std::numeric_limits<int>::min());
+}
+
+TEST(NumbersInText, ShowFifteenDigits)
+{
+    EXPECT_EQ(stringFromDouble(51), "51");
+    EXPECT_EQ(stringFromDouble(0.1), "0.1");
+    EXPECT_EQ(stringFromDouble(1.0 / 3), "0.333333333333333");
+}
+
+TEST(Points, AreTwoNumbersInBraces)
+{
+    EXPECT_EQ(pointFromString("{12, 34}"), QPointF(12, 34));
+    EXPECT_EQ(pointFromString(" { -1.5 ,2 } "), QPointF(-1.5, 2));
+    for (const char *text : {"", "12, 34", "{12}", "{}", "{a, b}", "{1, 2", "{1, 2, 3}"})
+        EXPECT_EQ(pointFromString(text), QPointF(0, 0)) << text;
+}
+
+TEST(Bytes, AreDecodedOrNil)
+{
+    EXPECT_EQ(stringFromBytes("Grün", StringEncoding::utf8), QString("Grün"));
+    EXPECT_EQ(stringFromBytes("Gr\xfcn", StringEncoding::utf8), std::nullopt);
+    EXPECT_EQ(stringFromBytes("Grün", StringEncoding::ascii), std::nullopt);
+    EXPECT_EQ(stringFromBytes("ON", StringEncoding::ascii), QString("ON"));
+    EXPECT_EQ(stringFromBytes(nullptr, StringEncoding::utf8), std::nullopt);
+    ASSERT_TRUE(stringFromBytes("", StringEncoding::utf8)); // empty is not nil
+}
+
+struct Version
+{
+    const char *text;
+    bool readable;
+    std::int32_t packed;
+};
+
+class Versions : public testing::TestWithParam<Version>
+{};
+
+TEST_P(Versions, ArePackedAsDecimalDigits)
+{
+    const auto version = systemVersionFromString(GetParam().text);
+    ASSERT_EQ(version.has_value(), GetParam().readable) << GetParam().text;
+    if (!version)
+        return;
+    setSystemVersion(version);
+    std::int32_t packed = 0;
+    EXPECT_EQ(Gestalt(gestaltSystemVersion, &packed), 0);
+    EXPECT_EQ(packed, GetParam().packed);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, Versions,
+                         testing::Values(Version{"10.5.0", true, 0x1050}, Version{"10.6.8", true, 0x1068},
+                                         Version{"10.15.7", true, 0x1097}, Version{"11.0.0", true, 0x1100},
+                                         Version{"9.2.2", true, 0x0922}, Version{"", false, 0}, Version{"11", false, 0},
+                                         Version{"11.0", false, 0}, Version{"11.0.0.0", false, 0},
+                                         Version{"11.0.x", false, 0}, Version{"-1.0.0", false, 0}));
+
+TEST(Gestalt, AnswersPartsAndFailsWhereItDoesNotKnow)
+{
+    setSystemVersion(SystemVersion{10, 5, 8});
+    std::int32_t answer = -1;
+    EXPECT_EQ(Gestalt(gestaltSystemVersionMajor, &answer), 0);
+    EXPECT_EQ(answer, 10);
+    EXPECT_EQ(Gestalt(gestaltSystemVersionMinor, &answer), 0);
+    EXPECT_EQ(answer, 5);
+    EXPECT_EQ(Gestalt(gestaltSystemVersionBugFix, &answer), 0);
+    EXPECT_EQ(answer, 8);
+    EXPECT_NE(Gestalt(0x12345678, &answer), 0);
+    EXPECT_EQ(answer, 8);
+    setSystemVersion(std::nullopt);
+    EXPECT_NE(Gestalt(gestaltSystemVersion, &answer), 0);
+    EXPECT_EQ(answer, 8); // untouched
+}
+
+TEST(Metric, IsEveryLocaleThatDoesNotMeasureInUSUnits)
+{
+    const auto metric = [](const char *name) {
+        Locale::current().set(QLocale(name));
+        return IsMetric();
+    };
+    EXPECT_FALSE(metric("en_US"));
+    EXPECT_TRUE(metric("de_DE"));
+    EXPECT_TRUE(metric("en_GB"));
+    EXPECT_TRUE(metric("ja_JP"));
+}
+
+TEST(Defaults, AreKeptInTheirStore)
+{
+    const QTemporaryDir directory;
+    auto &defaults = UserDefaults::standard();
+    const auto store = [&] { return std::make_unique<QSettings>(directory.filePath("d.ini"), QSettings::IniFormat); };
+    defaults.useStore(store());
+    EXPECT_EQ(defaults.objectForKey("QnPerforated"), std::nullopt);
+    defaults.setObjectForKey("YES", "QnPerforated");
+    defaults.useStore(store()); // another object over the same file
+    EXPECT_EQ(defaults.objectForKey("QnPerforated"), QString("YES"));
+    defaults.removeObjectForKey("QnPerforated");
+    EXPECT_EQ(defaults.objectForKey("QnPerforated"), std::nullopt);
+    defaults.useStore(nullptr);
+}
+
+class Notifications : public testing::Test
+{
+protected:
+    NotificationCenter::Handler noting(const QString &name)
+    {
+        return [this, name] { m_heard.append(name); };
+    }
+    NotificationCenter m_center;
+    QStringList m_heard;
+    int m_first = 0, m_second = 0, m_third = 0;
+};
+
+TEST_F(Notifications, ReachObserversInTheOrderOfRegistration)
+{
+    m_center.addObserver(&m_second, "paper", noting("b"));
+    m_center.addObserver(&m_first, "paper", noting("a"));
+    m_center.addObserver(&m_third, "other", noting("c"));
+    m_center.post("paper");
+    EXPECT_EQ(m_heard, QStringList({"b", "a"}));
+    m_center.removeObserver(&m_second, "paper");
+    m_center.removeObserver(&m_third, "paper"); // not registered for it
+    m_center.post("paper");
+    EXPECT_EQ(m_heard, QStringList({"b", "a", "a"}));
+}
+
+TEST_F(Notifications, AllowObserversToComeAndGoMeanwhile)
+{
+    m_center.addObserver(&m_first, "paper", [this] {
+        m_heard.append("a");
+        m_center.removeObserver(&m_first, "paper");
+        m_center.removeObserver(&m_second, "paper");
+        m_center.addObserver(&m_third, "paper", noting("c"));
+    });
+    m_center.addObserver(&m_second, "paper", noting("b"));
+    m_center.post("paper");
+    EXPECT_EQ(m_heard, QStringList("a")); // the removed one is not called, the new one hears of the next
+    m_center.post("paper");
+    EXPECT_EQ(m_heard, QStringList({"a", "c"}));
+}
+
+TEST(Log, FillsFormatsAndSurvivesBadOnes)
+{
+    const auto filled = [](const QString &format, std::initializer_list<LogArgument> arguments) {
+        return formattedString(format, {arguments.begin(), arguments.size()});
+    };
+    EXPECT_EQ(filled("%@ %s %d %i %f %%", {QString("a"), "b", 3, 4, 1.5}), "a b 3 4 1.500000 %");
+    EXPECT_EQ(filled("%@ and %@", {"one"}), "one and (null)");
+    EXPECT_EQ(filled("%@", {static_cast<const char *>(nullptr)}), "(null)");
+    EXPECT_EQ(filled("100%", {}), "100%");
+    EXPECT_EQ(filled("%q %n", {}), "%q %n");
+    EXPECT_EQ(filled("%p", {static_cast<const void *>(nullptr)}), "0x0");
+    EXPECT_EQ(filled("no letters", {"unused"}), "no letters");
+}
+
+TEST(Log, GoesToQtsMessages)
+{
+    support::RecordMessages messages;
+    NSLog("start is %@", {"QnMedia"});
+    EXPECT_EQ(messages.messages(), QStringList("start is QnMedia"));
+}
+
+} // namespace
