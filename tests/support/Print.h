@@ -1,8 +1,10 @@
 // How Qt's values show in the words of a failing test.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <ostream>
 
 inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
+inline void PrintTo(const QByteArray &bytes, std::ostream *out) { *out << '"' << bytes.toStdString() << '"'; }

@@ -1,0 +1,56 @@
+// A driver that prints nothing and writes down what it was told: arguments, and the choices marked in its PPD.
+// Runs under the test's own CUPS server, as any filter does.
+#include "Printing/ppd_api.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+namespace {
+
+void recordMarks(std::ostream &out, const char *arguments)
+{
+    const printing::PPDFile ppd(ppdOpenFile(std::getenv("PPD")));
+    if (!ppd)
+        return;
+    ppdMarkDefaults(ppd.get());
+    cups_option_t *options = nullptr;
+    const int count = cupsParseOptions(arguments, 0, &options);
+    cupsMarkOptions(ppd.get(), count, options);
+    for (auto *option = ppdFirstOption(ppd.get()); option; option = ppdNextOption(ppd.get()))
+        if (const ppd_choice_t *choice = ppdFindMarkedChoice(ppd.get(), option->keyword))
+            out << "mark " << option->keyword << '=' << choice->choice << '\n';
+    if (ppd_coption_t *custom = ppdFindCustomOption(ppd.get(), "QnPaperFeed"))
+        for (auto *parameter = ppdFirstCustomParam(custom); parameter; parameter = ppdNextCustomParam(custom))
+            out << "parameter " << parameter->name << '=' << parameter->current.custom_real << '\n';
+    cupsFreeOptions(count, options);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const char *const folder = std::getenv("QN_RECORD_DIR");
+    if (argc < 6 || !folder)
+        return 1;
+    const std::string path = std::string(folder) + "/job-" + argv[1];
+    {
+        std::ofstream out(path + ".part");
+        out << "title " << argv[3] << "\ncopies " << argv[4] << "\noptions " << argv[5] << '\n';
+        recordMarks(out, argv[5]);
+        std::ifstream file;
+        if (argc > 6)
+            file.open(argv[6], std::ios::binary);
+        std::istream &document = argc > 6 ? file : std::cin;
+        std::size_t size = 0;
+        char part[4096];
+        while (document.read(part, sizeof(part)) || document.gcount() > 0) {
+            size += static_cast<std::size_t>(document.gcount());
+            std::cout.write(part, document.gcount());
+        }
+        out << "size " << size << '\n';
+    }
+    return std::rename((path + ".part").c_str(), (path + ".txt").c_str());
+}
