@@ -1,0 +1,207 @@
+// The window under a person's hands.
+#include "DialogWindow.h"
+
+#include "Foundation/Locale.h"
+#include "Foundation/UserDefaults.h"
+#include "PPDText.h"
+#include "PaperChooser.h"
+#include "Print.h"
+#include "SummaryView.h"
+#include "Toolkit/Alert.h"
+#include "Toolkit/Controls.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTabBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace host;
+
+namespace {
+
+class Window : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        foundation::Locale::current().set(QLocale("de_DE"));
+        foundation::UserDefaults::standard().useStore(
+            std::make_unique<QSettings>(m_directory.filePath("defaults.ini"), QSettings::IniFormat));
+        toolkit::Alert::setPresenter([this](const toolkit::Alert &alert) { m_alerts.append(alert.messageText()); });
+        QString error;
+        m_window =
+            std::make_unique<DialogWindow>(Document::open(QN_SOURCE_DIR "/examples/documents/ticket.pdf", &error));
+        DialogSession::Parameters parameters;
+        parameters.ppdPath = support::PPDText().allOptions().file();
+        auto session = DialogSession::open(parameters, &error);
+        ASSERT_TRUE(session) << error.toStdString();
+        m_session = session.get();
+        m_window->offerPrinters({"Test"}, "Test");
+        m_window->usePrinter(std::move(session), std::make_unique<FolderSink>(m_out));
+        m_window->show();
+        QApplication::setActiveWindow(m_window.get());
+        QApplication::processEvents();
+    }
+    void TearDown() override
+    {
+        m_window.reset();
+        toolkit::Alert::setPresenter({});
+    }
+    template <class Widget>
+    Widget *find(const QString &name = {})
+    {
+        return m_window->findChild<Widget *>(name);
+    }
+    QPushButton *button(const QString &text)
+    {
+        for (auto *each : m_window->findChildren<QPushButton *>())
+            if (each->text() == text)
+                return each;
+        return nullptr;
+    }
+    QStringList summary() const
+    {
+        QStringList rows;
+        const auto *view = m_window->findChild<SummaryView *>();
+        for (int i = 0; i < view->topLevelItemCount(); ++i)
+            for (int j = 0; j < view->topLevelItem(i)->childCount(); ++j)
+                rows.append(view->topLevelItem(i)->child(j)->text(0) + '=' + view->topLevelItem(i)->child(j)->text(1));
+        return rows;
+    }
+    void choosePaper(const QString &name)
+    {
+        auto *const papers = find<PaperChooser>()->findChild<QComboBox *>();
+        papers->setCurrentIndex(papers->findData(name));
+        Q_EMIT papers->activated(papers->currentIndex());
+        QApplication::processEvents();
+    }
+
+    QTemporaryDir m_directory;
+    QString m_out = m_directory.filePath("out");
+    QStringList m_alerts;
+    std::unique_ptr<DialogWindow> m_window;
+    DialogSession *m_session = nullptr;
+};
+
+TEST_F(Window, ShowsTheFirstPanelPreparedAndTheOthersRightAfter)
+{
+    EXPECT_EQ(m_session->panelOnDisplay(), m_session->panel("basic"));
+    EXPECT_TRUE(m_session->panel("basic")->panelView()->isVisible());
+    EXPECT_TRUE(m_session->panel("advanced")->inspection().isInterfaceLoaded());
+    EXPECT_FALSE(m_session->panel("advanced")->panelView()->isVisible());
+}
+
+TEST_F(Window, GoesFromPanelToPanelByKey)
+{
+    auto *const tabs = find<QTabBar>();
+    EXPECT_EQ(tabs->count(), 2);
+    tabs->setFocus();
+    QTest::keyClick(tabs, Qt::Key_Right);
+    EXPECT_EQ(m_session->panelOnDisplay(), m_session->panel("advanced"));
+    EXPECT_TRUE(m_session->panel("advanced")->panelView()->isVisible());
+    EXPECT_FALSE(m_session->panel("basic")->panelView()->isVisible());
+}
+
+TEST_F(Window, ShowsTheSummaryAgainAfterEveryChange)
+{
+    ASSERT_TRUE(summary().contains("Paper Type=Thermal Paper"));
+    auto *const media = find<toolkit::PopUpControl>("mMediaPopUp");
+    media->setFocus();
+    QTest::keyClick(media, Qt::Key_Down);
+    QApplication::processEvents();
+    EXPECT_TRUE(summary().contains("Paper Type=Thermal Copy Paper"));
+}
+
+TEST_F(Window, GoesThroughThePanelsWithAnotherPaper)
+{
+    choosePaper("PerfA4");
+    EXPECT_EQ(find<toolkit::PopUpControl>("mFormFeedModePopUp")->currentIndex(), 2);
+    EXPECT_TRUE(summary().contains("Form Feed=End of Page"));
+}
+
+TEST_F(Window, OffersASizeOfTheUsersOwnWithinThePPDsLimits)
+{
+    choosePaper("customsize");
+    const auto sides = find<PaperChooser>()->findChildren<QDoubleSpinBox *>();
+    ASSERT_EQ(sides.size(), 2);
+    EXPECT_TRUE(sides[0]->isVisible());
+    sides[0]->setValue(100);
+    sides[1]->setValue(9999);
+    Q_EMIT sides[1]->editingFinished();
+    ASSERT_TRUE(m_session->paper().size);
+    EXPECT_NEAR(m_session->paper().size->width, 100 * 72 / 25.4, 0.001);
+    EXPECT_LE(m_session->paper().size->height, 3600);
+    EXPECT_EQ(m_session->paper().name, QString("customsize"));
+}
+
+TEST_F(Window, DoesNotPrintWhenReturnEndsTheAmount)
+{
+    QSignalSpy printed(m_window.get(), &DialogWindow::printed);
+    auto *const amount = find<toolkit::FieldControl>("mPaperFeedTxt");
+    amount->setFocus();
+    QTest::keyClicks(amount, "5");
+    QTest::keyClick(amount, Qt::Key_Return);
+    QTest::qWait(50);
+    EXPECT_EQ(printed.size(), 0);
+    EXPECT_TRUE(m_window->isVisible());
+}
+
+TEST_F(Window, PrintsIntoTheFolderAndCloses)
+{
+    QSignalSpy printed(m_window.get(), &DialogWindow::printed);
+    QTest::mouseClick(button("&Print"), Qt::LeftButton);
+    ASSERT_TRUE(printed.wait(10000));
+    EXPECT_EQ(m_window->result(), QDialog::Accepted);
+    EXPECT_EQ(QDir(m_out).entryList(QDir::Files), QStringList({"ticket.json", "ticket.pdf"}));
+}
+
+TEST_F(Window, StaysOpenWhenAPanelRefuses)
+{
+    auto *const amount = find<toolkit::FieldControl>("mPaperFeedTxt");
+    amount->paste("0");
+    QTest::mouseClick(button("&Print"), Qt::LeftButton);
+    EXPECT_EQ(m_alerts, QStringList("The paper feed amount is out of range."));
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_FALSE(QDir(m_out).exists());
+}
+
+TEST_F(Window, SaysWhyAJobFailedAndStaysOpen)
+{
+    QFile file(m_out); // a file in the folder's place
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QTest::mouseClick(button("&Print"), Qt::LeftButton);
+    const auto said = [this] {
+        for (const auto *label : m_window->findChildren<QLabel *>())
+            if (label->isVisible() && label->text().startsWith(m_out))
+                return true;
+        return false;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(said, 10000));
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_TRUE(button("&Print")->isEnabled());
+}
+
+TEST_F(Window, ClosesWithEscape)
+{
+    QTest::keyClick(m_window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(m_window->isVisible());
+    EXPECT_EQ(m_window->result(), QDialog::Rejected);
+}
+
+TEST_F(Window, HasAPictureOfItself)
+{
+    const QImage picture = m_window->grab().toImage();
+    EXPECT_GT(picture.width(), 800);
+    EXPECT_GT(picture.height(), 400);
+}
+
+} // namespace

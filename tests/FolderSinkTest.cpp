@@ -1,0 +1,120 @@
+// Jobs that go into a folder: whole, beside each other, or not at all.
+#include "Job.h"
+
+#include "Print.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace host;
+
+namespace {
+
+class Folder : public testing::Test
+{
+protected:
+    void SetUp() override { document("ticket.pdf", "%PDF-1.4 a ticket"); }
+    void document(const QString &name, const QByteArray &content)
+    {
+        QFile file(m_directory.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        QString error;
+        m_document = Document::open(file.fileName(), &error);
+        ASSERT_TRUE(m_document) << error.toStdString();
+    }
+    JobSink::Result submit(
+        const QString &title = "ticket.pdf", const JobProgress &progress = [](qint64, qint64) { return true; })
+    {
+        FolderSink sink(m_out);
+        return sink.submit({*m_document, title, 2, {{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.023622"}}}, progress);
+    }
+    QStringList files() const { return QDir(m_out).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    QByteArray content(const QString &name) const
+    {
+        QFile file(m_out + '/' + name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can't be read)");
+    }
+
+    QTemporaryDir m_directory;
+    QString m_out = m_directory.filePath("out/of/jobs");
+    std::unique_ptr<Document> m_document;
+};
+
+TEST_F(Folder, ReceivesTheDocumentAndATicketWithEveryOption)
+{
+    const auto result = submit();
+    ASSERT_TRUE(result.done) << result.sentence.toStdString();
+    EXPECT_EQ(result.sentence, m_out + "/ticket.pdf");
+    EXPECT_EQ(files(), QStringList({"ticket.json", "ticket.pdf"}));
+    EXPECT_EQ(content("ticket.pdf"), "%PDF-1.4 a ticket");
+    QJsonObject ticket = QJsonDocument::fromJson(content("ticket.json")).object();
+    EXPECT_FALSE(ticket.take("created").toString().isEmpty());
+    EXPECT_EQ(ticket, (QJsonObject{{"title", "ticket.pdf"},
+                                   {"document", "ticket.pdf"},
+                                   {"format", "application/pdf"},
+                                   {"copies", 2},
+                                   {"options", QJsonObject{{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.023622"}}}}));
+}
+
+TEST_F(Folder, NeverLosesAnEarlierJob)
+{
+    ASSERT_TRUE(submit().done);
+    ASSERT_TRUE(submit().done);
+    document("ticket.txt", "words");
+    ASSERT_TRUE(submit().done); // another extension, the same ticket name
+    EXPECT_EQ(files(), QStringList({"ticket-2.json", "ticket-2.pdf", "ticket-3.json", "ticket-3.txt", "ticket.json",
+                                    "ticket.pdf"}));
+    EXPECT_EQ(content("ticket.pdf"), "%PDF-1.4 a ticket");
+}
+
+TEST_F(Folder, IsNotLeftByATitle)
+{
+    ASSERT_TRUE(submit("../../../escape.pdf").done);
+    ASSERT_TRUE(submit(".hidden").done);
+    ASSERT_TRUE(submit(QString(5000, 'x')).done);
+    EXPECT_EQ(files().size(), 6);
+    EXPECT_TRUE(files().contains("escape.pdf"));
+}
+
+TEST_F(Folder, KeepsNothingOfAJobThatIsStopped)
+{
+    const auto result = submit("ticket.pdf", [](qint64, qint64) { return false; });
+    EXPECT_FALSE(result.done);
+    EXPECT_EQ(result.sentence, m_out + ": stopped");
+    EXPECT_TRUE(files().isEmpty());
+}
+
+TEST_F(Folder, KeepsNothingWhenTheDiskIsFull)
+{
+    document("large.txt", QByteArray(400000, 'x'));
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit small{100000, limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const auto result = submit();
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, before);
+    EXPECT_FALSE(result.done);
+    EXPECT_TRUE(result.sentence.startsWith(m_out + ": ")) << result.sentence.toStdString();
+    EXPECT_TRUE(files().isEmpty()) << files().join(' ').toStdString();
+}
+
+TEST_F(Folder, ThatCannotBeWrittenIsNamed)
+{
+    m_out = "/proc/none";
+    EXPECT_EQ(submit().sentence, "/proc/none: can't be made");
+    m_out = m_directory.filePath("ticket.pdf"); // a file
+    EXPECT_FALSE(submit().done);
+}
+
+} // namespace
