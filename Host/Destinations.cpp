@@ -42,6 +42,9 @@ std::shared_ptr<FileToRemove> fetchPPD(http_t *http, const QByteArray &name)
 
 HttpConnection connectToServer()
 {
+    // Of each thread its own: without it the library would ask for a password on the terminal, and wait there.
+    cupsSetPasswordCB2(
+        [](const char *, http_t *, const char *, const char *, void *) -> const char * { return nullptr; }, nullptr);
     return HttpConnection(
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMilliseconds, nullptr));
 }

@@ -74,13 +74,13 @@ void DialogWindow::layOut()
 {
     auto *form = new QFormLayout;
     form->addRow(tr("P&rinter:"), m_printers);
-    form->addRow(tr("Pa&per:"), m_paper);
+    form->addRow(tr("Pap&er:"), m_paper);
     form->addRow(tr("&Copies:"), m_copies);
     m_copies->setMaximumWidth(m_copies->sizeHint().width() * 2);
 
-    auto *buttons = new QDialogButtonBox;
-    m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
-    m_cancel = buttons->addButton(QDialogButtonBox::Cancel);
+    m_buttons = new QDialogButtonBox;
+    m_print = m_buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
+    m_cancel = m_buttons->addButton(QDialogButtonBox::Cancel);
     m_print->setDefault(true);
     m_print->setEnabled(false);
     connect(m_print, &QPushButton::clicked, this, &DialogWindow::print);
@@ -93,15 +93,15 @@ void DialogWindow::layOut()
     left->addWidget(m_panelSpace);
     left->addStretch();
 
-    auto *columns = new QHBoxLayout;
-    columns->addLayout(left);
-    columns->addWidget(m_summary, 1);
+    m_columns = new QHBoxLayout;
+    m_columns->addLayout(left);
+    m_columns->addWidget(m_summary, 1);
 
-    auto *column = new QVBoxLayout(this);
-    column->addLayout(columns, 1);
-    column->addWidget(m_message);
-    column->addWidget(m_progress);
-    column->addWidget(buttons);
+    m_column = new QVBoxLayout(this);
+    m_column->addLayout(m_columns, 1);
+    m_column->addWidget(m_message);
+    m_column->addWidget(m_progress);
+    m_column->addWidget(m_buttons);
 }
 
 void DialogWindow::setCopies(int copies) { m_copies->setValue(copies); }
@@ -176,10 +176,24 @@ void DialogWindow::showPanelAt(int index)
         if (auto *view = qobject_cast<QWidget *>(child))
             view->hide();
     QWidget *const view = panel->panelView();
-    view->setParent(m_panelSpace);
-    view->move(0, 0);
+    if (view->parentWidget() != m_panelSpace) {
+        view->setParent(m_panelSpace);
+        view->move(0, 0);
+        joinAfterThePanel();
+    }
     view->show();
     refreshSummary();
+}
+
+/// A view that joins the window late stands last in the order of Tab. What is below it on the screen joins once more.
+void DialogWindow::joinAfterThePanel()
+{
+    for (const auto &[part, place, stretch] : {std::tuple{static_cast<QWidget *>(m_summary), m_columns, 1},
+                                               std::tuple{static_cast<QWidget *>(m_buttons), m_column, 0}}) {
+        part->setParent(nullptr);
+        place->addWidget(part, stretch);
+        part->show();
+    }
 }
 
 void DialogWindow::refreshSummary()

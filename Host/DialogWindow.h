@@ -8,7 +8,9 @@
 
 #include <atomic>
 
+class QBoxLayout;
 class QComboBox;
+class QDialogButtonBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -57,6 +59,7 @@ private:
     void layOut();
     void offerPanels();
     void showPanelAt(int index);
+    void joinAfterThePanel();
     void refreshSummary();
     void print();
     void finish(const JobSink::Result &result);
@@ -76,6 +79,9 @@ private:
     SummaryView *m_summary;
     QLabel *m_message;
     QProgressBar *m_progress;
+    QBoxLayout *m_column;
+    QBoxLayout *m_columns;
+    QDialogButtonBox *m_buttons;
     QPushButton *m_print;
     QPushButton *m_cancel;
 };

@@ -134,7 +134,8 @@ void PPDDocument::adoptDefaults(const OptionValues &values)
         QString markAs;
         // Saved options give custom values with their prefix.
         const bool listed = option && canMark(*option, value, &markAs);
-        const QString bare = value.startsWith(kCustomPrefix) ? value.mid(std::strlen(kCustomPrefix)) : value;
+        const QString bare =
+            value.startsWith(kCustomPrefix) ? value.mid(static_cast<qsizetype>(std::strlen(kCustomPrefix))) : value;
         if (!option || (!listed && !canMark(*option, bare, &markAs)))
             continue;
         const QByteArray keywordOfChoice = markAs.startsWith(kCustomPrefix) ? QByteArray(kCustom) : markAs.toUtf8();

@@ -46,6 +46,7 @@ PaperChooser::PaperChooser(QWidget *parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_names, 1);
     row->addWidget(m_ownSize);
+    setFocusPolicy(Qt::ClickFocus); // or the label would not lead here; Tab finds the menu itself
     setFocusProxy(m_names);
     connect(m_names, &QComboBox::activated, this, &PaperChooser::choose);
 }

@@ -44,7 +44,8 @@ void SummaryView::show(const PDEPanels *panels)
         for (const QString &title : summary->displayOrder) {
             auto *row = new QTreeWidgetItem(heading, {title, summary->values.value(title)});
             row->setToolTip(1, summary->values.value(title));
-            row->setSizeHint(0, QSize(0, fontMetrics().height() + kRowPadding));
+            row->setSizeHint(0, QSize(fontMetrics().horizontalAdvance(title) + 2 * kRowPadding,
+                                      fontMetrics().height() + kRowPadding));
         }
     }
     expandAll();

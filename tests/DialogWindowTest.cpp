@@ -121,6 +121,47 @@ TEST_F(Window, ShowsTheSummaryAgainAfterEveryChange)
     EXPECT_TRUE(summary().contains("Paper Type=Thermal Copy Paper"));
 }
 
+TEST_F(Window, LeadsTabThroughItsControlsAsTheyStandAndBack)
+{
+    const QList<QWidget *> expected{find<toolkit::PopUpControl>("mDensityPopUp"),
+                                    find<toolkit::PopUpControl>("mMediaPopUp"),
+                                    find<toolkit::PopUpControl>("mFormFeedModePopUp"),
+                                    find<toolkit::PopUpControl>("mPerforatedPopUp"),
+                                    find<toolkit::FieldControl>("mPaperFeedTxt"),
+                                    find<toolkit::StepperControl>("mPaperFeedStepper"),
+                                    find<toolkit::PopUpControl>("mRollPrintPopUp"),
+                                    find<SummaryView>(),
+                                    button("&Print")};
+    find<QTabBar>()->setFocus();
+    for (QWidget *next : expected) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), next) << next->objectName().toStdString();
+    }
+    for (int i = 0; i < 20; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_NE(QApplication::focusWidget(), button("&Print")); // nothing held the focus
+}
+
+TEST_F(Window, HasRoomForEveryTitleOfTheSummary)
+{
+    const auto *const view = find<SummaryView>();
+    for (const char *title : {"Reverse Black and White", "Perforated Paper"})
+        EXPECT_GT(view->columnWidth(0), view->fontMetrics().horizontalAdvance(title)) << title;
+}
+
+TEST_F(Window, HasAMnemonicOfItsOwnForEachControl)
+{
+    QStringList mnemonics;
+    for (const auto *label : m_window->findChildren<QLabel *>())
+        if (label->buddy() && label->text().contains('&') && !label->text().contains("&&"))
+            mnemonics.append(label->text().section('&', 1, 1).left(1).toLower());
+    for (const auto *each : m_window->findChildren<QPushButton *>())
+        if (each->text().contains('&'))
+            mnemonics.append(each->text().section('&', 1, 1).left(1).toLower());
+    EXPECT_GE(mnemonics.size(), 4);
+    EXPECT_EQ(mnemonics.removeDuplicates(), 0) << mnemonics.join(' ').toStdString();
+}
+
 TEST_F(Window, GoesThroughThePanelsWithAnotherPaper)
 {
     choosePaper("PerfA4");

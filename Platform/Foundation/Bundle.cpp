@@ -81,7 +81,7 @@ void Bundle::loadTable(const QString &localization)
 
 QString Bundle::localizedString(const QString &key, const QString &value) const
 {
-    const QString text = m_table ? m_table->translate(kTableContext, key.toUtf8().constData()) : QString();
+    QString text = m_table ? m_table->translate(kTableContext, key.toUtf8().constData()) : QString();
     if (!text.isEmpty())
         return text;
     return value.isEmpty() ? key : value;
