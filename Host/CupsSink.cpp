@@ -20,24 +20,12 @@ struct Options
 
 QString lastError() { return QString::fromUtf8(cupsLastErrorString()); }
 
-/// Sends the content; nil when all of it went, otherwise what went wrong.
 std::optional<QString> stream(http_t *http, Document &document, const JobProgress &progress)
 {
-    qint64 done = 0;
-    document.rewind();
-    for (;;) {
-        const auto part = document.read();
-        if (!part)
-            return document.title() + ": can't be read any more";
-        if (part->isEmpty())
-            return std::nullopt;
-        if (cupsWriteRequestData(http, part->constData(), static_cast<std::size_t>(part->size())) !=
-            HTTP_STATUS_CONTINUE)
-            return lastError();
-        done += part->size();
-        if (!progress(done, document.size()))
-            return "stopped";
-    }
+    return passOn(document, progress, [http](const QByteArray &part) {
+        const auto status = cupsWriteRequestData(http, part.constData(), static_cast<std::size_t>(part.size()));
+        return status == HTTP_STATUS_CONTINUE ? std::nullopt : std::optional(lastError());
+    });
 }
 
 } // namespace

@@ -62,21 +62,12 @@ QString baseName(const QString &title)
 /// Nil when all went well; otherwise what went wrong.
 std::optional<QString> copyDocument(Document &document, QTemporaryFile &copy, const JobProgress &progress)
 {
-    qint64 done = 0;
-    document.rewind();
-    for (;;) {
-        const auto part = document.read();
-        if (!part)
-            return document.title() + ": can't be read any more";
-        if (part->isEmpty())
-            break;
-        if (copy.write(*part) != part->size())
-            return copy.errorString();
-        done += part->size();
-        if (!progress(done, document.size()))
-            return "stopped";
-    }
-    return complete(copy) ? std::nullopt : std::optional(copy.error() ? copy.errorString() : systemError());
+    const auto reason = passOn(document, progress, [&copy](const QByteArray &part) {
+        return copy.write(part) == part.size() ? std::nullopt : std::optional(copy.errorString());
+    });
+    if (reason || complete(copy))
+        return reason;
+    return copy.error() ? copy.errorString() : systemError();
 }
 
 } // namespace

@@ -34,6 +34,11 @@ public:
     virtual Result submit(const Job &job, const JobProgress &progress) = 0;
 };
 
+/// Hands the document's content to `write`, part by part. Nil when all of it went; otherwise what went wrong: what
+/// `write` answered, or that the document could not be read, or that `progress` stopped the job.
+std::optional<QString> passOn(Document &document, const JobProgress &progress,
+                              const std::function<std::optional<QString>(const QByteArray &part)> &write);
+
 /// Into a folder: a copy of the document, and beside it a ticket in JSON with every option. Never over another job.
 class FolderSink final : public JobSink
 {

@@ -1,7 +1,7 @@
 // Any bytes as a PPD: the dialog opens on it, or says in one sentence why not.
+#include "Offscreen.h"
 #include "Script.h"
 
-#include <QApplication>
 #include <QJsonDocument>
 #include <QTemporaryFile>
 
@@ -10,13 +10,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz";
-    static char *argv[] = {name, nullptr};
-    static const bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(argc, argv);
-    Q_UNUSED(offscreen)
-
+    useOffscreenApplication();
     QTemporaryFile file;
     if (!file.open() || file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size)) < 0)
         return 0;
