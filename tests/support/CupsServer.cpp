@@ -103,7 +103,6 @@ void CupsServer::lay()
          {"etc/ppd", "etc/ssl", "log", "run/certs", "cache", "spool/tmp", "bin/filter", "bin/backend", "rec"})
         folder.mkpath(name);
     ::chmod(QFile::encodeName(m_folder.path()).constData(), 0711);
-    ::mkdir(QFile::encodeName(path("runtime")).constData(), 0700);
     ::chmod(QFile::encodeName(path("rec")).constData(), 01777);
     if (const group *lp = ::geteuid() == 0 ? ::getgrnam("lp") : nullptr)
         for (const char *name : {"spool", "cache", "run"}) {
@@ -148,9 +147,10 @@ QProcessEnvironment CupsServer::environment() const
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("CUPS_SERVER", QString("127.0.0.1:%1").arg(m_port));
     environment.insert("HOME", m_folder.path()); // saved options of the test, not of the user
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        environment.remove(display); // nothing here needs one
     environment.insert("XDG_CONFIG_HOME", path("config"));
-    environment.insert("XDG_RUNTIME_DIR", path("runtime"));
+    environment.remove("XDG_RUNTIME_DIR");
     return environment;
 }
 
