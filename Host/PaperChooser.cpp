@@ -41,6 +41,7 @@ PaperChooser::PaperChooser(QWidget *parent)
     own->addWidget(m_width);
     own->addWidget(new QLabel("×"));
     own->addWidget(m_height);
+    m_ownSize->hide();
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
+#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -58,6 +59,19 @@ TEST_P(ExampleScripts, GiveTheirRecordedReplies)
 
 INSTANTIATE_TEST_SUITE_P(Each, ExampleScripts, testing::ValuesIn(exampleNames()),
                          [](const auto &row) { return QString(row.param).replace('-', '_').toStdString(); });
+
+TEST(ExamplePPDs, ConformToTheFormat)
+{
+    const QDir folder(QN_SOURCE_DIR "/examples/ppd");
+    const QStringList names = folder.entryList({"*.ppd"});
+    EXPECT_GE(names.size(), 3);
+    for (const QString &name : names) {
+        QProcess program;
+        program.start("cupstestppd", {"-q", folder.filePath(name)});
+        ASSERT_TRUE(program.waitForFinished(20000)) << "cupstestppd: " << program.errorString().toStdString();
+        EXPECT_EQ(program.exitCode(), 0) << name.toStdString();
+    }
+}
 
 TEST(ExampleScriptFiles, ExistForEveryKindOfPaper) { EXPECT_GE(exampleNames().size(), 5U); }
 

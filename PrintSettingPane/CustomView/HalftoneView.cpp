@@ -3,6 +3,7 @@
 
 #include "Foundation/Bundle.h"
 
+#include <QApplication>
 #include <QPainter>
 
 namespace {
@@ -13,6 +14,13 @@ constexpr std::array kPictures{"Binary", "Dither", "Diffusion"};
 /// Between the view's lower left corner and the picture's, in points. A deliberate margin.
 constexpr int kInset = 1;
 
+/// The picture, in the high density where the screen has the dots for it and the bundle has such a picture.
+QPixmap loaded(const QString &name, const foundation::Bundle &bundle)
+{
+    const auto dense = qApp->devicePixelRatio() > 1 ? bundle.pathForImageResource(name + "@2x") : std::nullopt;
+    return QPixmap(dense ? *dense : bundle.pathForImageResource(name).value_or(QString()));
+}
+
 } // namespace
 
 bool HalftoneView_v100_::initWithFrame(const QRect &frame, const foundation::Bundle &bundle)
@@ -21,8 +29,7 @@ bool HalftoneView_v100_::initWithFrame(const QRect &frame, const foundation::Bun
     setAttribute(Qt::WA_TransparentForMouseEvents);
     m_bundle = &bundle;
     for (std::size_t i = 0; i < kPictures.size(); ++i)
-        if (const auto path = bundle.pathForImageResource(kPictures[i]))
-            mHalfoneImg[i].load(*path); // takes the high-density picture beside it where the screen has the dots
+        mHalfoneImg[i] = loaded(kPictures[i], bundle);
     setAccessibleName(bundle.localizedString("AX_HalftonePreview"));
     mHlftnMatrix = {};
     return true;
