@@ -103,6 +103,23 @@ TEST_F(DamagedBundle, WithAnInterfaceOfOtherControlsConnectsWhatFits)
     EXPECT_TRUE(print());
 }
 
+TEST_F(DamagedBundle, WithAStepperThatStandsStillGoesFrom1To2)
+{
+    // Only such a stepper is at 1 after a click while the text is 1: the text becomes 2, the stepper keeps 1.
+    QFile original(QN_BUNDLE_DIR "/Resources/PrintSettingPDE.ui");
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray still = R"(name="increment"><double>0</double>)";
+    const QByteArray content = original.readAll().replace(R"(name="increment"><double>1</double>)", still);
+    ASSERT_TRUE(content.contains(still));
+    write("Resources/PrintSettingPDE.ui", content);
+    openCopy();
+    show("basic");
+    type("1");
+    step(1);
+    EXPECT_EQ(text("mPaperFeedTxt"), "2");
+    EXPECT_EQ(control("mPaperFeedStepper")["value"].toDouble(), 1);
+}
+
 TEST_F(DamagedBundle, WithoutStringTablesShowsKeys)
 {
     remove("*.qm");
