@@ -8,13 +8,6 @@
 
 namespace host {
 
-namespace {
-
-/// The name by which a size that the user defined goes.
-constexpr auto kUserDefinedPaper = "customsize";
-
-} // namespace
-
 std::unique_ptr<DialogSession> DialogSession::open(const Parameters &parameters, QString *error)
 {
     auto ppd = PPDDocument::open(parameters.ppdPath, error);

@@ -10,6 +10,9 @@
 
 namespace host {
 
+/// The name by which a size that the user defined goes.
+inline constexpr auto kUserDefinedPaper = "customsize";
+
 /// A paper of the dialog. `name` is nil when the print settings hold none; `size` nil when it is not known.
 struct ChosenPaper
 {

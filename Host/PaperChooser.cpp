@@ -14,7 +14,6 @@ namespace host {
 
 namespace {
 
-constexpr auto kUserDefinedPaper = "customsize";
 constexpr double kPointsPerInch = 72;
 constexpr double kPointsPerMillimetre = 72 / 25.4;
 
