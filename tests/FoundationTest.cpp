@@ -46,6 +46,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, Numbers,
                                          Number{".5", 0.5, 0}, Number{".", 0, 0}, Number{"1.", 1, 1},
                                          Number{"x1", 0, 0}, Number{"inf", 0, 0}, Number{"nan", 0, 0},
                                          Number{"-inf", 0, 0}, Number{"0x10", 0, 0}, Number{"1e2", 100, 1},
+                                         Number{"1e-400", 0, 1}, Number{"-1e400", -HUGE_VAL, -1},
                                          Number{QString::fromUtf8("٣"), 0, 0}, Number{"007", 7, 7}));
 
 TEST(NumbersInText, OfTenThousandDigitsAreHeldInRange)
@@ -191,6 +192,20 @@ TEST_F(Notifications, AllowObserversToComeAndGoMeanwhile)
     EXPECT_EQ(m_heard, QStringList("a")); // the removed one is not called, the new one hears of the next
     m_center.post("paper");
     EXPECT_EQ(m_heard, QStringList({"a", "c"}));
+}
+
+TEST_F(Notifications, ReachAnObserverThatLeftAndCameBackOnlyTheNextTime)
+{
+    m_center.addObserver(&m_first, "paper", [this] {
+        m_center.removeObserver(&m_second, "paper");
+        m_center.addObserver(&m_second, "paper", noting("new"));
+    });
+    m_center.addObserver(&m_second, "paper", noting("old"));
+    m_center.post("paper");
+    EXPECT_EQ(m_heard, QStringList());
+    m_center.removeObserver(&m_first, "paper");
+    m_center.post("paper");
+    EXPECT_EQ(m_heard, QStringList("new"));
 }
 
 TEST(Log, FillsFormatsAndSurvivesBadOnes)

@@ -13,7 +13,7 @@ NotificationCenter &NotificationCenter::defaultCenter()
 
 void NotificationCenter::addObserver(const void *observer, const QString &name, Handler handler)
 {
-    m_registrations.push_back({observer, name, std::move(handler)});
+    m_registrations.push_back({++m_lastNumber, observer, name, std::move(handler)});
 }
 
 void NotificationCenter::removeObserver(const void *observer, const QString &name)
@@ -21,22 +21,15 @@ void NotificationCenter::removeObserver(const void *observer, const QString &nam
     std::erase_if(m_registrations, [&](const Registration &r) { return r.observer == observer && r.name == name; });
 }
 
-std::vector<NotificationCenter::Registration>::iterator NotificationCenter::find(const void *observer,
-                                                                                 const QString &name)
-{
-    return std::ranges::find_if(m_registrations,
-                                [&](const Registration &r) { return r.observer == observer && r.name == name; });
-}
-
 void NotificationCenter::post(const QString &name)
 {
-    std::vector<const void *> observers;
+    std::vector<std::uint64_t> numbers;
     for (const Registration &registration : m_registrations)
         if (registration.name == name)
-            observers.push_back(registration.observer);
+            numbers.push_back(registration.number);
 
-    for (const void *observer : observers) {
-        const auto registration = find(observer, name);
+    for (const std::uint64_t number : numbers) {
+        const auto registration = std::ranges::find(m_registrations, number, &Registration::number);
         if (registration == m_registrations.end())
             continue;
         const Handler handler = registration->handler; // a copy: the handler may change the list

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -26,14 +27,14 @@ public:
 private:
     struct Registration
     {
+        std::uint64_t number; // tells an observer that left and came back from one that stayed
         const void *observer;
         QString name;
         Handler handler;
     };
 
-    std::vector<Registration>::iterator find(const void *observer, const QString &name);
-
     std::vector<Registration> m_registrations;
+    std::uint64_t m_lastNumber = 0;
 };
 
 } // namespace foundation

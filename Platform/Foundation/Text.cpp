@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <clocale>
+#include <cstdlib>
 #include <limits>
 #include <string>
 
@@ -25,6 +27,13 @@ std::string asciiPrefix(QStringView text)
         result.push_back(static_cast<char>(c.unicode()));
     }
     return result;
+}
+
+/// What `from_chars` leaves open: infinite where the number is too large, 0 where it is too small.
+double outOfRange(const std::string &number)
+{
+    static const locale_t cLocale = newlocale(LC_ALL_MASK, "C", nullptr);
+    return strtod_l(number.c_str(), nullptr, cLocale);
 }
 
 bool isAscii(const char *bytes)
@@ -57,9 +66,7 @@ double doubleValue(QStringView text)
         return 0;
     double value = 0;
     const auto [next, failed] = std::from_chars(begin, end, value);
-    if (failed == std::errc::result_out_of_range)
-        return *begin == '-' ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
-    return value;
+    return failed == std::errc::result_out_of_range ? outOfRange(std::string(begin, next)) : value;
 }
 
 int integerValue(QStringView text)
