@@ -2,6 +2,7 @@
 #include "Toolkit/Alert.h"
 #include "Toolkit/View.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
 #include <QMessageBox>
@@ -85,6 +86,24 @@ TEST_F(PopUps, SkipWithTheKeysWhatIsRefused)
     QTest::keyClick(&m_control, 't'); // "two" is refused, "three" is not
     EXPECT_NE(m_control.currentIndex(), 2);
     EXPECT_GE(m_chosen.size(), 3);
+}
+
+TEST_F(PopUps, StayOpenUnderAClickOnWhatIsRefused)
+{
+    m_control.showPopup();
+    QTest::qWait(QApplication::doubleClickInterval() + 50); // until then the menu takes a release for the opening click
+    auto *const list = m_control.view();
+    const auto click = [&](int item) {
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualRect(m_control.model()->index(item, 0)).center());
+    };
+    click(2);
+    EXPECT_TRUE(list->isVisible());
+    EXPECT_EQ(m_chosen.size(), 0);
+    click(3);
+    EXPECT_FALSE(list->isVisible());
+    EXPECT_EQ(m_control.currentIndex(), 3);
+    EXPECT_EQ(m_chosen.size(), 1);
 }
 
 TEST_F(PopUps, LetEffectsOnOtherItemsStand)

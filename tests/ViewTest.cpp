@@ -33,6 +33,12 @@ TEST_F(Views, CountFromTheLowerLeftCornerUpward)
     EXPECT_EQ(m_view.frameOrigin(), QPointF(12, 34));
 }
 
+TEST_F(Views, StayWithinWhatAWidgetCanTakeWhateverAFileAsksFor)
+{
+    m_view.setFrameOrigin({1e300, -1e300});
+    EXPECT_EQ(m_label.pos(), QPoint(QWIDGETSIZE_MAX, 200 - 30 + QWIDGETSIZE_MAX));
+}
+
 TEST_F(Views, HaveFlagsOfTheirOwnWhateverTheirParentsAre)
 {
     m_form.setEnabled(false);

@@ -1,8 +1,10 @@
 // Pop-up menus, buttons, steppers and pages.
 #include "Controls.h"
 
+#include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QRadioButton>
 #include <QStandardItemModel>
@@ -75,6 +77,16 @@ void PopUpControl::showPopup()
 {
     validateItems();
     QComboBox::showPopup();
+    view()->viewport()->installEventFilter(this); // again each time, to stay ahead of the menu's own
+}
+
+bool PopUpControl::eventFilter(QObject *watched, QEvent *event)
+{
+    // A click on an item that is refused chooses nothing; Qt would choose the item that was current before.
+    if (event->type() == QEvent::MouseButtonRelease && watched == view()->viewport() &&
+        !view()->indexAt(static_cast<QMouseEvent *>(event)->position().toPoint()).flags().testFlag(Qt::ItemIsEnabled))
+        return true;
+    return QComboBox::eventFilter(watched, event);
 }
 
 void PopUpControl::keyPressEvent(QKeyEvent *event)

@@ -3,6 +3,8 @@
 
 #include "Foundation/Text.h"
 
+#include <algorithm>
+
 namespace toolkit {
 
 namespace {
@@ -10,6 +12,9 @@ namespace {
 // What Qt forgets about a widget that leaves its parent, kept on the widget.
 constexpr auto kRemovedOrigin = "toolkitRemovedOrigin";
 constexpr auto kRemovedHidden = "toolkitRemovedHidden";
+
+/// Held within what a widget's geometry can take: the numbers come from PPDs.
+int coordinate(double points) { return qRound(std::clamp<double>(points, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)); }
 
 bool isRemoved(const QWidget &widget) { return widget.property(kRemovedOrigin).isValid(); }
 
@@ -67,7 +72,7 @@ void View::setFrameOrigin(const QPointF &origin)
     if (isRemoved(*m_widget))
         m_widget->setProperty(kRemovedOrigin, origin);
     else if (superview())
-        m_widget->move(qRound(origin.x()), superview()->height() - m_widget->height() - qRound(origin.y()));
+        m_widget->move(coordinate(origin.x()), superview()->height() - m_widget->height() - coordinate(origin.y()));
 }
 
 void View::removeFromSuperview()
