@@ -1,6 +1,8 @@
 // Reading the command line.
 #include "CommandLine.h"
 
+#include "Job.h"
+
 #include "Foundation/Locale.h"
 #include "Foundation/SystemVersion.h"
 
@@ -11,8 +13,6 @@
 namespace host {
 
 namespace {
-
-constexpr int kMostCopies = 999;
 
 std::optional<QString> applySurroundings(const QCommandLineParser &parser)
 {
@@ -58,7 +58,8 @@ std::optional<CommandLine> readCommandLine(const QStringList &arguments, const Q
                        {"ppd", "Prints by a PPD file, without any CUPS server.", "file"},
                        {"output", "Folder that then receives document and job ticket.", "folder", "."},
                        {"o", "Chooses an option beforehand.", "keyword=choice"},
-                       {"n", "Copies.", "number", "1"},
+                       {"n", "Copies.", "number"},
+                       {"P", "Pages to print, such as 1-3,5.", "pages"},
                        {{"t", "title"}, "Title of the job.", "title"},
                        {"no-dialog", "Prints without a window, by the same rules and checks."},
                        {"panel", "Panel to show first: basic or advanced.", "panel"},
@@ -81,12 +82,26 @@ std::optional<CommandLine> readCommandLine(const QStringList &arguments, const Q
         std::cout << "qnprint " QN_VERSION << std::endl;
         return std::nullopt;
     }
-    CommandLine line{
-        parser.positionalArguments(), parser.value("destination"), parser.value("ppd"),      parser.value("output"),
-        parser.value("title"),        parser.value("panel"),       parser.value("language"), {},
-        parser.value("n").toInt(),    parser.isSet("no-dialog")};
-    if (line.copies < 1 || line.copies > kMostCopies)
-        return wrongUse(QString("-n %1: not a number from 1 to %2").arg(parser.value("n")).arg(kMostCopies));
+    CommandLine line{parser.positionalArguments(),
+                     parser.value("destination"),
+                     parser.value("ppd"),
+                     parser.value("output"),
+                     parser.value("title"),
+                     parser.value("panel"),
+                     parser.value("language"),
+                     {},
+                     {},
+                     {},
+                     parser.isSet("no-dialog")};
+    if (parser.isSet("n")) {
+        line.copies = readCopies(parser.value("n"));
+        if (!line.copies)
+            return wrongUse(QString("-n %1: not a number from 1 to %2").arg(parser.value("n")).arg(kMostCopies));
+    }
+    const auto pages = readPageRanges(parser.value("P"));
+    if (!pages)
+        return wrongUse(QString("-P %1: no pages, such as 1-3,5").arg(parser.value("P")));
+    line.pages = *pages;
     if (!line.ppd.isEmpty() && !line.queue.isEmpty())
         return wrongUse("-d and --ppd do not go together");
     if (const auto sentence = readOptions(parser.values("o"), line.options))

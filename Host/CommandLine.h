@@ -14,14 +14,15 @@ inline constexpr int kWrongUse = 2;
 struct CommandLine
 {
     QStringList files;
-    QString queue;  // empty: the default queue
+    QString queue;  // empty: the default queue; a preset may follow behind a slash
     QString ppd;    // a PPD file instead of a queue
     QString output; // the folder that goes with it
     QString title;
     QString panel;
     QString language;
     OptionValues options;
-    int copies = 1;
+    std::optional<int> copies;
+    QString pages; // empty: all
     bool noDialog = false;
 };
 

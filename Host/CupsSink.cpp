@@ -1,10 +1,13 @@
 // Jobs that go to a CUPS queue.
-#include "Destinations.h"
 #include "Job.h"
+#include "PPDCache.h"
+#include "Server.h"
 
 namespace host {
 
 namespace {
+
+constexpr int kSecondsOfSilence = 60; // a server may be busy with what it was sent
 
 struct Options
 {
@@ -18,14 +21,41 @@ struct Options
     cups_option_t *list = nullptr;
 };
 
-QString lastError() { return QString::fromUtf8(cupsLastErrorString()); }
-
-std::optional<QString> stream(http_t *http, Document &document, const JobProgress &progress)
+/// As plain names: a value in braces would be taken for a collection and never reach the driver.
+void fill(Options &options, const Job &job)
 {
-    return passOn(document, progress, [http](const QByteArray &part) {
-        const auto status = cupsWriteRequestData(http, part.constData(), static_cast<std::size_t>(part.size()));
-        return status == HTTP_STATUS_CONTINUE ? std::nullopt : std::optional(lastError());
+    for (const auto &[key, value] : job.options.asKeyValueRange())
+        options.add(key.toUtf8().constData(), value);
+    if (job.copies > 1)
+        options.add("copies", QString::number(job.copies));
+    if (!job.pages.isEmpty())
+        options.add("page-ranges", job.pages);
+}
+
+/// Nil when all of it went and the server has taken it.
+std::optional<QString> sendDocument(ServerConnection &server, cups_dest_t *destination, cups_dinfo_t *info, int id,
+                                    const Job &job, const JobProgress &progress)
+{
+    if (cupsStartDestDocument(server.get(), destination, info, id, job.title.toUtf8().constData(),
+                              job.document.format().constData(), 0, nullptr, 1) != HTTP_STATUS_CONTINUE)
+        return server.problem();
+    const auto reason = passOn(job.document, progress, [&](const QByteArray &part) {
+        const auto status = cupsWriteRequestData(server.get(), part.constData(), static_cast<std::size_t>(part.size()));
+        server.heard();
+        return status == HTTP_STATUS_CONTINUE ? std::nullopt : std::optional(server.problem());
     });
+    if (reason)
+        return reason;
+    return cupsFinishDestDocument(server.get(), destination, info) > IPP_STATUS_OK_CONFLICTING
+               ? std::optional(server.problem())
+               : std::nullopt;
+}
+
+/// Over a connection of its own: the first one may be in the middle of the document. Whether the job is surely gone.
+bool cancelJob(cups_dest_t *destination, int id)
+{
+    const ServerConnection server;
+    return server && cupsCancelDestJob(server.get(), destination, id) <= IPP_STATUS_OK_CONFLICTING;
 }
 
 } // namespace
@@ -33,42 +63,34 @@ std::optional<QString> stream(http_t *http, Document &document, const JobProgres
 JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
 {
     const auto failed = [this](const QString &reason) { return Result{false, m_queue + ": " + reason}; };
-    const HttpConnection http = connectToServer();
-    if (!http)
-        return failed("no CUPS server answers");
-    const CupsDestination destination(cupsGetNamedDest(http.get(), m_queue.toUtf8().constData(), nullptr));
+    qint64 done = 0;
+    const JobProgress noting = [&](qint64 now, qint64 total) { return progress(done = now, total); };
+    ServerConnection server([&] { return progress(done, job.document.size()); }, kSecondsOfSilence);
+    if (!server)
+        return failed(server.problem());
+    const CupsDestination destination(cupsGetNamedDest(server.get(), m_queue.toUtf8().constData(), nullptr));
     if (!destination)
-        return failed("no such queue");
-    const CupsDestinationInfo info(cupsCopyDestInfo(http.get(), destination.get()));
+        return failed(cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? "no such queue" : server.problem());
+    if (m_ppdChanged && hasPPDChanged(server.get(), m_queue, *m_ppdChanged))
+        return {false, m_queue + ": the printer's description has changed meanwhile; nothing was printed", true};
+    const CupsDestinationInfo info(cupsCopyDestInfo(server.get(), destination.get()));
     if (!info)
-        return failed(lastError());
+        return failed(server.problem());
 
-    Options options; // as plain names: a value in braces would be taken for a collection and never reach the driver
-    for (const auto &[key, value] : job.options.asKeyValueRange())
-        options.add(key.toUtf8().constData(), value);
-    if (job.copies > 1)
-        options.add("copies", QString::number(job.copies));
-
+    Options options;
+    fill(options, job);
     int id = 0;
-    const QByteArray title = job.title.toUtf8();
-    if (cupsCreateDestJob(http.get(), destination.get(), info.get(), &id, title.constData(), options.count,
-                          options.list) > IPP_STATUS_OK_CONFLICTING)
-        return failed(lastError());
-    std::optional<QString> reason;
-    if (cupsStartDestDocument(http.get(), destination.get(), info.get(), id, title.constData(),
-                              job.document.format().constData(), 0, nullptr, 1) != HTTP_STATUS_CONTINUE)
-        reason = lastError();
-    else
-        reason = stream(http.get(), job.document, progress);
-    if (!reason && cupsFinishDestDocument(http.get(), destination.get(), info.get()) > IPP_STATUS_OK_CONFLICTING)
-        reason = lastError();
+    if (cupsCreateDestJob(server.get(), destination.get(), info.get(), &id, job.title.toUtf8().constData(),
+                          options.count, options.list) > IPP_STATUS_OK_CONFLICTING)
+        return failed(server.problem());
+    const auto reason = sendDocument(server, destination.get(), info.get(), id, job, noting);
     if (!reason)
         return {true, QString("%1-%2").arg(m_queue).arg(id)};
-
-    const HttpConnection other = connectToServer(); // the first one is in the middle of the document
-    if (other)
-        cupsCancelDestJob(other.get(), destination.get(), id);
-    return failed(*reason);
+    const QString why = progress(done, job.document.size()) ? *reason : QString("stopped");
+    if (cancelJob(destination.get(), id))
+        return failed(why);
+    return failed(
+        QString("%1; job %2-%3 may still be there, so look before you print again").arg(why, m_queue).arg(id));
 }
 
 } // namespace host

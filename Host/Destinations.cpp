@@ -1,84 +1,112 @@
 // Queues of the CUPS server.
 #include "Destinations.h"
 
-#include <ctime>
+#include "Server.h"
 
 namespace host {
 
 namespace {
 
-constexpr int kMilliseconds = 5000;
-constexpr std::size_t kPathLength = 1024;
+constexpr double kPointsPerHundredthOfMillimetre = 72 / 2540.0;
 
-int collect(void *data, unsigned, cups_dest_t *destination)
+/// The papers that a queue without PPD tells of. Their names are those that a job may ask for.
+std::vector<PPDDocument::PageSize> papersOf(http_t *http, cups_dest_t *destination)
 {
-    auto &found = *static_cast<QueueNames *>(data);
-    const QString name = QString::fromUtf8(destination->name);
-    if (destination->is_default)
-        found.standard = name;
-    if (!found.names.contains(name)) // instances share the name of their queue
-        found.names.append(name);
-    return 1;
+    std::vector<PPDDocument::PageSize> papers;
+    const CupsDestinationInfo info(cupsCopyDestInfo(http, destination));
+    const int count = info ? cupsGetDestMediaCount(http, destination, info.get(), 0) : 0;
+    for (int i = 0; i < count; ++i) {
+        cups_size_t size = {};
+        if (!cupsGetDestMediaByIndex(http, destination, info.get(), i, 0, &size))
+            continue;
+        const char *const text = cupsLocalizeDestMedia(http, destination, info.get(), 0, &size);
+        papers.push_back(
+            {QString::fromUtf8(size.media),
+             QString::fromUtf8(text ? text : size.media),
+             {size.width * kPointsPerHundredthOfMillimetre, size.length * kPointsPerHundredthOfMillimetre}});
+    }
+    return papers;
 }
 
-OptionValues optionsOf(const cups_dest_t &destination)
+QString noteOn(const cups_dest_t &destination)
 {
-    OptionValues values;
-    for (int i = 0; i < destination.num_options; ++i)
-        values.insert(QString::fromUtf8(destination.options[i].name), QString::fromUtf8(destination.options[i].value));
-    return values;
+    const auto is = [&](const char *name, const char *value) {
+        return qstrcmp(cupsGetOption(name, destination.num_options, destination.options), value) == 0;
+    };
+    if (is("printer-is-accepting-jobs", "false"))
+        return QString("%1: the queue does not take jobs now").arg(QString::fromUtf8(destination.name));
+    if (is("printer-state", "5"))
+        return QString("%1: the queue is stopped; jobs wait until it is started")
+            .arg(QString::fromUtf8(destination.name));
+    return {};
 }
 
-std::shared_ptr<FileToRemove> fetchPPD(http_t *http, const QByteArray &name)
+CupsDestination findDestination(const ServerConnection &server, const QueueName &name, QString *error)
 {
-    char path[kPathLength] = "";
-    std::time_t changed = 0;
-    if (cupsGetPPD3(http, name.constData(), &changed, path, sizeof(path)) != HTTP_STATUS_OK)
-        return nullptr;
-    return std::make_shared<FileToRemove>(QFile::decodeName(path));
+    const QByteArray queue = name.queue.toUtf8();
+    const QByteArray preset = name.preset.toUtf8();
+    CupsDestination found(!server ? nullptr
+                                  : cupsGetNamedDest(server.get(), queue.isEmpty() ? nullptr : queue.constData(),
+                                                     preset.isEmpty() ? nullptr : preset.constData()));
+    if (found)
+        return found;
+    const bool answered =
+        server && (cupsLastError() <= IPP_STATUS_OK_CONFLICTING || cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND);
+    if (!answered)
+        *error = (queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue) + ": " + server.problem();
+    else
+        *error = queue.isEmpty() ? QString("there is no default queue") : name.queue + ": no such queue";
+    return nullptr;
 }
 
 } // namespace
 
-HttpConnection connectToServer()
-{
-    // Of each thread its own: without it the library would ask for a password on the terminal, and wait there.
-    cupsSetPasswordCB2(
-        [](const char *, http_t *, const char *, const char *, void *) -> const char * { return nullptr; }, nullptr);
-    return HttpConnection(
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMilliseconds, nullptr));
-}
+QueueName QueueName::fromText(const QString &text) { return {text.section('/', 0, 0), text.section('/', 1)}; }
 
-QueueNames queueNames()
+std::optional<QueueNames> queueNames(QString *error)
 {
+    const ServerConnection server;
+    cups_dest_t *destinations = nullptr;
+    const int count = server ? cupsGetDests2(server.get(), &destinations) : 0;
     QueueNames found;
-    if (connectToServer())
-        cupsEnumDests(CUPS_DEST_FLAGS_NONE, kMilliseconds, nullptr, 0, 0, collect, &found);
+    for (const cups_dest_t *each = destinations; each != destinations + count; ++each) {
+        const QString name = QString::fromUtf8(each->name);
+        if (each->is_default)
+            found.standard = name;
+        if (!each->instance) // presets share the name of their queue
+            found.names.append(name);
+    }
+    cupsFreeDests(count, destinations);
+    if (count == 0 && (!server || cupsLastError() > IPP_STATUS_OK_CONFLICTING)) {
+        *error = server.problem();
+        return std::nullopt;
+    }
     found.names.sort(Qt::CaseInsensitive);
     return found;
 }
 
-std::optional<Queue> findQueue(const QString &name, QString *error)
+std::optional<Queue> findQueue(const QueueName &name, QString *error)
 {
-    const HttpConnection http = connectToServer();
-    if (!http) {
-        *error = QString("%1: no CUPS server answers").arg(name.isEmpty() ? cupsServer() : name);
+    const ServerConnection server;
+    const CupsDestination destination = findDestination(server, name, error);
+    if (!destination)
         return std::nullopt;
-    }
-    const CupsDestination destination(
-        cupsGetNamedDest(http.get(), name.isEmpty() ? nullptr : name.toUtf8().constData(), nullptr));
-    if (!destination) {
-        *error = name.isEmpty() ? QString("there is no default queue") : QString("%1: no such queue").arg(name);
-        return std::nullopt;
-    }
-    Queue queue{QString::fromUtf8(destination->name), std::nullopt, optionsOf(*destination),
-                fetchPPD(http.get(), destination->name)};
+    Queue queue{QString::fromUtf8(destination->name),
+                QString::fromUtf8(destination->instance),
+                {},
+                {},
+                {},
+                noteOn(*destination)};
     if (const char *uri = cupsGetOption("device-uri", destination->num_options, destination->options))
         queue.uri = QString::fromUtf8(uri);
-    if (!queue.ppd) {
-        *error = QString("%1: the queue has no PPD").arg(queue.name);
+    queue.ppd = fetchPPD(server.get(), queue.name);
+    if (queue.ppd)
+        return queue;
+    if (cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) { // "it has none" is one thing, "who knows" another
+        *error = queue.name + ": " + server.problem();
         return std::nullopt;
     }
+    queue.papers = papersOf(server.get(), destination.get());
     return queue;
 }
 

@@ -1,57 +1,34 @@
-// Queues of the CUPS server: which there are, and the PPD of one. All of it blocks and belongs on a thread of its own.
+// Queues of the CUPS server: which there are, and what one of them needs to be printed on. All of it asks the server,
+// and so belongs on a thread of its own.
 #pragma once
 
+#include "PPDCache.h"
 #include "PPDDocument.h"
 
 #include <QStringList>
-#include <QTemporaryFile>
 
-#include <memory>
+#include <functional>
 
 namespace host {
 
-struct HttpCloser
+/// A queue's name as `lp -d` takes it: with a preset behind a slash, or without.
+struct QueueName
 {
-    void operator()(http_t *http) const { httpClose(http); }
-};
-struct DestinationFree
-{
-    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
-};
-struct DestinationInfoFree
-{
-    void operator()(cups_dinfo_t *info) const { cupsFreeDestInfo(info); }
-};
-using HttpConnection = std::unique_ptr<http_t, HttpCloser>;
-using CupsDestination = std::unique_ptr<cups_dest_t, DestinationFree>;
-using CupsDestinationInfo = std::unique_ptr<cups_dinfo_t, DestinationInfoFree>;
+    static QueueName fromText(const QString &text);
 
-/// Null when the server does not answer within a few seconds.
-HttpConnection connectToServer();
-
-/// A file that goes when its last holder goes.
-class FileToRemove
-{
-public:
-    explicit FileToRemove(QString path)
-        : m_path(std::move(path))
-    {}
-    ~FileToRemove() { QFile::remove(m_path); }
-    FileToRemove(const FileToRemove &) = delete;
-    FileToRemove &operator=(const FileToRemove &) = delete;
-
-    const QString &path() const { return m_path; }
-
-private:
-    QString m_path;
+    QString queue; // empty: the default queue
+    QString preset;
 };
 
 struct Queue
 {
     QString name;
+    QString preset; // that was asked for, or that goes with the default queue
     std::optional<QString> uri;
-    OptionValues savedOptions; // the user's own defaults
-    std::shared_ptr<FileToRemove> ppd;
+    /// Nil when the queue has no PPD.
+    std::optional<CachedPPD> ppd;
+    std::vector<PPDDocument::PageSize> papers; // of a queue without PPD
+    QString note;                              // one sentence on its state; empty when it just prints
 };
 
 struct QueueNames
@@ -60,10 +37,10 @@ struct QueueNames
     QString standard; // the default queue; empty when there is none
 };
 
-QueueNames queueNames();
+/// Nil, with one sentence, when the server can't tell.
+std::optional<QueueNames> queueNames(QString *error);
 
-/// A queue with its PPD; an empty name asks for the default queue. Nil, with one sentence that names the queue, when it
-/// can't be had.
-std::optional<Queue> findQueue(const QString &name, QString *error);
+/// Nil, with one sentence that names the queue, when it can't be had.
+std::optional<Queue> findQueue(const QueueName &name, QString *error);
 
 } // namespace host

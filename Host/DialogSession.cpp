@@ -3,10 +3,28 @@
 
 #include "Foundation/Bundle.h"
 #include "Foundation/NotificationCenter.h"
+#include "Foundation/Text.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace host {
+
+namespace {
+
+/// Numbers may be written in more than one way.
+bool isSameValue(const QString &one, const QString &other)
+{
+    constexpr auto kCustom = QStringView(u"Custom.");
+    constexpr double kSmallest = 1e-4; // of inches or millimetres
+    if (one == other || !one.startsWith(kCustom) || !other.startsWith(kCustom))
+        return one == other;
+    return std::abs(foundation::doubleValue(QStringView(one).mid(kCustom.size())) -
+                    foundation::doubleValue(QStringView(other).mid(kCustom.size()))) < kSmallest;
+}
+
+} // namespace
 
 std::unique_ptr<DialogSession> DialogSession::open(const Parameters &parameters, QString *error)
 {
@@ -31,7 +49,7 @@ DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDo
 {
     m_ppd->adoptDefaults(parameters.defaults);
     m_printer.setDeviceURI(parameters.uri);
-    setPaper(paperNamed(parameters.paperName.value_or(m_ppd->pageSizeName()), parameters.paperSize));
+    setPaper(parameters.paperName ? paperNamed(*parameters.paperName, parameters.paperSize) : markedPaper());
     markPageSize();
 }
 
@@ -150,6 +168,38 @@ void DialogSession::changePaper(const ChosenPaper &paper)
     foundation::NotificationCenter::defaultCenter().post(printing::kPaperDidChangeNotification);
 }
 
+ChosenPaper DialogSession::markedPaper() const
+{
+    if (const auto size = m_ppd->customPageSize())
+        return {kUserDefinedPaper, size};
+    return paperNamed(m_ppd->pageSizeName());
+}
+
+OptionValues DialogSession::settings(const OptionValues &ownDefaults)
+{
+    if (m_onDisplay)
+        m_onDisplay->saveValuesAndReturnError(nullptr);
+    OptionValues values = m_ppd->jobOptions();
+    const OptionValues marked = m_ppd->marked();
+    for (const QString &keyword : ownDefaults.keys())
+        if (!values.contains(keyword) && marked.contains(keyword))
+            values.insert(keyword, marked.value(keyword));
+    return values;
+}
+
+void DialogSession::restore(const OptionValues &values)
+{
+    report(m_ppd->restore(values));
+    setPaper(markedPaper());
+    if (m_panels)
+        for (const auto &panel : *m_panels)
+            panel->restoreValuesAndReturnError(nullptr);
+    // Also when the paper is the same: the panels' rules bring in line what was saved under another paper, and what
+    // they decide is marked now and not only when the job goes out.
+    foundation::NotificationCenter::defaultCenter().post(printing::kPaperDidChangeNotification);
+    m_restoring = values;
+}
+
 bool DialogSession::mark(const QString &key, const QString &choice)
 {
     const auto changes = m_ppd->mark(key, choice);
@@ -175,6 +225,38 @@ void DialogSession::report(const std::optional<PPDDocument::Changes> &changes)
         if (onChange)
             onChange(key, choice);
     }
+}
+
+QString DialogSession::inWords(const PPDDocument::Change &choice) const
+{
+    const foundation::Bundle &bundle = *m_plugIn.bundle; // has the words that the panels show
+    return QString("%1 “%2”").arg(bundle.localizedString(m_ppd->optionText(choice.keyword)),
+                                  bundle.localizedString(m_ppd->choiceText(choice.keyword, choice.choice)));
+}
+
+QStringList DialogSession::takeRemarks()
+{
+    const auto nameOf = [this](const QString &keyword) {
+        return m_plugIn.bundle->localizedString(m_ppd->optionText(keyword));
+    };
+    QStringList remarks;
+    for (const auto &[from, to, cause] : m_ppd->takeMoves()) {
+        if (m_ppd->choiceMarked(from.keyword) == from.choice)
+            continue; // it is back where it was
+        const QString sentence =
+            tr("%1 instead of “%2”, to go with %3.")
+                .arg(inWords({from.keyword, m_ppd->choiceMarked(from.keyword)}),
+                     m_plugIn.bundle->localizedString(m_ppd->choiceText(from.keyword, from.choice)),
+                     cause.keyword.isEmpty() ? tr("the other choices") : inWords(cause));
+        if (!remarks.contains(sentence))
+            remarks.append(sentence);
+    }
+    const OptionValues wanted = std::exchange(m_restoring, {});
+    const OptionValues marked = m_ppd->marked();
+    for (const auto &[keyword, value] : wanted.asKeyValueRange())
+        if (keyword != "PageSize" && m_ppd->hasOption(keyword) && !isSameValue(marked.value(keyword), value))
+            remarks.append(tr("%1 is not as it was saved: the rules for the paper decide it.").arg(nameOf(keyword)));
+    return remarks;
 }
 
 bool DialogSession::shouldPrint()

@@ -6,6 +6,8 @@
 #include "PPDDocument.h"
 #include "PlugIn.h"
 
+#include <QCoreApplication>
+
 #include <functional>
 
 namespace host {
@@ -22,6 +24,8 @@ struct ChosenPaper
 
 class DialogSession final : private PDEPluginCallback_v100_
 {
+    Q_DECLARE_TR_FUNCTIONS(DialogSession)
+
 public:
     struct Parameters
     {
@@ -72,6 +76,15 @@ public:
     /// Another part of the dialog marks a choice.
     bool mark(const QString &key, const QString &choice);
 
+    /// What makes this dialog another than a fresh one, to be saved under a name: every choice that is not the PPD's
+    /// own default, and those that would be another without it because they are saved as the user's own defaults.
+    OptionValues settings(const OptionValues &ownDefaults);
+    /// Takes over saved settings, through the panels' own restoring; their rules have the last word.
+    void restore(const OptionValues &values);
+
+    /// One sentence for each choice that did not stay as it was made, or moved another, since this was asked last.
+    QStringList takeRemarks();
+
     /// Asks each panel, in order, up to the first that refuses; when all agree, the panel on display saves its values.
     bool shouldPrint();
 
@@ -91,6 +104,8 @@ private:
     bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) override;
 
     void setPaper(const ChosenPaper &paper);
+    ChosenPaper markedPaper() const;
+    QString inWords(const PPDDocument::Change &choice) const;
     void markPageSize();
     void report(const std::optional<PPDDocument::Changes> &changes);
     void prepare(PDEPanel &panel);
@@ -110,6 +125,7 @@ private:
     const PDEPanels *m_panels = nullptr;
     PDEPanel *m_onDisplay = nullptr;
     std::vector<const PDEPanel *> m_shown;
+    OptionValues m_restoring; // what was asked for and is not yet told of
 };
 
 } // namespace host

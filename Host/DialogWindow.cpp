@@ -4,10 +4,14 @@
 #include "PaperChooser.h"
 #include "SummaryView.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -21,22 +25,28 @@ namespace host {
 
 namespace {
 
-constexpr int kMostCopies = 999;
 constexpr int kPanelWidth = 520;
 constexpr int kPanelHeight = 336;
 constexpr int kSummaryWidth = 320;
+constexpr int kPresetRow = 1;
+constexpr int kCopiesRow = 3;
 
 } // namespace
 
 DialogWindow::DialogWindow(std::unique_ptr<Document> document)
     : m_document(std::move(document))
     , m_printers(new QComboBox)
+    , m_presets(new QComboBox)
+    , m_form(new QFormLayout)
+    , m_save(new QPushButton(tr("Sa&ve")))
     , m_paper(new PaperChooser)
     , m_copies(new QSpinBox)
+    , m_pages(new QLineEdit)
     , m_tabs(new QTabBar)
     , m_panelSpace(new QWidget)
     , m_summary(new SummaryView)
     , m_message(new QLabel)
+    , m_retry(new QPushButton(tr("Try A&gain")))
     , m_progress(new QProgressBar)
 {
     setWindowTitle(m_document ? tr("Print %1").arg(m_document->title()) : tr("Print"));
@@ -50,15 +60,20 @@ DialogWindow::DialogWindow(std::unique_ptr<Document> document)
     m_message->setWordWrap(true);
     m_message->setTextFormat(Qt::PlainText);
     m_message->hide();
+    m_retry->hide();
     m_progress->hide();
+    m_pages->setPlaceholderText(tr("all"));
+    m_pages->setToolTip(tr("Single pages and ranges, such as 1-3,5"));
     layOut();
 
     connect(m_tabs, &QTabBar::currentChanged, this, &DialogWindow::showPanelAt);
     connect(m_printers, &QComboBox::activated, this, [this] { Q_EMIT printerChosen(m_printers->currentText()); });
+    connect(m_presets, &QComboBox::activated, this, [this] { restorePreset(m_presets->currentData().toString()); });
+    connect(m_retry, &QPushButton::clicked, this, &DialogWindow::retryWanted);
     connect(m_paper, &PaperChooser::chose, this, [this] {
-        if (m_session && m_paper->chosen())
-            m_session->changePaper(*m_paper->chosen());
-        refreshSummary();
+        if (m_printer.session && m_paper->chosen())
+            m_printer.session->changePaper(*m_paper->chosen());
+        settle();
     });
 }
 
@@ -67,17 +82,41 @@ DialogWindow::~DialogWindow()
     if (m_stop)
         m_stop->store(true);
     QThreadPool::globalInstance()->waitForDone(); // a job being sent holds document and sink
-    m_session.reset();                            // and with it the panels' views, before their parents go
+    m_printer.session.reset();                    // and with it the panels' views, before their parents go
+}
+
+void DialogWindow::layOutForm()
+{
+    auto *menu = new QMenu(m_save);
+    menu->addAction(tr("Save as &Defaults"), this, [this] { save({}); });
+    menu->addAction(tr("Save as &Preset…"), this, &DialogWindow::savePresetAs);
+    m_remove = menu->addAction(tr("De&lete Preset"), this, &DialogWindow::removePreset);
+    m_save->setMenu(menu);
+    m_save->setAutoDefault(false);
+    auto *presets = new QHBoxLayout;
+    presets->addWidget(m_presets, 1);
+    presets->addWidget(m_save);
+
+    auto *amount = new QHBoxLayout;
+    auto *pages = new QLabel(tr("P&ages:"));
+    pages->setBuddy(m_pages);
+    amount->addWidget(m_copies);
+    amount->addSpacing(12);
+    amount->addWidget(pages);
+    amount->addWidget(m_pages, 1);
+
+    m_form->addRow(tr("P&rinter:"), m_printers);
+    m_form->addRow(tr("Pre&set:"), presets);
+    m_form->addRow(tr("Pap&er:"), m_paper);
+    m_form->addRow(tr("&Copies:"), amount);
+    for (const auto &[row, field] : {std::pair<int, QWidget *>{kPresetRow, m_presets}, {kCopiesRow, m_copies}})
+        if (auto *label = qobject_cast<QLabel *>(m_form->itemAt(row, QFormLayout::LabelRole)->widget()))
+            label->setBuddy(field);
+    offerPresets();
 }
 
 void DialogWindow::layOut()
 {
-    auto *form = new QFormLayout;
-    form->addRow(tr("P&rinter:"), m_printers);
-    form->addRow(tr("Pap&er:"), m_paper);
-    form->addRow(tr("&Copies:"), m_copies);
-    m_copies->setMaximumWidth(m_copies->sizeHint().width() * 2);
-
     m_buttons = new QDialogButtonBox;
     m_print = m_buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
     m_cancel = m_buttons->addButton(QDialogButtonBox::Cancel);
@@ -87,7 +126,8 @@ void DialogWindow::layOut()
     connect(m_cancel, &QPushButton::clicked, this, &DialogWindow::reject);
 
     auto *left = new QVBoxLayout;
-    left->addLayout(form);
+    layOutForm();
+    left->addLayout(m_form);
     left->addSpacing(8);
     left->addWidget(m_tabs);
     left->addWidget(m_panelSpace);
@@ -99,12 +139,13 @@ void DialogWindow::layOut()
 
     m_column = new QVBoxLayout(this);
     m_column->addLayout(m_columns, 1);
-    m_column->addWidget(m_message);
+    auto *message = new QHBoxLayout;
+    message->addWidget(m_message, 1);
+    message->addWidget(m_retry);
+    m_column->addLayout(message);
     m_column->addWidget(m_progress);
     m_column->addWidget(m_buttons);
 }
-
-void DialogWindow::setCopies(int copies) { m_copies->setValue(copies); }
 
 void DialogWindow::offerPrinters(const QStringList &names, const QString &chosen)
 {
@@ -113,23 +154,30 @@ void DialogWindow::offerPrinters(const QStringList &names, const QString &chosen
     m_printers->setCurrentText(chosen);
 }
 
-void DialogWindow::usePrinter(std::unique_ptr<DialogSession> session, std::unique_ptr<JobSink> sink)
+void DialogWindow::usePrinter(Printer printer)
 {
-    m_session.reset(); // two sessions must not be alive at once
-    m_session = std::move(session);
-    m_sink = std::move(sink);
-    m_session->onChange = [this](const QString &, const QString &) {
-        QMetaObject::invokeMethod(this, &DialogWindow::refreshSummary, Qt::QueuedConnection);
-    };
-    m_session->start(DialogSession::Prepare::firstPanel);
-    m_paper->offer(*m_session);
+    m_printer.session.reset(); // two sessions must not be alive at once
+    m_printer = std::move(printer);
+    m_copies->setValue(m_printer.copies);
+    m_pages->setText(m_printer.pages);
+    say(m_printer.note);
+    if (DialogSession *const session = m_printer.session.get()) {
+        session->onChange = [this](const QString &, const QString &) {
+            QMetaObject::invokeMethod(this, &DialogWindow::settle, Qt::QueuedConnection);
+        };
+        session->start(DialogSession::Prepare::firstPanel);
+        m_paper->offer(*session);
+        if (!session->panels() || session->panels()->empty())
+            say(tr("The plug-in has no settings for this printer. It is printed with the driver's defaults."));
+    } else {
+        m_paper->offer(m_printer.papers, m_printer.generalOptions.value("media"));
+        say(tr("No driver describes this printer: it has general settings only."));
+    }
     offerPanels();
+    offerPresets();
     m_print->setEnabled(true);
-    say(m_session->panels() && !m_session->panels()->empty()
-            ? QString()
-            : tr("The plug-in has no settings for this printer. It is printed with the driver's defaults."));
-    if (isVisible())
-        m_session->prepareAll();
+    if (isVisible() && m_printer.session)
+        m_printer.session->prepareAll();
 }
 
 void DialogWindow::showEvent(QShowEvent *event)
@@ -137,9 +185,9 @@ void DialogWindow::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
     // After the first frame, before any input: a panel's first display writes its defaults back.
     QTimer::singleShot(0, this, [this] {
-        if (m_session)
-            m_session->prepareAll();
-        refreshSummary();
+        if (m_printer.session)
+            m_printer.session->prepareAll();
+        settle();
     });
 }
 
@@ -148,10 +196,25 @@ void DialogWindow::offerPanels()
     const QSignalBlocker blocker(m_tabs);
     while (m_tabs->count() > 0)
         m_tabs->removeTab(0);
-    if (m_session->panels())
-        for (const auto &panel : *m_session->panels())
+    if (m_printer.session && m_printer.session->panels())
+        for (const auto &panel : *m_printer.session->panels())
             m_tabs->setTabData(m_tabs->addTab(panel->panelName().replace('&', "&&")), panel->inspection().identifier());
     showPanelAt(m_tabs->currentIndex());
+}
+
+/// What no queue stands for can't be saved, and so there is nothing to choose from either.
+void DialogWindow::offerPresets()
+{
+    m_presets->clear();
+    m_presets->addItem(tr("Defaults"), QString());
+    if (m_printer.saved)
+        for (const QString &name : m_printer.saved->presets())
+            m_presets->addItem(name, name);
+    m_presets->setCurrentIndex(std::max(0, m_presets->findData(m_printer.preset, Qt::UserRole, Qt::MatchFixedString)));
+    m_form->setRowVisible(kPresetRow, m_printer.saved || !m_printer.sink);
+    m_presets->setEnabled(m_printer.saved.has_value());
+    m_save->setEnabled(m_printer.saved.has_value());
+    m_remove->setEnabled(m_presets->currentIndex() > 0);
 }
 
 bool DialogWindow::showPanel(const QString &identifier)
@@ -160,17 +223,18 @@ bool DialogWindow::showPanel(const QString &identifier)
         if (m_tabs->tabData(i) != identifier)
             continue;
         m_tabs->setCurrentIndex(i);
-        return m_session->panelOnDisplay() == m_session->panel(identifier);
+        return m_printer.session->panelOnDisplay() == m_printer.session->panel(identifier);
     }
     return false;
 }
 
 void DialogWindow::showPanelAt(int index)
 {
-    PDEPanel *const panel = m_session ? m_session->panel(m_tabs->tabData(index).toString()) : nullptr;
+    DialogSession *const session = m_printer.session.get();
+    PDEPanel *const panel = session ? session->panel(m_tabs->tabData(index).toString()) : nullptr;
     if (!panel)
-        return;
-    if (!m_session->show(*panel))
+        return refreshSummary();
+    if (!session->show(*panel))
         return say(tr("%1: the plug-in has no interface for this panel.").arg(panel->panelName()));
     for (QObject *child : m_panelSpace->children())
         if (auto *view = qobject_cast<QWidget *>(child))
@@ -199,26 +263,123 @@ void DialogWindow::joinAfterThePanel()
 void DialogWindow::refreshSummary()
 {
     if (isVisible())
-        m_summary->show(m_session ? m_session->panels() : nullptr);
+        m_summary->show(m_printer.session ? m_printer.session->panels() : nullptr);
+}
+
+/// After choices: shows what they led to.
+void DialogWindow::settle()
+{
+    refreshSummary();
+    if (!m_printer.session || m_stop)
+        return;
+    const QStringList remarks = m_printer.session->takeRemarks();
+    if (remarks.isEmpty() && !m_saysRemark)
+        return;
+    say(remarks.join(' '));
+    m_saysRemark = !remarks.isEmpty();
 }
 
 void DialogWindow::say(const QString &sentence)
 {
     m_message->setText(sentence);
     m_message->setVisible(!sentence.isEmpty());
+    m_retry->hide();
+    m_saysRemark = false;
+}
+
+void DialogWindow::wait(const QString &sentence)
+{
+    m_print->setEnabled(false);
+    say(sentence);
+}
+
+void DialogWindow::offerRetry(const QString &sentence)
+{
+    wait(sentence);
+    m_retry->show();
+}
+
+void DialogWindow::restorePreset(const QString &preset)
+{
+    if (!m_printer.session || !m_printer.saved)
+        return;
+    const OptionValues values = m_printer.saved->options(preset);
+    m_printer.preset = preset;
+    m_printer.session->restore(values);
+    m_printer.generalOptions = m_printer.session->ppd().generalAmong(values);
+    m_paper->offer(*m_printer.session);
+    m_remove->setEnabled(!preset.isEmpty());
+    settle();
+}
+
+void DialogWindow::save(const QString &preset)
+{
+    const SavedOptions &saved = *m_printer.saved;
+    OptionValues options = m_printer.session->ppd().generalAmong(saved.options(preset)); // not ours to drop
+    options.insert(m_printer.generalOptions);
+    options.insert(m_printer.session->settings(saved.options()));
+    if (const auto problem = saved.save(preset, options))
+        return say(*problem);
+    m_printer.preset = preset;
+    offerPresets();
+    say(preset.isEmpty() ? tr("Saved as your defaults for %1.").arg(m_printer.name)
+                         : tr("Saved as “%1” for %2.").arg(preset, m_printer.name));
+}
+
+void DialogWindow::savePresetAs()
+{
+    bool isGiven = false;
+    const QString name =
+        QInputDialog::getText(this, tr("Save as Preset"), tr("&Name:"), QLineEdit::Normal, m_printer.preset, &isGiven)
+            .trimmed();
+    if (!isGiven || name.isEmpty())
+        return;
+    if (const auto problem = SavedOptions::problemOf(name))
+        return say(*problem);
+    save(name);
+}
+
+void DialogWindow::removePreset()
+{
+    const QString name = m_presets->currentData().toString();
+    if (const auto problem = m_printer.saved->remove(name))
+        return say(*problem);
+    m_printer.preset.clear(); // what is set stays as it is
+    offerPresets();
+    say(tr("“%1” was deleted.").arg(name));
+}
+
+std::optional<QString> DialogWindow::chosenPages()
+{
+    const auto pages = readPageRanges(m_pages->text());
+    if (pages)
+        return pages;
+    say(tr("“%1” are no pages. Write single pages and ranges, such as 1-3,5.").arg(m_pages->text()));
+    m_pages->setFocus();
+    m_pages->selectAll();
+    return std::nullopt;
 }
 
 void DialogWindow::print()
 {
     if (!m_document)
         return say(tr("There is no document to print."));
-    if (m_stop || !m_session->shouldPrint()) // a panel that refuses has told the user why
-        return;
+    const auto pages = chosenPages();
+    if (m_stop || !pages || (m_printer.session && !m_printer.session->shouldPrint()))
+        return; // a panel that refuses has told the user why
+    if (m_printer.session)
+        m_printer.session->takeRemarks(); // shown at every choice; now there are none to make
+    else if (m_paper->chosen() && m_paper->chosen()->name)
+        m_printer.generalOptions["media"] = *m_paper->chosen()->name;
     say({});
-    setSending(true);
     const QString title = m_jobTitle.isEmpty() ? m_document->title() : m_jobTitle;
-    Job job{*m_document, title, m_copies->value(), m_session->ppd().jobOptions()};
-    QThreadPool::globalInstance()->start([this, job, sink = m_sink.get(), stop = m_stop] {
+    submit({*m_document, title, m_copies->value(), *pages, m_printer.jobOptions()});
+}
+
+void DialogWindow::submit(const Job &job)
+{
+    setSending(true);
+    QThreadPool::globalInstance()->start([this, job, sink = m_printer.sink.get(), stop = m_stop] {
         const auto result = sink->submit(job, [this, stop](qint64 done, qint64 total) {
             const int percent = total > 0 ? static_cast<int>(done * 100 / total) : 0;
             QMetaObject::invokeMethod(m_progress, "setValue", Qt::QueuedConnection, Q_ARG(int, percent));
@@ -231,13 +392,14 @@ void DialogWindow::print()
 
 void DialogWindow::finish(const JobSink::Result &result)
 {
-    const bool stopped = m_stop->load();
     setSending(false);
     if (result.done) {
         Q_EMIT printed(result.sentence);
         return accept();
     }
-    say(stopped ? tr("Stopped. Nothing was printed.") : result.sentence);
+    say(result.sentence);
+    if (result.outdated)
+        Q_EMIT printerOutdated();
 }
 
 void DialogWindow::setSending(bool sending)
@@ -246,7 +408,8 @@ void DialogWindow::setSending(bool sending)
     m_progress->setValue(0);
     m_progress->setVisible(sending);
     for (QWidget *part :
-         {static_cast<QWidget *>(m_printers), static_cast<QWidget *>(m_paper), static_cast<QWidget *>(m_copies),
+         {static_cast<QWidget *>(m_printers), static_cast<QWidget *>(m_presets), static_cast<QWidget *>(m_save),
+          static_cast<QWidget *>(m_paper), static_cast<QWidget *>(m_copies), static_cast<QWidget *>(m_pages),
           static_cast<QWidget *>(m_tabs), m_panelSpace, static_cast<QWidget *>(m_print)})
         part->setEnabled(!sending);
 }

@@ -1,17 +1,19 @@
 // The print dialog as a window: a face of DialogSession, which makes all decisions.
 #pragma once
 
-#include "DialogSession.h"
-#include "Job.h"
+#include "Printer.h"
 
 #include <QDialog>
 
 #include <atomic>
 
+class QAction;
 class QBoxLayout;
 class QComboBox;
 class QDialogButtonBox;
+class QFormLayout;
 class QLabel;
+class QLineEdit;
 class QProgressBar;
 class QPushButton;
 class QSpinBox;
@@ -31,21 +33,31 @@ public:
     explicit DialogWindow(std::unique_ptr<Document> document);
     ~DialogWindow() override;
 
-    void setCopies(int copies);
+    /// Of the job; without one the document's name.
     void setTitle(const QString &title) { m_jobTitle = title; }
 
-    /// Names to choose a printer from; a single one is shown as it is.
+    /// The printer's name as the only one, until there are more to choose from.
+    void showPrinterName(const QString &name) { offerPrinters({name}, name); }
     void offerPrinters(const QStringList &names, const QString &chosen);
-    /// The printer to set up and to print on. The session must not be started yet.
-    void usePrinter(std::unique_ptr<DialogSession> session, std::unique_ptr<JobSink> sink);
+    /// The printer to set up and to print on. Its session must not be started yet.
+    void usePrinter(Printer printer);
+    const Printer &printer() const { return m_printer; }
+
     /// One sentence under the panel; an empty one takes it away.
     void say(const QString &sentence);
+    /// Nothing can be printed until a printer comes. Cancel works as ever.
+    void wait(const QString &sentence);
+    /// Says why there is no printer, with a button to look once more.
+    void offerRetry(const QString &sentence);
 
     /// False when there is no such panel or it has no view.
     bool showPanel(const QString &identifier);
 
 Q_SIGNALS:
     void printerChosen(const QString &name);
+    void retryWanted();
+    /// The printer has changed so that the settings may no longer fit; nothing was printed.
+    void printerOutdated();
     /// The job went out; the sentence says where to.
     void printed(const QString &sentence);
 
@@ -56,28 +68,43 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void layOutForm();
     void layOut();
     void offerPanels();
+    void offerPresets();
     void showPanelAt(int index);
     void joinAfterThePanel();
     void refreshSummary();
+    void settle();
+    void restorePreset(const QString &preset);
+    void save(const QString &preset);
+    void savePresetAs();
+    void removePreset();
+    std::optional<QString> chosenPages();
     void print();
+    void submit(const Job &job);
     void finish(const JobSink::Result &result);
     void setSending(bool sending);
 
     std::unique_ptr<Document> m_document;
-    std::unique_ptr<JobSink> m_sink;
-    std::unique_ptr<DialogSession> m_session;
+    Printer m_printer;
     QString m_jobTitle;
     std::shared_ptr<std::atomic<bool>> m_stop; // of the job being sent; null when none is
 
     QComboBox *m_printers;
+    QComboBox *m_presets;
+    QFormLayout *m_form;
+    QPushButton *m_save;
+    QAction *m_remove;
     PaperChooser *m_paper;
     QSpinBox *m_copies;
+    QLineEdit *m_pages;
     QTabBar *m_tabs;
     QWidget *m_panelSpace;
     SummaryView *m_summary;
     QLabel *m_message;
+    QPushButton *m_retry;
+    bool m_saysRemark = false; // on choices; goes with the next ones
     QProgressBar *m_progress;
     QBoxLayout *m_column;
     QBoxLayout *m_columns;

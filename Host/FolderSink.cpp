@@ -41,13 +41,15 @@ QByteArray ticket(const Job &job, const QString &documentName)
     QJsonObject options;
     for (const auto &[key, value] : job.options.asKeyValueRange())
         options[key] = value;
-    return QJsonDocument(QJsonObject{{"title", job.title},
-                                     {"document", documentName},
-                                     {"format", QString::fromLatin1(job.document.format())},
-                                     {"copies", job.copies},
-                                     {"created", QDateTime::currentDateTimeUtc().toString(Qt::ISODate)},
-                                     {"options", options}})
-        .toJson();
+    QJsonObject members{{"title", job.title},
+                        {"document", documentName},
+                        {"format", QString::fromLatin1(job.document.format())},
+                        {"copies", job.copies},
+                        {"created", QDateTime::currentDateTimeUtc().toString(Qt::ISODate)},
+                        {"options", options}};
+    if (!job.pages.isEmpty())
+        members["pages"] = job.pages;
+    return QJsonDocument(members).toJson();
 }
 
 /// A file name from a title: nothing that leaves the folder or hides in it.

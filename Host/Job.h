@@ -4,6 +4,7 @@
 #include "Document.h"
 #include "PPDDocument.h"
 
+#include <ctime>
 #include <functional>
 
 namespace host {
@@ -13,8 +14,18 @@ struct Job
     Document &document;
     QString title;
     int copies = 1;
+    QString pages; // as `readPageRanges` gives them; empty: all
     OptionValues options;
 };
+
+inline constexpr int kMostCopies = 999;
+
+/// Nil when the text is no number of copies.
+std::optional<int> readCopies(const QString &text);
+
+/// "1-3,5" in the one form that servers take: in order, without overlaps or spaces. Empty for all pages; nil when the
+/// text means no pages of a document.
+std::optional<QString> readPageRanges(const QString &text);
 
 /// `done` of `total` bytes have gone; false stops the job.
 using JobProgress = std::function<bool(qint64 done, qint64 total)>;
@@ -26,7 +37,8 @@ public:
     struct Result
     {
         bool done = false;
-        QString sentence; // for people: where the job went, or what is wrong
+        QString sentence;      // for people: where the job went, or what is wrong
+        bool outdated = false; // not sent, because the printer is another than the settings were made for
     };
 
     virtual ~JobSink() = default;
@@ -56,13 +68,16 @@ private:
 class CupsSink final : public JobSink
 {
 public:
-    explicit CupsSink(QString queue)
+    /// `ppdChanged`: when the PPD that the settings were made with last changed; nil when there was none.
+    CupsSink(QString queue, std::optional<std::time_t> ppdChanged)
         : m_queue(std::move(queue))
+        , m_ppdChanged(ppdChanged)
     {}
     Result submit(const Job &job, const JobProgress &progress) override;
 
 private:
     QString m_queue;
+    std::optional<std::time_t> m_ppdChanged;
 };
 
 } // namespace host

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <fcntl.h>
@@ -19,6 +20,7 @@ namespace {
 constexpr auto kCustom = "Custom";
 constexpr auto kCustomPrefix = "Custom.";
 constexpr auto kPageSize = "PageSize";
+constexpr auto kMedia = "media";
 
 QString text(const char *bytes) { return QString::fromUtf8(bytes); }
 
@@ -72,6 +74,33 @@ bool isInRange(const ppd_cparam_t &parameter, double value)
 }
 
 QString compact(double number) { return QString::number(number, 'g', 6); }
+
+QString customMark(const printing::Paper &paper)
+{
+    return kCustomPrefix + compact(paper.width) + 'x' + compact(paper.height);
+}
+
+/// Of "WIDTHxHEIGHT", in points unless a unit follows, as CUPS programs write custom sizes.
+std::optional<printing::Paper> customSize(const QString &value)
+{
+    static const QRegularExpression form(R"(^([0-9.]+)x([0-9.]+)(pt|in|ft|mm|cm|m)?$)");
+    static const QHash<QString, double> points{{"", 1},           {"pt", 1},         {"in", 72},        {"ft", 12 * 72},
+                                               {"mm", 72 / 25.4}, {"cm", 72 / 2.54}, {"m", 72 / 0.0254}};
+    const auto match = form.match(value);
+    if (!match.hasMatch() || !isPlainDecimal(match.captured(1)) || !isPlainDecimal(match.captured(2)))
+        return std::nullopt;
+    const double unit = points.value(match.captured(3));
+    return printing::Paper{foundation::doubleValue(match.captured(1)) * unit,
+                           foundation::doubleValue(match.captured(2)) * unit};
+}
+
+bool isWithinLimits(const ppd_file_t &ppd, const printing::Paper &paper)
+{
+    const auto width = static_cast<float>(paper.width);
+    const auto height = static_cast<float>(paper.height);
+    return ppd.custom_min[0] <= width && width <= ppd.custom_max[0] && ppd.custom_min[1] <= height &&
+           height <= ppd.custom_max[1];
+}
 
 } // namespace
 
@@ -127,22 +156,60 @@ bool PPDDocument::canMark(const ppd_option_t &option, const QString &choice, QSt
     return true;
 }
 
+/// How to mark a value as saved options and command lines give it: custom values with their prefix, custom sizes too.
+std::optional<QString> PPDDocument::savedMark(const ppd_option_t &option, const QString &value) const
+{
+    QString markAs;
+    if (canMark(option, value, &markAs))
+        return markAs;
+    if (!value.startsWith(kCustomPrefix))
+        return std::nullopt;
+    const QString bare = value.mid(static_cast<qsizetype>(std::strlen(kCustomPrefix)));
+    if (std::strcmp(option.keyword, kPageSize) == 0) {
+        const auto size = customSize(bare);
+        return size && hasCustomPageSize() && isWithinLimits(*m_file, *size) ? std::optional(customMark(*size))
+                                                                             : std::nullopt;
+    }
+    return canMark(option, bare, &markAs) ? std::optional(markAs) : std::nullopt;
+}
+
+/// A value as saved options and command lines give it. They may name the paper as programs do that know no PPD.
+std::optional<QString> PPDDocument::savedMark(const QString &keyword, const QString &value) const
+{
+    const bool isMedia = keyword == kMedia && !findOption(keyword);
+    const ppd_option_t *const option = findOption(isMedia ? QString(kPageSize) : keyword);
+    return option ? savedMark(*option, isMedia ? value.section(',', 0, 0) : value) : std::nullopt;
+}
+
 void PPDDocument::adoptDefaults(const OptionValues &values)
 {
     for (const auto &[keyword, value] : values.asKeyValueRange()) {
-        ppd_option_t *const option = findOption(keyword);
-        QString markAs;
-        // Saved options give custom values with their prefix.
-        const bool listed = option && canMark(*option, value, &markAs);
-        const QString bare =
-            value.startsWith(kCustomPrefix) ? value.mid(static_cast<qsizetype>(std::strlen(kCustomPrefix))) : value;
-        if (!option || (!listed && !canMark(*option, bare, &markAs)))
+        ppd_option_t *const option = findOption(keyword == kMedia ? QString(kPageSize) : keyword);
+        const auto markAs = savedMark(keyword, value);
+        if (!markAs)
             continue;
-        const QByteArray keywordOfChoice = markAs.startsWith(kCustomPrefix) ? QByteArray(kCustom) : markAs.toUtf8();
-        std::strncpy(option->defchoice, keywordOfChoice.constData(), sizeof(option->defchoice) - 1);
+        const QByteArray choice = markAs->startsWith(kCustomPrefix) ? QByteArray(kCustom) : markAs->toUtf8();
+        std::strncpy(option->defchoice, choice.constData(), sizeof(option->defchoice) - 1);
         option->defchoice[sizeof(option->defchoice) - 1] = '\0';
-        markOne(*option, markAs.toUtf8());
+        markOne(*option, markAs->toUtf8());
     }
+}
+
+bool PPDDocument::canTake(const QString &keyword, const QString &value) const
+{
+    return savedMark(keyword, value).has_value();
+}
+
+PPDDocument::Changes PPDDocument::restore(const OptionValues &values)
+{
+    const Marks before = marks();
+    for (std::size_t i = 0; i < m_options.size(); ++i) {
+        ppd_option_t &option = *m_options[i];
+        const auto saved = savedMark(option, values.value(text(option.keyword)));
+        markOne(option, saved ? saved->toUtf8() : m_declaredDefaults[i]);
+    }
+    resolveConflicts(nullptr, {});
+    return changesSince(before, nullptr);
 }
 
 std::optional<PPDDocument::Changes> PPDDocument::mark(const QString &keyword, const QString &choice)
@@ -159,7 +226,7 @@ std::optional<PPDDocument::Changes> PPDDocument::markCustomPageSize(const printi
     ppd_option_t *const option = findOption(kPageSize);
     if (!option || !hasCustomPageSize())
         return std::nullopt;
-    return apply(*option, kCustomPrefix + compact(paper.width) + 'x' + compact(paper.height));
+    return apply(*option, customMark(paper));
 }
 
 PPDDocument::Changes PPDDocument::apply(ppd_option_t &option, const QString &markAs)
@@ -167,15 +234,19 @@ PPDDocument::Changes PPDDocument::apply(ppd_option_t &option, const QString &mar
     const Marks before = marks();
     const QByteArray choice = markAs.toUtf8();
     markOne(option, choice);
-    resolveConflicts(option, choice);
-    const Marks after = marks();
+    resolveConflicts(&option, choice);
+    return changesSince(before, &option);
+}
 
+PPDDocument::Changes PPDDocument::changesSince(const Marks &before, const ppd_option_t *first) const
+{
+    const Marks after = marks();
     Changes changes;
     for (std::size_t i = 0; i < m_options.size(); ++i) {
         if (before[i] == after[i])
             continue;
         Change change{text(m_options[i]->keyword), text(after[i])};
-        changes.insert(m_options[i] == &option ? changes.begin() : changes.end(), std::move(change));
+        changes.insert(m_options[i] == first ? changes.begin() : changes.end(), std::move(change));
     }
     return changes;
 }
@@ -187,17 +258,24 @@ void PPDDocument::markOne(ppd_option_t &option, const QByteArray &choice)
     ppdMarkOption(m_file.get(), option.keyword, choice.constData());
 }
 
-void PPDDocument::resolveConflicts(const ppd_option_t &asked, const QByteArray &choice)
+/// Without an option asked for, every choice may be moved.
+void PPDDocument::resolveConflicts(const ppd_option_t *asked, const QByteArray &choice)
 {
     if (ppdConflicts(m_file.get()) == 0)
         return;
     cups_option_t *options = nullptr;
     int count = 0;
-    if (cupsResolveConflicts(m_file.get(), asked.keyword, choice.constData(), &count, &options)) {
+    if (cupsResolveConflicts(m_file.get(), asked ? asked->keyword : nullptr, asked ? choice.constData() : nullptr,
+                             &count, &options)) {
+        const Change cause = asked ? Change{text(asked->keyword), text(markedKeyword(*asked))} : Change{};
         for (int i = 0; i < count; ++i) {
             ppd_option_t *const moved = ppdFindOption(m_file.get(), options[i].name);
-            if (moved && moved != &asked)
-                markOne(*moved, options[i].value);
+            if (!moved || moved == asked)
+                continue;
+            const QString before = text(markedKeyword(*moved));
+            markOne(*moved, options[i].value);
+            if (before != markedKeyword(*moved))
+                m_moves.push_back({{text(moved->keyword), before}, text(markedKeyword(*moved)), cause});
         }
     }
     cupsFreeOptions(count, options);
@@ -250,10 +328,48 @@ OptionValues PPDDocument::jobOptions() const
     return values;
 }
 
-QString PPDDocument::pageSizeName() const
+OptionValues PPDDocument::generalAmong(const OptionValues &options) const
+{
+    OptionValues result;
+    for (const auto &[keyword, value] : options.asKeyValueRange())
+        if (keyword != kMedia && !findOption(keyword))
+            result.insert(keyword, value);
+    return result;
+}
+
+QString PPDDocument::choiceMarked(const QString &keyword) const
+{
+    const ppd_option_t *const option = findOption(keyword);
+    return option ? text(markedKeyword(*option)) : QString();
+}
+
+QString PPDDocument::defaultOf(const QString &keyword) const
+{
+    const auto option = std::ranges::find(m_options, findOption(keyword));
+    return option == m_options.end()
+               ? QString()
+               : text(m_declaredDefaults[static_cast<std::size_t>(option - m_options.begin())].constData());
+}
+
+QString PPDDocument::optionText(const QString &keyword) const
+{
+    const ppd_option_t *const option = findOption(keyword);
+    return option && *option->text ? text(option->text) : keyword;
+}
+
+QString PPDDocument::choiceText(const QString &keyword, const QString &choice) const
+{
+    ppd_option_t *const option = findOption(keyword);
+    const ppd_choice_t *const found = option ? ppdFindChoice(option, choice.toUtf8().constData()) : nullptr;
+    return found && *found->text ? text(found->text) : choice;
+}
+
+QString PPDDocument::pageSizeName() const { return choiceMarked(kPageSize); }
+
+std::optional<printing::Paper> PPDDocument::customPageSize() const
 {
     const ppd_option_t *const option = findOption(kPageSize);
-    return option ? text(markedKeyword(*option)) : QString();
+    return option && pageSizeName() == kCustom ? customSize(m_customValues.value(option)) : std::nullopt;
 }
 
 std::optional<printing::Paper> PPDDocument::pageSize(const QString &name) const

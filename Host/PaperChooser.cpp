@@ -51,12 +51,19 @@ PaperChooser::PaperChooser(QWidget *parent)
     connect(m_names, &QComboBox::activated, this, &PaperChooser::choose);
 }
 
-void PaperChooser::offer(const DialogSession &session)
+void PaperChooser::offer(const std::vector<PPDDocument::PageSize> &papers, const QString &name)
 {
-    m_sizes = session.ppd().pageSizes();
+    m_sizes = papers;
     m_names->clear();
     for (const auto &size : m_sizes)
         m_names->addItem(size.text, size.name);
+    m_names->setCurrentIndex(m_names->findData(name));
+    m_ownSize->hide();
+}
+
+void PaperChooser::offer(const DialogSession &session)
+{
+    offer(session.ppd().pageSizes(), {});
     const ppd_file_t &ppd = *session.ppd().file();
     if (session.ppd().hasCustomPageSize()) {
         m_names->addItem(tr("Custom size…"), kUserDefinedPaper);

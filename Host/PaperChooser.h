@@ -19,6 +19,8 @@ public:
 
     /// Shows the papers of a session, with its own selected; nothing is reported.
     void offer(const DialogSession &session);
+    /// Shows papers of a printer without a session; one is selected when it has that name, else none.
+    void offer(const std::vector<PPDDocument::PageSize> &papers, const QString &name);
     /// Nil before anything was offered.
     std::optional<ChosenPaper> chosen() const;
 

@@ -2,66 +2,46 @@
 #include "RunDialog.h"
 
 #include "CommandLine.h"
-#include "Destinations.h"
 #include "DialogWindow.h"
+#include "Printer.h"
+#include "QueueSupply.h"
 #include "Toolkit/Alert.h"
 
 #include <QApplication>
-#include <QThreadPool>
 
+#include <atomic>
+#include <csignal>
 #include <iostream>
 
 namespace host {
 
 namespace {
 
-/// What a printer needs to be used: its session, and where its jobs go.
-struct Printer
-{
-    QString name;
-    std::unique_ptr<DialogSession> session;
-    std::unique_ptr<JobSink> sink;
-};
-
-DialogSession::Parameters parametersFor(const CommandLine &line)
-{
-    DialogSession::Parameters parameters;
-    parameters.localization = line.language;
-    return parameters;
-}
-
-std::optional<Printer> printerOfPPD(const CommandLine &line, QString *error)
-{
-    auto parameters = parametersFor(line);
-    parameters.ppdPath = line.ppd;
-    parameters.defaults = line.options;
-    auto session = DialogSession::open(parameters, error);
-    if (!session)
-        return std::nullopt;
-    const QString name = session->ppd().attribute("NickName").value_or(line.ppd);
-    return Printer{name, std::move(session), std::make_unique<FolderSink>(line.output)};
-}
-
-std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queue, QString *error)
-{
-    auto parameters = parametersFor(line);
-    parameters.ppdPath = queue.ppd->path();
-    parameters.uri = queue.uri;
-    parameters.defaults = queue.savedOptions;
-    parameters.defaults.insert(line.options);
-    auto session = DialogSession::open(parameters, error);
-    if (!session)
-        return std::nullopt;
-    return Printer{queue.name, std::move(session), std::make_unique<CupsSink>(queue.name)};
-}
-
 std::optional<Printer> printerOf(const CommandLine &line, QString *error)
 {
     if (!line.ppd.isEmpty())
         return printerOfPPD(line, error);
-    const auto queue = findQueue(line.queue, error);
-    return queue ? printerOfQueue(line, *queue, error) : std::nullopt;
+    const auto queue = findQueue(QueueName::fromText(line.queue), error);
+    return queue ? printerOfQueue(line, *queue, {}, error) : std::nullopt;
 }
+
+std::atomic<bool> interrupted = false;
+
+/// While it lives, an interrupt stops the job instead of the program, which would leave half a job behind.
+class StopJobOnInterrupt
+{
+public:
+    StopJobOnInterrupt()
+    {
+        for (const int number : {SIGINT, SIGTERM})
+            std::signal(number, [](int) { interrupted = true; });
+    }
+    ~StopJobOnInterrupt()
+    {
+        for (const int number : {SIGINT, SIGTERM})
+            std::signal(number, SIG_DFL);
+    }
+};
 
 int printWithoutWindow(const CommandLine &line, Document &document)
 {
@@ -74,13 +54,20 @@ int printWithoutWindow(const CommandLine &line, Document &document)
     toolkit::Alert::setPresenter([](const toolkit::Alert &alert) {
         complain((alert.messageText() + ' ' + alert.informativeText()).simplified());
     });
-    DialogSession &session = *printer->session;
-    session.start(DialogSession::Prepare::everyPanel);
-    if (!session.shouldPrint())
-        return kRefused;
-    const Job job{document, line.title.isEmpty() ? document.title() : line.title, line.copies,
-                  session.ppd().jobOptions()};
-    const auto result = printer->sink->submit(job, [](qint64, qint64) { return true; });
+    if (!printer->note.isEmpty())
+        complain(printer->note);
+    if (DialogSession *const session = printer->session.get()) {
+        session->start(DialogSession::Prepare::everyPanel);
+        const bool agreed = session->shouldPrint();
+        for (const QString &remark : session->takeRemarks())
+            complain(remark);
+        if (!agreed)
+            return kRefused;
+    }
+    const Job job{document, line.title.isEmpty() ? document.title() : line.title, printer->copies, printer->pages,
+                  printer->jobOptions()};
+    const StopJobOnInterrupt stop;
+    const auto result = printer->sink->submit(job, [](qint64, qint64) { return !interrupted; });
     if (!result.done) {
         complain(result.sentence);
         return kRefused;
@@ -88,69 +75,6 @@ int printWithoutWindow(const CommandLine &line, Document &document)
     std::cout << result.sentence.toStdString() << std::endl;
     return kDone;
 }
-
-/// Keeps a window supplied with the queue that is chosen in it. Nothing of the server is asked on the window's thread.
-class QueueSupply : public QObject
-{
-public:
-    QueueSupply(const CommandLine &line, DialogWindow &window)
-        : QObject(&window)
-        , m_line(line)
-        , m_window(window)
-    {
-        connect(&window, &DialogWindow::printerChosen, this, &QueueSupply::fetch);
-        m_window.say(tr("Looking for printers…"));
-        fetch(line.queue);
-        QThreadPool::globalInstance()->start([this] {
-            const QueueNames found = queueNames();
-            QMetaObject::invokeMethod(
-                this, [this, found] { offer(found); }, Qt::QueuedConnection);
-        });
-    }
-
-private:
-    void offer(const QueueNames &found)
-    {
-        const QString wanted = m_line.queue.isEmpty() ? found.standard : m_line.queue;
-        m_window.offerPrinters(found.names, m_shown.isEmpty() ? wanted : m_shown);
-    }
-
-    void fetch(const QString &name)
-    {
-        const int turn = ++m_turn; // only the last choice counts
-        QThreadPool::globalInstance()->start([this, name, turn] {
-            QString error;
-            const auto queue = findQueue(name, &error);
-            QMetaObject::invokeMethod(
-                this,
-                [this, queue, error, turn] {
-                    if (turn == m_turn)
-                        use(queue, error);
-                },
-                Qt::QueuedConnection);
-        });
-    }
-
-    void use(const std::optional<Queue> &queue, QString error)
-    {
-        auto printer = queue ? printerOfQueue(m_line, *queue, &error) : std::nullopt;
-        if (!printer)
-            return m_window.say(error);
-        m_shown = printer->name;
-        m_window.offerPrinters({m_shown}, m_shown);
-        m_window.usePrinter(std::move(printer->session), std::move(printer->sink));
-        QThreadPool::globalInstance()->start([this] {
-            const QueueNames found = queueNames();
-            QMetaObject::invokeMethod(
-                this, [this, found] { offer(found); }, Qt::QueuedConnection);
-        });
-    }
-
-    CommandLine m_line;
-    DialogWindow &m_window;
-    QString m_shown;
-    int m_turn = 0;
-};
 
 } // namespace
 
@@ -174,7 +98,6 @@ int runDialog(const QStringList &arguments)
         return printWithoutWindow(*line, *document);
 
     DialogWindow window(std::move(document));
-    window.setCopies(line->copies);
     window.setTitle(line->title);
     QObject::connect(&window, &DialogWindow::printed,
                      [](const QString &where) { std::cout << where.toStdString() << std::endl; });
@@ -186,8 +109,8 @@ int runDialog(const QStringList &arguments)
             complain(error);
             return kRefused;
         }
-        window.offerPrinters({printer->name}, printer->name);
-        window.usePrinter(std::move(printer->session), std::move(printer->sink));
+        window.showPrinterName(printer->name);
+        window.usePrinter(*std::move(printer));
         if (!line->panel.isEmpty() && !window.showPanel(line->panel)) {
             complain(QString("--panel %1: there is no such panel").arg(line->panel));
             return kWrongUse;
@@ -213,8 +136,8 @@ int runShot(const QStringList &arguments)
         return kRefused;
     }
     DialogWindow window(nullptr);
-    window.offerPrinters({printer->name}, printer->name);
-    window.usePrinter(std::move(printer->session), std::move(printer->sink));
+    window.showPrinterName(printer->name);
+    window.usePrinter(*std::move(printer));
     if (!line->panel.isEmpty() && !window.showPanel(line->panel)) {
         complain(QString("--panel %1: there is no such panel").arg(line->panel));
         return kWrongUse;

@@ -33,6 +33,8 @@ class Window : public testing::Test
 protected:
     void SetUp() override
     {
+        qputenv("HOME", m_directory.path().toUtf8()); // what is saved here is nobody's
+        qputenv("CUPS_SERVERROOT", m_directory.path().toUtf8());
         foundation::Locale::current().set(QLocale("de_DE"));
         foundation::UserDefaults::standard().useStore(
             std::make_unique<QSettings>(m_directory.filePath("defaults.ini"), QSettings::IniFormat));
@@ -45,8 +47,13 @@ protected:
         auto session = DialogSession::open(parameters, &error);
         ASSERT_TRUE(session) << error.toStdString();
         m_session = session.get();
-        m_window->offerPrinters({"Test"}, "Test");
-        m_window->usePrinter(std::move(session), std::make_unique<FolderSink>(m_out));
+        Printer printer;
+        printer.name = "Test";
+        printer.session = std::move(session);
+        printer.sink = std::make_unique<FolderSink>(m_out);
+        printer.saved = SavedOptions("test");
+        m_window->showPrinterName("Test");
+        m_window->usePrinter(std::move(printer));
         m_window->show();
         QApplication::setActiveWindow(m_window.get());
         QApplication::processEvents();

@@ -35,7 +35,8 @@ protected:
         const QString &title = "ticket.pdf", const JobProgress &progress = [](qint64, qint64) { return true; })
     {
         FolderSink sink(m_out);
-        return sink.submit({*m_document, title, 2, {{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.023622"}}}, progress);
+        return sink.submit({*m_document, title, 2, "1-3,5", {{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.023622"}}},
+                           progress);
     }
     QStringList files() const { return QDir(m_out).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
     QByteArray content(const QString &name) const
@@ -62,6 +63,7 @@ TEST_F(Folder, ReceivesTheDocumentAndATicketWithEveryOption)
                                    {"document", "ticket.pdf"},
                                    {"format", "application/pdf"},
                                    {"copies", 2},
+                                   {"pages", "1-3,5"},
                                    {"options", QJsonObject{{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.023622"}}}}));
 }
 

@@ -1,0 +1,81 @@
+// Keeps a window supplied with printers of the CUPS server.
+#include "QueueSupply.h"
+
+#include "Background.h"
+#include "DialogWindow.h"
+
+namespace host {
+
+QueueSupply::QueueSupply(CommandLine line, DialogWindow &window)
+    : QObject(&window)
+    , m_line(std::move(line))
+    , m_window(window)
+    , m_wanted(QueueName::fromText(m_line.queue))
+{
+    connect(&window, &DialogWindow::printerChosen, this, [this](const QString &name) { fetch({name, {}}); });
+    connect(&window, &DialogWindow::retryWanted, this, &QueueSupply::start);
+    // What was chosen is kept, as far as the printer still has it.
+    connect(&window, &DialogWindow::printerOutdated, this, [this] {
+        fetch({m_shown, {}}, m_window.printer().jobOptions());
+    });
+    start();
+}
+
+void QueueSupply::start()
+{
+    fetch(m_wanted);
+    findNames();
+}
+
+void QueueSupply::fetch(const QueueName &name, const OptionValues &carried)
+{
+    m_wanted = name;
+    m_window.wait(tr("Looking for the printer…"));
+    inBackground(
+        *this,
+        [name] {
+            Fetched fetched;
+            fetched.queue = findQueue(name, &fetched.error);
+            return fetched;
+        },
+        [this, carried, turn = ++m_turn](const Fetched &fetched) {
+            if (turn == m_turn)
+                use(fetched, carried);
+        });
+}
+
+void QueueSupply::use(const Fetched &fetched, const OptionValues &carried)
+{
+    QString error = fetched.error;
+    auto printer = fetched.queue ? printerOfQueue(m_line, *fetched.queue, carried, &error) : std::nullopt;
+    if (!printer)
+        return m_window.offerRetry(error);
+    m_shown = printer->name;
+    m_window.showPrinterName(m_shown);
+    m_window.usePrinter(*std::move(printer));
+    if (!carried.isEmpty())
+        m_window.say(tr("The printer's description has changed on the server. Please look over the settings."));
+}
+
+void QueueSupply::findNames()
+{
+    inBackground(
+        *this,
+        [] {
+            Names found;
+            found.names = queueNames(&found.error);
+            return found;
+        },
+        [this](const Names &found) { offer(found); });
+}
+
+/// Without names the printer that was asked for may still come; when it does not, that is told.
+void QueueSupply::offer(const Names &found)
+{
+    if (!found.names)
+        return;
+    const QString wanted = m_wanted.queue.isEmpty() ? found.names->standard : m_wanted.queue;
+    m_window.offerPrinters(found.names->names, m_shown.isEmpty() ? wanted : m_shown);
+}
+
+} // namespace host

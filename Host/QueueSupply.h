@@ -1,0 +1,47 @@
+// Keeps a window supplied with printers of the CUPS server: which there are, and the one that is chosen.
+// Everything that asks the server is done in the background.
+#pragma once
+
+#include "CommandLine.h"
+#include "Destinations.h"
+
+#include <QObject>
+
+namespace host {
+
+class DialogWindow;
+
+class QueueSupply : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The window owns it. Starts with the queue of the command line.
+    QueueSupply(CommandLine line, DialogWindow &window);
+
+private:
+    struct Fetched
+    {
+        std::optional<Queue> queue;
+        QString error;
+    };
+    struct Names
+    {
+        std::optional<QueueNames> names;
+        QString error;
+    };
+
+    void start();
+    void fetch(const QueueName &name, const OptionValues &carried = {});
+    void use(const Fetched &fetched, const OptionValues &carried);
+    void findNames();
+    void offer(const Names &found);
+
+    CommandLine m_line;
+    DialogWindow &m_window;
+    QueueName m_wanted;
+    QString m_shown; // the queue in the window; empty before there is one
+    int m_turn = 0;  // of fetching: only the last one counts
+};
+
+} // namespace host

@@ -1,0 +1,173 @@
+// What the user has saved for queues.
+#include "SavedOptions.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+namespace host {
+
+namespace {
+
+constexpr int kMillisecondsToLock = 5000;
+constexpr qsizetype kLongestName = 127;
+
+struct Line
+{
+    QString kind; // "Dest", or "Default" for the default queue
+    QString queue;
+    QString preset;
+    QByteArray options;
+};
+
+/// Nil for what is no line about a queue.
+std::optional<Line> readLine(const QByteArray &text)
+{
+    static const QRegularExpression form(R"(^\s*(dest|default)\s+([^\s/]+)(?:/(\S*))?\s*)",
+                                         QRegularExpression::CaseInsensitiveOption);
+    const QString line = QString::fromUtf8(text);
+    const auto match = form.match(line);
+    if (!match.hasMatch())
+        return std::nullopt;
+    return Line{match.captured(1), match.captured(2), match.captured(3), line.mid(match.capturedEnd()).toUtf8()};
+}
+
+OptionValues parsed(const QByteArray &text)
+{
+    cups_option_t *options = nullptr;
+    const int count = cupsParseOptions(text.constData(), 0, &options);
+    OptionValues values;
+    for (int i = 0; i < count; ++i)
+        values.insert(QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value));
+    cupsFreeOptions(count, options);
+    return values;
+}
+
+QByteArray quoted(const QString &value)
+{
+    static const QRegularExpression plain("^[A-Za-z0-9_.,:+%@/-]+$");
+    if (plain.match(value).hasMatch())
+        return value.toUtf8();
+    QString escaped = value;
+    escaped.replace('\\', "\\\\").replace('"', "\\\"");
+    return '"' + escaped.toUtf8() + '"';
+}
+
+QByteArray written(const Line &line, const OptionValues &options)
+{
+    QByteArray text = line.kind.toUtf8() + ' ' + line.queue.toUtf8();
+    if (!line.preset.isEmpty())
+        text += '/' + line.preset.toUtf8();
+    for (const auto &[keyword, value] : options.asKeyValueRange())
+        text += ' ' + keyword.toUtf8() + '=' + quoted(value);
+    return text;
+}
+
+QString systemFile() { return qEnvironmentVariable("CUPS_SERVERROOT", QN_CUPS_SERVERROOT) + "/lpoptions"; }
+QString userFile() { return QDir::homePath() + "/.cups/lpoptions"; }
+
+/// No lines when there is no file; nil when there is one that can't be read.
+std::optional<QByteArrayList> linesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return QByteArrayList();
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArrayList lines = file.readAll().split('\n');
+    if (lines.last().isEmpty())
+        lines.removeLast();
+    return lines;
+}
+
+/// Every line about a queue, the system's first, as the user's count for more.
+std::vector<Line> linesAbout(const QString &queue)
+{
+    std::vector<Line> found;
+    for (const QString &path : {systemFile(), userFile()})
+        for (const QByteArray &text : linesOf(path).value_or(QByteArrayList()))
+            if (auto line = readLine(text); line && line->queue.compare(queue, Qt::CaseInsensitive) == 0)
+                found.push_back(*std::move(line));
+    return found;
+}
+
+bool isSame(const QString &one, const QString &other) { return one.compare(other, Qt::CaseInsensitive) == 0; }
+
+} // namespace
+
+QStringList SavedOptions::presets() const
+{
+    QStringList names;
+    for (const Line &line : linesAbout(m_queue))
+        if (!line.preset.isEmpty() && !names.contains(line.preset, Qt::CaseInsensitive))
+            names.append(line.preset);
+    names.sort(Qt::CaseInsensitive);
+    return names;
+}
+
+OptionValues SavedOptions::options(const QString &preset) const
+{
+    OptionValues values;
+    for (const Line &line : linesAbout(m_queue))
+        if (isSame(line.preset, preset))
+            values.insert(parsed(line.options));
+    return values;
+}
+
+std::optional<QString> SavedOptions::problemOf(const QString &preset)
+{
+    static const QRegularExpression form(R"(^[^\s/\\"'#\x00-\x1f]+$)");
+    if (preset.toUtf8().size() <= kLongestName && form.match(preset).hasMatch())
+        return std::nullopt;
+    return QString("“%1”: a name is one word without slashes and quotation marks").arg(preset.left(kLongestName));
+}
+
+std::optional<QString> SavedOptions::save(const QString &preset, const OptionValues &options) const
+{
+    return replace(preset, options);
+}
+
+std::optional<QString> SavedOptions::remove(const QString &preset) const { return replace(preset, std::nullopt); }
+
+std::optional<QString> SavedOptions::replace(const QString &preset, const std::optional<OptionValues> &options) const
+{
+    const QString path = userFile();
+    const QString folder = QFileInfo(path).path();
+    if (!QDir().exists(folder) && QDir().mkpath(folder))
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    // From reading to writing nobody else may write: what another dialog saves meanwhile would be lost.
+    QLockFile lock(path + ".lock");
+    if (!lock.tryLock(kMillisecondsToLock))
+        return QString("%1: can't be written just now").arg(path);
+    const auto lines = linesOf(path);
+    if (!lines)
+        return QString("%1: can't be read").arg(path);
+
+    QByteArrayList result;
+    Line mine{"Dest", m_queue, preset, {}};
+    bool placed = !options;
+    for (const QByteArray &text : *lines) {
+        const auto line = readLine(text);
+        if (!line || !isSame(line->queue, m_queue) || !isSame(line->preset, preset)) {
+            result.append(text);
+        } else if (!placed) {
+            mine.kind = line->kind;
+            result.append(written(mine, *options));
+            placed = true;
+        } else if (isSame(line->kind, "Default")) {
+            result.append("Default " + m_queue.toUtf8()); // stays the default queue without the preset
+        }
+    }
+    if (!placed)
+        result.append(written(mine, *options));
+
+    QSaveFile file(path); // the old file stands until the new one is complete
+    file.open(QIODevice::WriteOnly);
+    for (const QByteArray &line : result)
+        file.write(line + '\n');
+    return file.commit() ? std::nullopt : std::optional(QString("%1: %2").arg(path, file.errorString()));
+}
+
+} // namespace host
