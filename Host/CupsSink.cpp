@@ -1,6 +1,5 @@
 // Jobs that go to a CUPS queue.
 #include "Job.h"
-#include "PPDCache.h"
 #include "Server.h"
 
 namespace host {
@@ -71,7 +70,7 @@ JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
     const CupsDestination destination(cupsGetNamedDest(server.get(), m_queue.toUtf8().constData(), nullptr));
     if (!destination)
         return failed(cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? "no such queue" : server.problem());
-    if (m_ppdChanged && hasPPDChanged(server.get(), m_queue, *m_ppdChanged))
+    if (m_ppd && hasPPDChanged(server.get(), m_queue, *m_ppd))
         return {false, m_queue + ": the printer's description has changed meanwhile; nothing was printed", true};
     const CupsDestinationInfo info(cupsCopyDestInfo(server.get(), destination.get()));
     if (!info)

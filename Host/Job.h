@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Document.h"
+#include "PPDCache.h"
 #include "PPDDocument.h"
 
-#include <ctime>
 #include <functional>
 
 namespace host {
@@ -68,16 +68,16 @@ private:
 class CupsSink final : public JobSink
 {
 public:
-    /// `ppdChanged`: when the PPD that the settings were made with last changed; nil when there was none.
-    CupsSink(QString queue, std::optional<std::time_t> ppdChanged)
+    /// `ppd`: the one that the settings were made with; nil when there was none.
+    CupsSink(QString queue, std::optional<CachedPPD> ppd)
         : m_queue(std::move(queue))
-        , m_ppdChanged(ppdChanged)
+        , m_ppd(std::move(ppd))
     {}
     Result submit(const Job &job, const JobProgress &progress) override;
 
 private:
     QString m_queue;
-    std::optional<std::time_t> m_ppdChanged;
+    std::optional<CachedPPD> m_ppd;
 };
 
 } // namespace host

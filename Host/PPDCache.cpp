@@ -22,62 +22,64 @@ QString cachePath(const QString &queue)
     return folder + '/' + QCryptographicHash::hash(owner.toUtf8(), QCryptographicHash::Sha1).toHex() + ".ppd";
 }
 
-/// Asks the server for a PPD that changed after `changed`; what came is in `file`.
-http_status_t ask(http_t *http, const QString &queue, std::time_t &changed, std::shared_ptr<FileToRemove> &file)
+/// Asks the server for a PPD that changed after `asOf`; what came is in `file`.
+http_status_t ask(http_t *http, const QString &queue, std::time_t &asOf, std::shared_ptr<FileToRemove> &file)
 {
     char buffer[kPathLength] = "";
-    const http_status_t status = cupsGetPPD3(http, queue.toUtf8().constData(), &changed, buffer, sizeof(buffer));
+    const http_status_t status = cupsGetPPD3(http, queue.toUtf8().constData(), &asOf, buffer, sizeof(buffer));
     if (*buffer)
         file = std::make_shared<FileToRemove>(QFile::decodeName(buffer));
+    --asOf; // times are in seconds: in the one of the answer the PPD may have changed once more
     return status;
 }
 
-/// The server tells times in seconds: a PPD of this very second can change again without being told.
-bool mayChangeUnnoticed(std::time_t changed) { return std::time(nullptr) - changed < 2; }
-
-bool keep(const QString &from, const QString &path, std::time_t changed)
+QByteArray contentOf(const QString &path)
 {
-    QFile source(from);
-    QSaveFile copy(path); // another dialog may be keeping the same one
-    copy.setDirectWriteFallback(false);
-    if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
-        return false;
-    copy.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    const QByteArray content = source.readAll();
-    if (copy.write(content) != content.size() || !copy.flush() ||
-        !copy.setFileTime(QDateTime::fromSecsSinceEpoch(changed), QFileDevice::FileModificationTime))
-        return false;
-    return copy.commit();
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-std::time_t timeOf(const QFileInfo &file) { return file.isFile() ? file.lastModified().toSecsSinceEpoch() : 0; }
+QByteArray digestOf(const QByteArray &content) { return QCryptographicHash::hash(content, QCryptographicHash::Sha1); }
+
+bool keep(const QByteArray &content, const QString &path, std::time_t asOf)
+{
+    const QString folder = QFileInfo(path).path();
+    QDir().mkpath(folder);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QSaveFile copy(path); // another dialog may be keeping the same one
+    if (!copy.open(QIODevice::WriteOnly))
+        return false;
+    copy.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    return copy.write(content) == content.size() && copy.flush() &&
+           copy.setFileTime(QDateTime::fromSecsSinceEpoch(asOf), QFileDevice::FileModificationTime) && copy.commit();
+}
 
 } // namespace
 
 std::optional<CachedPPD> fetchPPD(http_t *http, const QString &queue)
 {
     const QString path = cachePath(queue);
-    const QString folder = QFileInfo(path).path();
-    QDir().mkpath(folder);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-
-    CachedPPD cached{path, timeOf(QFileInfo(path)), nullptr};
+    const QFileInfo kept(path);
+    std::time_t asOf = kept.isFile() ? kept.lastModified().toSecsSinceEpoch() : 0;
+    const std::time_t before = asOf;
     std::shared_ptr<FileToRemove> fetched;
-    const http_status_t status = ask(http, queue, cached.changed, fetched);
+    const http_status_t status = ask(http, queue, asOf, fetched);
     if (status == HTTP_STATUS_NOT_MODIFIED)
-        return cached;
+        return CachedPPD{path, before, digestOf(contentOf(path)), nullptr};
     if (status != HTTP_STATUS_OK || !fetched)
         return std::nullopt;
-    if (mayChangeUnnoticed(cached.changed) || !keep(fetched->path(), path, cached.changed))
-        return CachedPPD{fetched->path(), cached.changed, fetched};
-    return cached;
+    const QByteArray content = contentOf(fetched->path());
+    if (keep(content, path, asOf))
+        return CachedPPD{path, asOf, digestOf(content), nullptr};
+    return CachedPPD{fetched->path(), asOf, digestOf(content), fetched};
 }
 
-bool hasPPDChanged(http_t *http, const QString &queue, std::time_t since)
+bool hasPPDChanged(http_t *http, const QString &queue, const CachedPPD &known)
 {
-    std::time_t changed = since;
+    std::time_t asOf = known.asOf;
     std::shared_ptr<FileToRemove> fetched;
-    return ask(http, queue, changed, fetched) == HTTP_STATUS_OK && changed != since;
+    return ask(http, queue, asOf, fetched) == HTTP_STATUS_OK && fetched &&
+           digestOf(contentOf(fetched->path())) != known.digest;
 }
 
 } // namespace host

@@ -3,6 +3,7 @@
 
 #include "Printing/ppd_api.h"
 
+#include <QByteArray>
 #include <QFile>
 #include <QString>
 
@@ -32,15 +33,16 @@ private:
 struct CachedPPD
 {
     QString path;                            // of a file that only its owner can read
-    std::time_t changed = 0;                 // when the server's PPD last was
-    std::shared_ptr<FileToRemove> temporary; // where the file could not be kept, or had better not be
+    std::time_t asOf = 0;                    // the server's PPD has been this one at that time
+    QByteArray digest;                       // of the content
+    std::shared_ptr<FileToRemove> temporary; // where the file could not be kept
 };
 
 /// The queue's PPD as the server has it now. Nil when the queue has none or the server does not answer;
-/// `cupsLastErrorString` then says why.
+/// `cupsLastError` then says which.
 std::optional<CachedPPD> fetchPPD(http_t *http, const QString &queue);
 
-/// Whether the server's PPD of a queue is another than it was at `since`. False when that can't be found out.
-bool hasPPDChanged(http_t *http, const QString &queue, std::time_t since);
+/// Whether the server's PPD of a queue is another by now. False when that can't be found out.
+bool hasPPDChanged(http_t *http, const QString &queue, const CachedPPD &known);
 
 } // namespace host

@@ -258,6 +258,21 @@ void PPDDocument::markOne(ppd_option_t &option, const QByteArray &choice)
     ppdMarkOption(m_file.get(), option.keyword, choice.constData());
 }
 
+/// The choice that now forbids another one; the one asked for before others.
+PPDDocument::Change PPDDocument::causeOf(const Change &moved, const ppd_option_t *asked) const
+{
+    cups_option_t *options = nullptr;
+    const int count =
+        cupsGetConflicts(m_file.get(), moved.keyword.toUtf8().constData(), moved.choice.toUtf8().constData(), &options);
+    Change cause;
+    for (int i = 0; i < count; ++i)
+        if (moved.keyword != options[i].name &&
+            (cause.keyword.isEmpty() || (asked && qstrcmp(asked->keyword, options[i].name) == 0)))
+            cause = {text(options[i].name), text(options[i].value)};
+    cupsFreeOptions(count, options);
+    return cause;
+}
+
 /// Without an option asked for, every choice may be moved.
 void PPDDocument::resolveConflicts(const ppd_option_t *asked, const QByteArray &choice)
 {
@@ -267,7 +282,6 @@ void PPDDocument::resolveConflicts(const ppd_option_t *asked, const QByteArray &
     int count = 0;
     if (cupsResolveConflicts(m_file.get(), asked ? asked->keyword : nullptr, asked ? choice.constData() : nullptr,
                              &count, &options)) {
-        const Change cause = asked ? Change{text(asked->keyword), text(markedKeyword(*asked))} : Change{};
         for (int i = 0; i < count; ++i) {
             ppd_option_t *const moved = ppdFindOption(m_file.get(), options[i].name);
             if (!moved || moved == asked)
@@ -275,7 +289,9 @@ void PPDDocument::resolveConflicts(const ppd_option_t *asked, const QByteArray &
             const QString before = text(markedKeyword(*moved));
             markOne(*moved, options[i].value);
             if (before != markedKeyword(*moved))
-                m_moves.push_back({{text(moved->keyword), before}, text(markedKeyword(*moved)), cause});
+                m_moves.push_back({{text(moved->keyword), before},
+                                   text(markedKeyword(*moved)),
+                                   causeOf({text(moved->keyword), before}, asked)});
         }
     }
     cupsFreeOptions(count, options);

@@ -109,6 +109,7 @@ private:
     Changes changesSince(const Marks &before, const ppd_option_t *first) const;
     void markOne(ppd_option_t &option, const QByteArray &choice);
     void resolveConflicts(const ppd_option_t *asked, const QByteArray &choice);
+    Change causeOf(const Change &moved, const ppd_option_t *asked) const;
     Marks marks() const;
     const char *markedKeyword(const ppd_option_t &option) const;
     QString markedValue(const ppd_option_t &option, bool forPeople) const;

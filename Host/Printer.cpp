@@ -104,7 +104,7 @@ std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queu
         printer.generalOptions.insert(line.options);
     }
     takeCopiesAndPages(printer, line);
-    printer.sink = std::make_unique<CupsSink>(queue.name, queue.ppd ? std::optional(queue.ppd->changed) : std::nullopt);
+    printer.sink = std::make_unique<CupsSink>(queue.name, queue.ppd);
     return printer;
 }
 

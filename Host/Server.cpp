@@ -26,8 +26,19 @@ ServerConnection::ServerConnection(std::function<bool()> goOn, int secondsOfSile
     askedForPassword = false;
     m_http =
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMillisecondsToConnect, nullptr);
-    if (m_http)
-        httpSetTimeout(m_http, 1, waitOn, this);
+    if (!m_http)
+        return;
+    httpSetTimeout(m_http, 1, waitOn, this);
+    m_answers = ask();
+}
+
+/// Looking for a queue, the library goes on to look by a connection of its own, without an end, when this one fails: it
+/// must not come to that with a server that keeps silent or wants a password.
+bool ServerConnection::ask()
+{
+    ippDelete(cupsDoRequest(m_http, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
+    return !asksForPassword() &&
+           (cupsLastError() <= IPP_STATUS_OK_CONFLICTING || cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND);
 }
 
 ServerConnection::~ServerConnection() { httpClose(m_http); }
@@ -38,13 +49,15 @@ int ServerConnection::waitOn(http_t *, void *self)
     return ++connection.m_silence < connection.m_patience && (!connection.m_goOn || connection.m_goOn());
 }
 
+bool ServerConnection::asksForPassword() const { return askedForPassword; }
+
 QString ServerConnection::problem() const
 {
     if (!m_http)
         return "no CUPS server answers";
-    if (askedForPassword)
+    if (asksForPassword())
         return "the CUPS server asks for a password";
-    if (m_silence >= m_patience)
+    if (keepsSilent())
         return "the CUPS server does not answer";
     return QString::fromUtf8(cupsLastErrorString());
 }

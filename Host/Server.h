@@ -14,29 +14,34 @@ namespace host {
 class ServerConnection
 {
 public:
-    /// Connects, within a few seconds. While the server keeps silent later, `goOn` is asked about once a second; when
-    /// it answers false, or the silence lasts, the call that waits fails.
+    /// Connects and asks a first question, within a few seconds. While the server keeps silent later, `goOn` is asked
+    /// about once a second; when it answers false, or the silence lasts, the call that waits fails.
     explicit ServerConnection(std::function<bool()> goOn = {}, int secondsOfSilence = 10);
     ~ServerConnection();
     ServerConnection(const ServerConnection &) = delete;
     ServerConnection &operator=(const ServerConnection &) = delete;
 
-    explicit operator bool() const { return m_http; }
+    /// Whether the server was reached and answers.
+    explicit operator bool() const { return m_answers; }
     http_t *get() const { return m_http; }
 
     /// The server has moved: its silence counts from here.
     void heard() { m_silence = 0; }
 
+    bool asksForPassword() const;
+    bool keepsSilent() const { return m_silence >= m_patience; }
     /// One clause that says why the last call of this thread failed.
     QString problem() const;
 
 private:
     static int waitOn(http_t *, void *self);
+    bool ask();
 
     std::function<bool()> m_goOn;
     int m_patience;
     int m_silence = 0;
     http_t *m_http = nullptr;
+    bool m_answers = false;
 };
 
 struct DestinationFree

@@ -2,7 +2,7 @@
 
 build_packages=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev
     libgl1-mesa-dev libcups2-dev fonts-dejavu-core)
-test_packages=(libgtest-dev cups-daemon cups-client cups-ipp-utils fonts-noto-cjk)
+test_packages=(libgtest-dev cups cups-daemon cups-client fonts-noto-cjk xvfb openbox xdotool dbus at-spi2-core libatspi2.0-dev pkg-config)
 
 say() { printf '%s\n' "$*"; }
 

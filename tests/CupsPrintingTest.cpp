@@ -2,7 +2,9 @@
 #include "CupsServer.h"
 #include "Print.h"
 
+#include <QDir>
 #include <QFile>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -119,6 +121,188 @@ TEST_F(CupsPrinting, SaysThatTheServerIsGone)
     m_server.stop();
     EXPECT_EQ(print({"-d", "counter", kTicket}), 1);
     EXPECT_EQ(m_said.trimmed(), "qnprint: counter: no CUPS server answers");
+}
+
+TEST_F(CupsPrinting, TellsOfAQueueThatIsStoppedAndLeavesTheJobThere)
+{
+    ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0);
+    EXPECT_EQ(print({"-d", "counter", kTicket}), 0);
+    EXPECT_EQ(m_said, "qnprint: counter: the queue is stopped; jobs wait until it is started\ncounter-1\n");
+    EXPECT_EQ(m_server.recordCount(), 0);
+    ASSERT_EQ(m_server.run("cupsenable", {"counter"}), 0);
+    EXPECT_EQ(m_server.record(1)["title"], "ticket.pdf");
+}
+
+TEST_F(CupsPrinting, SendsThePagesInTheFormThatServersTake)
+{
+    ASSERT_EQ(print({"-d", "counter", "-P", "5, 1 -2,2-3", kTicket}), 0) << m_said.toStdString();
+    EXPECT_TRUE(m_server.record(1)["options"].split(' ').contains("page-ranges=1-3,5"));
+    EXPECT_EQ(print({"-d", "counter", "-P", "5-1", kTicket}), 2);
+    EXPECT_EQ(m_said.trimmed(), "qnprint: -P 5-1: no pages, such as 1-3,5");
+}
+
+TEST_F(CupsPrinting, PassesOnWhatThePPDDoesNotKnow)
+{
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter", "-o", "number-up=2", "-o", "copies=3"}), 0);
+    ASSERT_EQ(print({"-d", "counter", "-o", "fit-to-page=true", "-o", "QnSpeed=S2", kTicket}), 0)
+        << m_said.toStdString();
+    const auto job = m_server.record(1);
+    const QStringList options = job["options"].split(' ');
+    EXPECT_TRUE(options.contains("number-up=2"));
+    EXPECT_TRUE(options.contains("fit-to-page"));
+    EXPECT_EQ(options.filter("QnSpeed"), QStringList("QnSpeed=S2"));
+    EXPECT_EQ(job["copies"], "3");
+}
+
+TEST_F(CupsPrinting, TakesThePaperByItsGeneralNameToo)
+{
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter", "-o", "PageSize=PerfA4"}), 0);
+    ASSERT_EQ(print({"-d", "counter", "-o", "media=RollA4", kTicket}), 0) << m_said.toStdString();
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["PageSize"], "RollA4");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
+    EXPECT_FALSE(job["options"].contains("media="));
+}
+
+TEST_F(CupsPrinting, RefusesChoicesThatThePrinterDoesNotHave)
+{
+    for (const char *choice :
+         {"QnDensity=D99", "PageSize=A0", "media=A0", "QnPaperFeed=Custom.99", "PageSize=Custom.1x1"}) {
+        EXPECT_EQ(print({"-d", "counter", "-o", choice, kTicket}), 1);
+        EXPECT_EQ(m_said.trimmed(), QByteArray("qnprint: counter: -o ") + choice + ": the printer has no such choice");
+    }
+    EXPECT_EQ(m_server.recordCount(), 0);
+}
+
+TEST_F(CupsPrinting, TellsWhichChoiceAConstraintMoved)
+{
+    ASSERT_EQ(print({"-d", "counter", "--language", "en", "-o", "QnMedia=ThermalCopy", "-o", "QnSpeed=S3", kTicket}),
+              0);
+    EXPECT_EQ(m_said, "qnprint: Paper Type “Thermal Paper” instead of “Thermal Copy Paper”, to go with Print Speed "
+                      "“Fastest”.\ncounter-1\n");
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["QnMedia"], "Thermal");
+    EXPECT_EQ(job["QnSpeed"], "S3");
+}
+
+TEST_F(CupsPrinting, TakesAPresetByTheNameThatLpTakes)
+{
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter", "-o", "QnDensity=D4"}), 0);
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter/express", "-o", "QnSpeed=S1", "-o", "PageSize=Custom.400x500"}),
+              0);
+    ASSERT_EQ(print({"-d", "counter/express", kTicket}), 0) << m_said.toStdString();
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["QnSpeed"], "S1");
+    EXPECT_TRUE(job["options"].contains("PageSize=Custom.400x500"));
+    ASSERT_EQ(m_server.run("lpoptions", {"-d", "counter/express"}), 0);
+    ASSERT_EQ(print({kTicket}), 0) << m_said.toStdString();
+    EXPECT_EQ(m_server.record(2)["QnSpeed"], "S1");
+}
+
+struct Device
+{
+    const char *uri;
+};
+class Devices : public CupsPrinting, public testing::WithParamInterface<Device>
+{};
+
+TEST_P(Devices, ReceiveTheChoicesWhateverTheirScheme)
+{
+    QString uri = GetParam().uri;
+    uri.replace("PORT", QString::number(m_server.port())).replace("FOLDER", m_server.path("tmp"));
+    ASSERT_TRUE(m_server.addPlainQueue("end", "file:///dev/null"));
+    ASSERT_TRUE(m_server.addQueue("line", uri));
+    ASSERT_EQ(print({"-d", "line", "-o", "PageSize=RollA4", "-o", "QnDensity=D9", kTicket}), 0) << m_said.toStdString();
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["QnDensity"], "D9");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
+    EXPECT_NEAR(job["parameter QnPaperFeed"].toDouble(), 26 / 25.4, 0.0001);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, Devices,
+                         testing::Values(Device{"usb://Qn/Thermal?serial=2"}, Device{"QNLRUSB://Qn/Thermal"},
+                                         Device{"socket://127.0.0.1:9"}, Device{"ipp://127.0.0.1:PORT/printers/end"},
+                                         Device{"file://FOLDER/printed"}),
+                         [](const auto &row) { return QString(row.param.uri).section(':', 0, 0).toStdString(); });
+
+TEST_F(CupsPrinting, PrintsOnAQueueWithoutAPPD)
+{
+    ASSERT_TRUE(m_server.addPlainQueue("plain", "file://" + m_server.path("tmp/printed")));
+    EXPECT_EQ(print({"-d", "plain", "-o", "QnDensity=D9", kTicket}), 0) << m_said.toStdString();
+    EXPECT_EQ(m_said.trimmed(), "plain-1");
+}
+
+TEST_F(CupsPrinting, FetchesAPPDAgainOnlyWhenItHasChanged)
+{
+    const auto fetches = [this](const char *status) {
+        return m_server.accessLog().count(QByteArray("\"GET /printers/counter.ppd HTTP/1.1\" ") + status);
+    };
+    QThread::msleep(2100); // in the second of a change the server can't tell whether there was a further one
+    ASSERT_EQ(print({"-d", "counter", kTicket}), 0);
+    ASSERT_EQ(fetches("200"), 1);
+    ASSERT_EQ(print({"-d", "counter", kTicket}), 0);
+    EXPECT_EQ(fetches("200"), 1);
+    EXPECT_GE(fetches("304"), 1);
+    ASSERT_TRUE(
+        m_server.addQueue("counter", "usb://Qn/Thermal?serial=1", {{"*DefaultQnDensity:", "*DefaultQnDensity: D4"}}));
+    ASSERT_EQ(print({"-d", "counter", kTicket}), 0);
+    EXPECT_GE(fetches("200"), 2);
+}
+
+TEST_F(CupsPrinting, KeepsItsFilesPrivateAndLeavesNoneBehind)
+{
+    ASSERT_EQ(print({"-d", "counter", kTicket}), 0);
+    EXPECT_EQ(QDir(m_server.path("tmp")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList());
+    const QFileInfo folder(m_server.path("home/cache/qnprint/qnprint/ppd"));
+    ASSERT_TRUE(folder.isDir());
+    const auto ownersOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(folder.permissions() & ~(ownersOnly | QFile::ExeOwner | QFile::ExeUser), 0);
+    const auto files = QDir(folder.filePath()).entryInfoList(QDir::Files | QDir::Hidden);
+    ASSERT_EQ(files.size(), 1);
+    EXPECT_EQ(files[0].permissions() & ~ownersOnly, 0);
+}
+
+TEST_F(CupsPrinting, SaysThatAPasswordIsAskedFor)
+{
+    CupsServer guarded;
+    const auto problem = guarded.start({.asksForPassword = true});
+    ASSERT_FALSE(problem) << problem->toStdString();
+    EXPECT_EQ(guarded.run(QN_PROGRAM, {"--no-dialog", "-d", "counter", kTicket}, &m_said), 1);
+    EXPECT_EQ(m_said.trimmed(), "qnprint: counter: the CUPS server asks for a password");
+}
+
+TEST_F(CupsPrinting, EndsWhenTheServerKeepsSilent)
+{
+    m_server.freeze();
+    EXPECT_EQ(print({"-d", "counter", kTicket}), 1);
+    EXPECT_EQ(m_said.trimmed(), "qnprint: counter: the CUPS server does not answer");
+    m_server.thaw();
+    EXPECT_EQ(m_server.recordCount(), 0);
+}
+
+TEST_F(CupsPrinting, CancelsTheJobWhenItIsInterrupted)
+{
+    ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0); // nothing of the job may be printed before
+    const QString large = m_server.path("tmp/large.txt");
+    QFile file(large);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.resize(0) && file.write(QByteArray(64 << 20, 'x')));
+    file.close();
+    QProcess program;
+    program.setProcessEnvironment(m_server.environment());
+    program.start(QN_PROGRAM, {"--no-dialog", "-d", "counter", large});
+    const auto isReceiving = [this] { return m_server.log().contains("Send-Document"); };
+    for (int i = 0; i < 1000 && !isReceiving(); ++i)
+        QThread::msleep(5);
+    ASSERT_TRUE(isReceiving());
+    program.terminate();
+    ASSERT_TRUE(program.waitForFinished(20000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_TRUE(program.readAllStandardError().contains("qnprint: counter: stopped"));
+    EXPECT_EQ(m_server.openJobs(), "");
+    EXPECT_EQ(m_server.spooled(), QStringList());
 }
 
 } // namespace

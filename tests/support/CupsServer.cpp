@@ -7,10 +7,16 @@
 #include <QThread>
 
 #include <arpa/inet.h>
+#include <csignal>
+#include <cstring>
 #include <grp.h>
+#include <net/if.h>
+#include <sched.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace support {
 
@@ -18,6 +24,21 @@ namespace {
 
 constexpr int kMilliseconds = 20000;
 constexpr auto kSystemBin = "/usr/lib/cups";
+
+/// A network that no other program is in. Where the system does not let us, the port is proved to be our own instead.
+void leaveForOwnNetwork()
+{
+    static bool done = false;
+    if (std::exchange(done, true) || ::unshare(::geteuid() == 0 ? CLONE_NEWNET : CLONE_NEWUSER | CLONE_NEWNET) != 0)
+        return;
+    const int fd = ::socket(AF_INET, SOCK_DGRAM, 0);
+    ifreq loopback{};
+    std::strcpy(loopback.ifr_name, "lo");
+    loopback.ifr_flags = IFF_UP | IFF_RUNNING;
+    if (::ioctl(fd, SIOCSIFFLAGS, &loopback) != 0)
+        qFatal("the loopback network can't be brought up");
+    ::close(fd);
+}
 
 /// A port that was free a moment ago. The log tells whether it still was when the server took it.
 int freePort()
@@ -54,6 +75,12 @@ void write(const QString &path, const QByteArray &content, mode_t mode = 0644)
     ::chmod(QFile::encodeName(path).constData(), mode);
 }
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 void linkAll(const QString &from, const QString &to, const QStringList &except)
 {
     for (const QString &name : QDir(from).entryList(QDir::AllEntries | QDir::NoDotAndDotDot))
@@ -79,31 +106,37 @@ QByteArray filesConfiguration(const QString &folder)
     return text.toUtf8();
 }
 
-QByteArray serverConfiguration(int port)
-{
-    return QString(
-               "Listen 127.0.0.1:%1\nLogLevel debug\nMaxLogSize 0\nBrowsing No\nDefaultShared No\nWebInterface "
-               "No\nDefaultAuthType None\nDefaultEncryption Never\nIdleExitTimeout 0\nPreserveJobHistory "
-               "Yes\nPreserveJobFiles Yes\nJobRetryInterval 1\n<Location />\nOrder allow,deny\nAllow "
-               "all\n</Location>\n<Location /admin>\nOrder allow,deny\nAllow all\n</Location>\n<Policy "
-               "default>\nJobPrivateAccess all\nJobPrivateValues none\nSubscriptionPrivateAccess "
-               "all\nSubscriptionPrivateValues none\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n")
-        .arg(port)
-        .toUtf8();
-}
-
 } // namespace
 
 CupsServer::~CupsServer() { stop(); }
 
+QByteArray CupsServer::serverConfiguration() const
+{
+    const QString access = QString("Order allow,deny\nAllow all\n%1")
+                               .arg(m_setup.asksForPassword ? "AuthType Basic\nRequire valid-user\n" : "");
+    // What the server may write is limited: then its log must be short, as it is a file too.
+    return QString("Listen 127.0.0.1:%1\nLogLevel %2\nAccessLogLevel all\nMaxLogSize 0\nBrowsing No\nDefaultShared "
+                   "No\nWebInterface "
+                   "No\nDefaultAuthType None\nDefaultEncryption Never\nIdleExitTimeout 0\nPreserveJobHistory "
+                   "Yes\nPreserveJobFiles No\nJobRetryInterval 1\n<Location />\n%3</Location>\n<Location "
+                   "/admin>\n%3</Location>\n<Policy default>\nJobPrivateAccess all\nJobPrivateValues "
+                   "none\nSubscriptionPrivateAccess all\nSubscriptionPrivateValues none\n<Limit "
+                   "All>\n%3</Limit>\n</Policy>\n")
+        .arg(m_port)
+        .arg(m_setup.largestFile ? "error" : "debug")
+        .arg(access)
+        .toUtf8();
+}
+
 void CupsServer::lay()
 {
     QDir folder(m_folder.path());
-    for (const char *name :
-         {"etc/ppd", "etc/ssl", "log", "run/certs", "cache", "spool/tmp", "bin/filter", "bin/backend", "rec"})
+    for (const char *name : {"etc/ppd", "etc/ssl", "log", "run/certs", "cache", "spool/tmp", "bin/filter",
+                             "bin/backend", "rec", "home/runtime", "tmp"})
         folder.mkpath(name);
     ::chmod(QFile::encodeName(m_folder.path()).constData(), 0711);
     ::chmod(QFile::encodeName(path("rec")).constData(), 01777);
+    ::chmod(QFile::encodeName(path("home/runtime")).constData(), 0700);
     if (const group *lp = ::geteuid() == 0 ? ::getgrnam("lp") : nullptr)
         for (const char *name : {"spool", "cache", "run"}) {
             [[maybe_unused]] const int owned = ::chown(QFile::encodeName(path(name)).constData(), 0, lp->gr_gid);
@@ -111,19 +144,31 @@ void CupsServer::lay()
         }
     linkAll(kSystemBin, path("bin"), {"filter", "backend"});
     linkAll(QString(kSystemBin) + "/filter", path("bin/filter"), {});
+    linkAll(QString(kSystemBin) + "/backend", path("bin/backend"), {"usb"});
     QFile::copy(QN_RECORDING_FILTER, path("bin/filter/qnfilter"));
     ::chmod(QFile::encodeName(path("bin/filter/qnfilter")).constData(), 0755);
     for (const char *scheme : {"usb", "QNLRUSB"})
         write(path(QString("bin/backend/") + scheme), kBackend, 0755);
     m_port = freePort();
     write(path("etc/cups-files.conf"), filesConfiguration(m_folder.path()));
-    write(path("etc/cupsd.conf"), serverConfiguration(m_port));
+    write(path("etc/cupsd.conf"), serverConfiguration());
 }
 
-std::optional<QString> CupsServer::start()
+std::optional<QString> CupsServer::start(const Setup &setup)
 {
+    leaveForOwnNetwork();
+    m_setup = setup;
     lay();
-    m_server.start("/usr/sbin/cupsd", {"-f", "-c", path("etc/cupsd.conf"), "-s", path("etc/cups-files.conf")});
+    return restart();
+}
+
+std::optional<QString> CupsServer::restart()
+{
+    // A write beyond the limit fails, as on a disk without room; a signal for it would end the server instead.
+    const QString limit =
+        m_setup.largestFile ? QString("trap '' XFSZ; ulimit -f %1; ").arg(m_setup.largestFile * 2) : "";
+    m_server.start("/bin/sh", {"-c", limit + "exec /usr/sbin/cupsd -f -c \"$1\" -s \"$2\"", "sh",
+                               path("etc/cupsd.conf"), path("etc/cups-files.conf")});
     if (!m_server.waitForStarted(kMilliseconds))
         return QString("cupsd can't be started: %1").arg(m_server.errorString());
     QElapsedTimer clock;
@@ -132,25 +177,55 @@ std::optional<QString> CupsServer::start()
             break;
         if (answers(m_port))
             return std::nullopt;
+        m_server.waitForFinished(0); // or its end would go unnoticed
     }
     return QString("cupsd does not answer: %1").arg(QString::fromUtf8(log().right(2000)));
 }
 
 void CupsServer::stop()
 {
+    thaw();
     m_server.terminate();
     m_server.waitForFinished(kMilliseconds);
+}
+
+void CupsServer::kill()
+{
+    m_server.kill();
+    m_server.waitForFinished(kMilliseconds);
+}
+
+void CupsServer::freeze()
+{
+    if (m_server.processId() > 0)
+        ::kill(static_cast<pid_t>(m_server.processId()), SIGSTOP);
+}
+
+void CupsServer::thaw()
+{
+    if (m_server.processId() > 0)
+        ::kill(static_cast<pid_t>(m_server.processId()), SIGCONT);
+}
+
+void CupsServer::adoptEnvironment() const
+{
+    const QProcessEnvironment all = environment();
+    for (const char *name : {"CUPS_SERVER", "CUPS_SERVERROOT", "HOME", "TMPDIR", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"})
+        qputenv(name, all.value(name).toUtf8());
 }
 
 QProcessEnvironment CupsServer::environment() const
 {
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("CUPS_SERVER", QString("127.0.0.1:%1").arg(m_port));
-    environment.insert("HOME", m_folder.path()); // saved options of the test, not of the user
+    environment.insert("HOME", path("home")); // saved options of the test, not of the user
+    environment.insert("CUPS_SERVERROOT", path("etc"));
+    environment.insert("TMPDIR", path("tmp"));
+    environment.insert("XDG_CACHE_HOME", path("home/cache"));
     for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(display); // nothing here needs one
     environment.insert("XDG_CONFIG_HOME", path("config"));
-    environment.remove("XDG_RUNTIME_DIR");
+    environment.insert("XDG_RUNTIME_DIR", path("home/runtime"));
     return environment;
 }
 
@@ -168,17 +243,26 @@ int CupsServer::run(const QString &program, const QStringList &arguments, QByteA
     return process.exitCode();
 }
 
-bool CupsServer::addQueue(const QString &name, const QString &uri)
+bool CupsServer::addQueue(const QString &name, const QString &uri, const QMap<QByteArray, QByteArray> &replaced)
 {
     QFile example(QN_SOURCE_DIR "/examples/ppd/full.ppd");
     if (!example.open(QIODevice::ReadOnly))
         return false;
     QByteArrayList lines = example.readAll().split('\n');
-    for (QByteArray &line : lines)
+    for (QByteArray &line : lines) {
         if (line.startsWith("*cupsFilter2:"))
             line = "*cupsFilter2: \"application/pdf application/vnd.qn-pdf 0 qnfilter\"";
+        for (const auto &[start, other] : replaced.asKeyValueRange())
+            if (line.startsWith(start))
+                line = other;
+    }
     write(path(name + ".ppd"), lines.join('\n'));
     return run("lpadmin", {"-p", name, "-E", "-v", uri, "-P", path(name + ".ppd")}) == 0;
+}
+
+bool CupsServer::addPlainQueue(const QString &name, const QString &uri)
+{
+    return run("lpadmin", {"-p", name, "-E", "-v", uri}) == 0;
 }
 
 QMap<QString, QString> CupsServer::record(int job) const
@@ -204,10 +288,17 @@ QMap<QString, QString> CupsServer::record(int job) const
 
 int CupsServer::recordCount() const { return static_cast<int>(QDir(path("rec")).entryList({"*.txt"}).size()); }
 
-QByteArray CupsServer::log() const
+QStringList CupsServer::spooled() const { return QDir(path("spool")).entryList({"d*"}, QDir::Files); }
+
+QByteArray CupsServer::openJobs() const
 {
-    QFile file(path("log/error"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QByteArray jobs;
+    run("lpstat", {"-W", "not-completed", "-o"}, &jobs);
+    return jobs;
 }
+
+QByteArray CupsServer::log() const { return contentOf(path("log/error")); }
+
+QByteArray CupsServer::accessLog() const { return contentOf(path("log/access")); }
 
 } // namespace support

@@ -1,4 +1,5 @@
-// A CUPS server of the test's own: its files in a temporary folder, on a loopback port of its own, ended with the test.
+// A CUPS server of the test's own: its files in a temporary folder, on a loopback port of its own (where the system
+// lets us, in a network of its own), ended with the test.
 #pragma once
 
 #include <QMap>
@@ -15,15 +16,34 @@ public:
     CupsServer() = default;
     ~CupsServer();
 
+    struct Setup
+    {
+        bool asksForPassword = false;
+        int largestFile = 0; // in KiB, for everything that the server writes; 0: no limit
+    };
+
     /// Nil when it runs; otherwise one sentence that says why not.
-    std::optional<QString> start();
+    std::optional<QString> start() { return start(Setup()); }
+    std::optional<QString> start(const Setup &setup);
+    /// Orderly; waits for the end.
     void stop();
+    /// As a crash would.
+    void kill();
+    /// Once more, with the queues and jobs that it had.
+    std::optional<QString> restart();
+    /// Holds the server so that it answers nothing, and lets it go on.
+    void freeze();
+    void thaw();
 
     /// The environment in which CUPS programs find this server and no other.
     QProcessEnvironment environment() const;
+    /// Makes it the environment of this process, once and for good.
+    void adoptEnvironment() const;
 
-    /// Adds a queue whose driver is the recording filter; the PPD is the full example.
-    bool addQueue(const QString &name, const QString &uri);
+    /// Adds a queue whose driver is the recording filter; the PPD is the full example, with lines replaced.
+    bool addQueue(const QString &name, const QString &uri, const QMap<QByteArray, QByteArray> &lines = {});
+    /// Adds a queue without a PPD.
+    bool addPlainQueue(const QString &name, const QString &uri);
     /// Runs a program in the environment; its exit status, -1 when it could not be run or did not end.
     int run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr) const;
 
@@ -31,14 +51,22 @@ public:
     /// under "parameter NAME". Waits for it; empty when it does not come.
     QMap<QString, QString> record(int job) const;
     int recordCount() const;
+    /// Documents that wait in the spool.
+    QStringList spooled() const;
+    /// Jobs that are not at an end, as `lpstat` tells.
+    QByteArray openJobs() const;
     QByteArray log() const;
+    QByteArray accessLog() const;
+    int port() const { return m_port; }
+    QString path(const QString &name) const { return m_folder.filePath(name); }
 
 private:
     void lay();
-    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QByteArray serverConfiguration() const;
 
     QTemporaryDir m_folder{"/tmp/qncups-XXXXXX"};
     QProcess m_server;
+    Setup m_setup;
     int m_port = 0;
 };
 

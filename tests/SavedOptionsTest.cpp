@@ -1,0 +1,195 @@
+// What the user saves for queues, in the file that all CUPS programs share.
+#include "SavedOptions.h"
+
+#include "Print.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <thread>
+
+using host::OptionValues;
+using host::SavedOptions;
+
+namespace {
+
+class Saved : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        qputenv("HOME", m_home.path().toUtf8());
+        qputenv("CUPS_SERVERROOT", m_home.filePath("system").toUtf8());
+        QDir(m_home.path()).mkpath("system");
+    }
+    void write(const QString &name, const QByteArray &content)
+    {
+        QDir(m_home.path()).mkpath(".cups");
+        QFile file(m_home.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+    QByteArray content() const
+    {
+        QFile file(m_home.filePath(".cups/lpoptions"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    /// What any CUPS program reads of it.
+    static OptionValues asTheLibraryReads(const QByteArray &options)
+    {
+        cups_option_t *list = nullptr;
+        const int count = cupsParseOptions(options.constData(), 0, &list);
+        OptionValues values;
+        for (int i = 0; i < count; ++i)
+            values[QString::fromUtf8(list[i].name)] = QString::fromUtf8(list[i].value);
+        cupsFreeOptions(count, list);
+        return values;
+    }
+
+    QTemporaryDir m_home;
+    SavedOptions m_saved{"counter"};
+};
+
+TEST_F(Saved, AreNoneAtFirst)
+{
+    EXPECT_EQ(m_saved.presets(), QStringList());
+    EXPECT_EQ(m_saved.options(), OptionValues());
+}
+
+TEST_F(Saved, ComeBackAsTheyWereSaved)
+{
+    const OptionValues options{{"PageSize", "RollA4"}, {"QnPaperFeed", "Custom.1.023622"}};
+    EXPECT_EQ(m_saved.save({}, options), std::nullopt);
+    EXPECT_EQ(m_saved.save("express", {{"QnSpeed", "S3"}}), std::nullopt);
+    EXPECT_EQ(content(), "Dest counter PageSize=RollA4 QnPaperFeed=Custom.1.023622\nDest counter/express QnSpeed=S3\n");
+    EXPECT_EQ(m_saved.options(), options);
+    EXPECT_EQ(m_saved.options("express"), (OptionValues{{"QnSpeed", "S3"}}));
+    EXPECT_EQ(m_saved.presets(), QStringList("express"));
+    EXPECT_EQ(SavedOptions("other").presets(), QStringList());
+}
+
+TEST_F(Saved, LeaveEverythingElseOfTheFileAsItIs)
+{
+    write(".cups/lpoptions", "# mine\nDefault other/a job-sheets=none\nDest counter QnSpeed=S1\n"
+                             "Dest counter/express QnSpeed=S2\nsomething else\nDest COUNTER/Express QnDensity=D1\n");
+    EXPECT_EQ(m_saved.save("express", {{"QnSpeed", "S3"}}), std::nullopt);
+    EXPECT_EQ(content(), "# mine\nDefault other/a job-sheets=none\nDest counter QnSpeed=S1\n"
+                         "Dest counter/express QnSpeed=S3\nsomething else\n");
+    EXPECT_EQ(m_saved.remove("express"), std::nullopt);
+    EXPECT_EQ(content(), "# mine\nDefault other/a job-sheets=none\nDest counter QnSpeed=S1\nsomething else\n");
+}
+
+TEST_F(Saved, LeaveTheDefaultQueueTheDefault)
+{
+    write(".cups/lpoptions", "Default counter/express QnSpeed=S2\n");
+    EXPECT_EQ(m_saved.save("express", {{"QnSpeed", "S3"}}), std::nullopt);
+    EXPECT_EQ(content(), "Default counter/express QnSpeed=S3\n");
+    EXPECT_EQ(m_saved.remove("express"), std::nullopt);
+    EXPECT_EQ(content(), "Default counter\n");
+}
+
+TEST_F(Saved, OfTheUserCountForMoreThanThoseOfTheSystem)
+{
+    write("system/lpoptions", "Dest counter QnSpeed=S1 QnDensity=D2\nDest counter/all QnSpeed=S1\n");
+    write(".cups/lpoptions", "Dest counter QnSpeed=S2\n");
+    EXPECT_EQ(m_saved.options(), (OptionValues{{"QnSpeed", "S2"}, {"QnDensity", "D2"}}));
+    EXPECT_EQ(m_saved.presets(), QStringList("all"));
+}
+
+struct Value
+{
+    const char *text;
+};
+class SavedValues : public Saved, public testing::WithParamInterface<Value>
+{};
+
+TEST_P(SavedValues, AreReadByTheLibraryAsTheyWereMeant)
+{
+    const OptionValues options{{"first", QString::fromUtf8(GetParam().text)}, {"second", "2"}};
+    ASSERT_EQ(m_saved.save("x", options), std::nullopt);
+    EXPECT_EQ(m_saved.options("x"), options);
+    EXPECT_EQ(asTheLibraryReads(content().mid(static_cast<int>(strlen("Dest counter/x ")))), options);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, SavedValues,
+                         testing::Values(Value{"plain"}, Value{"two words"}, Value{"a\"quote"}, Value{"an'apostrophe"},
+                                         Value{"back\\slash"}, Value{"{curly=1}"}, Value{"größer"}, Value{"1,2"},
+                                         Value{"$(touch x)"}));
+
+struct Name
+{
+    QString text;
+    bool good;
+};
+class PresetNames : public testing::TestWithParam<Name>
+{};
+
+TEST_P(PresetNames, AreOneWordThatEveryProgramReads)
+{
+    EXPECT_EQ(!SavedOptions::problemOf(GetParam().text), GetParam().good);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, PresetNames,
+                         testing::Values(Name{"express", true}, Name{"Übergröße", true}, Name{"a-b_c.1", true},
+                                         Name{"", false}, Name{"two words", false}, Name{"a/b", false},
+                                         Name{"a\nb", false}, Name{"a\"b", false}, Name{"a#b", false},
+                                         Name{QString(127, 'x'), true}, Name{QString(128, 'x'), false}));
+
+TEST_F(Saved, ArePrivate)
+{
+    ASSERT_EQ(m_saved.save({}, {{"QnSpeed", "S1"}}), std::nullopt);
+    const auto others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    EXPECT_EQ(QFileInfo(m_home.filePath(".cups")).permissions() & others, 0);
+}
+
+TEST_F(Saved, ArePutTogetherWhenTwoDialogsSaveAtOnce)
+{
+    constexpr int kTimes = 40;
+    const auto saveAll = [](const QString &prefix) {
+        const SavedOptions saved("counter");
+        for (int i = 0; i < kTimes; ++i) {
+            EXPECT_EQ(saved.save(prefix + QString::number(i), {{"QnSpeed", "S1"}}), std::nullopt);
+            EXPECT_EQ(saved.save("both", {{"QnSpeed", prefix}, {"QnDensity", prefix}}), std::nullopt);
+        }
+    };
+    std::thread one(saveAll, "one");
+    std::thread other(saveAll, "other");
+    one.join();
+    other.join();
+    EXPECT_EQ(m_saved.presets().size(), 2 * kTimes + 1);
+    EXPECT_EQ(m_saved.options("one0"), (OptionValues{{"QnSpeed", "S1"}}));
+    const OptionValues both = m_saved.options("both");
+    EXPECT_EQ(both["QnSpeed"], both["QnDensity"]); // of one of them, not of both
+    EXPECT_EQ(QDir(m_home.filePath(".cups")).entryList(QDir::Files | QDir::Hidden), QStringList("lpoptions"));
+}
+
+TEST_F(Saved, StayAsTheyWereWhenThereIsNoRoomForMore)
+{
+    ASSERT_EQ(m_saved.save("old", {{"QnSpeed", "S1"}}), std::nullopt);
+    const QByteArray before = content();
+    ASSERT_NE(std::signal(SIGXFSZ, SIG_IGN), SIG_ERR);
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit small{64, limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const auto problem = m_saved.save("new", {{"QnSpeed", QString(1000, 'x')}});
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    ASSERT_TRUE(problem);
+    EXPECT_TRUE(problem->startsWith(m_home.filePath(".cups/lpoptions: "))) << problem->toStdString();
+    EXPECT_EQ(content(), before);
+}
+
+TEST_F(Saved, AreNotWrittenOverAFileThatCannotBeRead)
+{
+    QDir(m_home.path()).mkpath(".cups/lpoptions"); // a folder in its place
+    const auto problem = m_saved.save({}, {{"QnSpeed", "S1"}});
+    ASSERT_TRUE(problem);
+    EXPECT_EQ(*problem, m_home.filePath(".cups/lpoptions: can't be read"));
+}
+
+} // namespace
