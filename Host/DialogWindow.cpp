@@ -73,7 +73,7 @@ DialogWindow::DialogWindow(std::unique_ptr<Document> document)
     connect(m_paper, &PaperChooser::chose, this, [this] {
         if (m_printer.session && m_paper->chosen())
             m_printer.session->changePaper(*m_paper->chosen());
-        settle();
+        settleSoon();
     });
 }
 
@@ -162,9 +162,7 @@ void DialogWindow::usePrinter(Printer printer)
     m_pages->setText(m_printer.pages);
     say(m_printer.note);
     if (DialogSession *const session = m_printer.session.get()) {
-        session->onChange = [this](const QString &, const QString &) {
-            QMetaObject::invokeMethod(this, &DialogWindow::settle, Qt::QueuedConnection);
-        };
+        session->onChange = [this](const QString &, const QString &) { settleSoon(); };
         session->start(DialogSession::Prepare::firstPanel);
         m_paper->offer(*session);
         if (!session->panels() || session->panels()->empty())
@@ -266,17 +264,29 @@ void DialogWindow::refreshSummary()
         m_summary->show(m_printer.session ? m_printer.session->panels() : nullptr);
 }
 
+/// Once for all that one act of a person sets off.
+void DialogWindow::settleSoon()
+{
+    if (!std::exchange(m_isToSettle, true))
+        QMetaObject::invokeMethod(this, &DialogWindow::settle, Qt::QueuedConnection);
+}
+
 /// After choices: shows what they led to.
 void DialogWindow::settle()
 {
+    m_isToSettle = false;
     refreshSummary();
     if (!m_printer.session || m_stop)
         return;
     const QStringList remarks = m_printer.session->takeRemarks();
-    if (remarks.isEmpty() && !m_saysRemark)
-        return;
-    say(remarks.join(' '));
-    m_saysRemark = !remarks.isEmpty();
+    if (!remarks.isEmpty() || m_saysRemark)
+        sayForNow(remarks.join(' '));
+}
+
+void DialogWindow::sayForNow(const QString &sentence)
+{
+    say(sentence);
+    m_saysRemark = true;
 }
 
 void DialogWindow::say(const QString &sentence)
@@ -309,7 +319,7 @@ void DialogWindow::restorePreset(const QString &preset)
     m_printer.generalOptions = m_printer.session->ppd().generalAmong(values);
     m_paper->offer(*m_printer.session);
     m_remove->setEnabled(!preset.isEmpty());
-    settle();
+    settleSoon();
 }
 
 void DialogWindow::save(const QString &preset)
@@ -322,8 +332,8 @@ void DialogWindow::save(const QString &preset)
         return say(*problem);
     m_printer.preset = preset;
     offerPresets();
-    say(preset.isEmpty() ? tr("Saved as your defaults for %1.").arg(m_printer.name)
-                         : tr("Saved as “%1” for %2.").arg(preset, m_printer.name));
+    sayForNow(preset.isEmpty() ? tr("Saved as your defaults for %1.").arg(m_printer.name)
+                               : tr("Saved as “%1” for %2.").arg(preset, m_printer.name));
 }
 
 void DialogWindow::savePresetAs()
@@ -346,7 +356,7 @@ void DialogWindow::removePreset()
         return say(*problem);
     m_printer.preset.clear(); // what is set stays as it is
     offerPresets();
-    say(tr("“%1” was deleted.").arg(name));
+    sayForNow(tr("“%1” was deleted.").arg(name));
 }
 
 std::optional<QString> DialogWindow::chosenPages()

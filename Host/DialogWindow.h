@@ -75,7 +75,9 @@ private:
     void showPanelAt(int index);
     void joinAfterThePanel();
     void refreshSummary();
+    void settleSoon();
     void settle();
+    void sayForNow(const QString &sentence);
     void restorePreset(const QString &preset);
     void save(const QString &preset);
     void savePresetAs();
@@ -105,6 +107,7 @@ private:
     QLabel *m_message;
     QPushButton *m_retry;
     bool m_saysRemark = false; // on choices; goes with the next ones
+    bool m_isToSettle = false;
     QProgressBar *m_progress;
     QBoxLayout *m_column;
     QBoxLayout *m_columns;

@@ -20,6 +20,7 @@ namespace {
 constexpr auto kCustom = "Custom";
 constexpr auto kCustomPrefix = "Custom.";
 constexpr auto kPageSize = "PageSize";
+constexpr auto kPageRegion = "PageRegion";
 constexpr auto kMedia = "media";
 
 QString text(const char *bytes) { return QString::fromUtf8(bytes); }
@@ -205,6 +206,8 @@ PPDDocument::Changes PPDDocument::restore(const OptionValues &values)
     const Marks before = marks();
     for (std::size_t i = 0; i < m_options.size(); ++i) {
         ppd_option_t &option = *m_options[i];
+        if (std::strcmp(option.keyword, kPageRegion) == 0) // marking it would take the mark off the page size
+            continue;
         const auto saved = savedMark(option, values.value(text(option.keyword)));
         markOne(option, saved ? saved->toUtf8() : m_declaredDefaults[i]);
     }

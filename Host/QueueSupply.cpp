@@ -4,7 +4,15 @@
 #include "Background.h"
 #include "DialogWindow.h"
 
+#include <QTimer>
+
 namespace host {
+
+namespace {
+
+constexpr int kMillisecondsToWait = 25000; // longer than connecting and the silence that is put up with
+
+} // namespace
 
 QueueSupply::QueueSupply(CommandLine line, DialogWindow &window)
     : QObject(&window)
@@ -30,6 +38,7 @@ void QueueSupply::start()
 void QueueSupply::fetch(const QueueName &name, const OptionValues &carried)
 {
     m_wanted = name;
+    m_isWaiting = true;
     m_window.wait(tr("Looking for the printer…"));
     inBackground(
         *this,
@@ -42,16 +51,25 @@ void QueueSupply::fetch(const QueueName &name, const OptionValues &carried)
             if (turn == m_turn)
                 use(fetched, carried);
         });
+    // Looking has an end of its own; should the library be held up all the same, the person is not.
+    QTimer::singleShot(kMillisecondsToWait, this, [this, turn = m_turn] {
+        if (turn == m_turn && m_isWaiting)
+            use({std::nullopt, tr("The CUPS server does not answer.")}, {});
+    });
 }
 
 void QueueSupply::use(const Fetched &fetched, const OptionValues &carried)
 {
+    m_isWaiting = false;
+    ++m_turn; // what comes later is late
     QString error = fetched.error;
     auto printer = fetched.queue ? printerOfQueue(m_line, *fetched.queue, carried, &error) : std::nullopt;
     if (!printer)
         return m_window.offerRetry(error);
     m_shown = printer->name;
-    m_window.showPrinterName(m_shown);
+    if (!m_names.contains(m_shown))
+        m_names.append(m_shown);
+    m_window.offerPrinters(m_names, m_shown);
     m_window.usePrinter(*std::move(printer));
     if (!carried.isEmpty())
         m_window.say(tr("The printer's description has changed on the server. Please look over the settings."));
@@ -74,8 +92,9 @@ void QueueSupply::offer(const Names &found)
 {
     if (!found.names)
         return;
+    m_names = found.names->names;
     const QString wanted = m_wanted.queue.isEmpty() ? found.names->standard : m_wanted.queue;
-    m_window.offerPrinters(found.names->names, m_shown.isEmpty() ? wanted : m_shown);
+    m_window.offerPrinters(m_names, m_shown.isEmpty() ? wanted : m_shown);
 }
 
 } // namespace host

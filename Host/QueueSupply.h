@@ -40,8 +40,10 @@ private:
     CommandLine m_line;
     DialogWindow &m_window;
     QueueName m_wanted;
+    QStringList m_names;
     QString m_shown; // the queue in the window; empty before there is one
-    int m_turn = 0;  // of fetching: only the last one counts
+    bool m_isWaiting = false;
+    int m_turn = 0; // of fetching: only the last one counts
 };
 
 } // namespace host

@@ -117,7 +117,7 @@ QByteArray CupsServer::serverConfiguration() const
     // What the server may write is limited: then its log must be short, as it is a file too.
     return QString("Listen 127.0.0.1:%1\nLogLevel %2\nAccessLogLevel all\nMaxLogSize 0\nBrowsing No\nDefaultShared "
                    "No\nWebInterface "
-                   "No\nDefaultAuthType None\nDefaultEncryption Never\nIdleExitTimeout 0\nPreserveJobHistory "
+                   "No\nDefaultAuthType None\nDefaultEncryption Never\nIdleExitTimeout 0\nDirtyCleanInterval 0\nPreserveJobHistory "
                    "Yes\nPreserveJobFiles No\nJobRetryInterval 1\n<Location />\n%3</Location>\n<Location "
                    "/admin>\n%3</Location>\n<Policy default>\nJobPrivateAccess all\nJobPrivateValues "
                    "none\nSubscriptionPrivateAccess all\nSubscriptionPrivateValues none\n<Limit "

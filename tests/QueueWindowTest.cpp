@@ -1,0 +1,454 @@
+// The window on queues of a real CUPS server, also when that server fails at the worst moment.
+#include "CupsServer.h"
+#include "DialogWindow.h"
+#include "Foundation/Locale.h"
+#include "Foundation/UserDefaults.h"
+#include "PaperChooser.h"
+#include "Print.h"
+#include "QueueSupply.h"
+#include "Toolkit/Alert.h"
+#include "Toolkit/Controls.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace host;
+using support::CupsServer;
+
+namespace {
+
+constexpr auto kTicket = QN_SOURCE_DIR "/examples/documents/ticket.pdf";
+constexpr int kMilliseconds = 40000;
+
+class QueueWindow : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        startServer();
+        ASSERT_TRUE(m_server.addQueue("counter", "usb://Qn/Thermal?serial=1"));
+    }
+    void TearDown() override
+    {
+        m_window.reset();
+        toolkit::Alert::setPresenter({});
+    }
+    void startServer(const CupsServer::Setup &setup = {})
+    {
+        const auto problem = m_server.start(setup);
+        ASSERT_FALSE(problem) << problem->toStdString();
+        m_server.adoptEnvironment();
+        foundation::Locale::current().set(QLocale("de_DE"));
+        foundation::UserDefaults::standard().useStore(
+            std::make_unique<QSettings>(m_server.path("defaults.ini"), QSettings::IniFormat));
+        toolkit::Alert::setPresenter([this](const toolkit::Alert &alert) { m_alerts.append(alert.messageText()); });
+    }
+    void open(const QString &queue = "counter", const QString &file = kTicket)
+    {
+        QString error;
+        CommandLine line;
+        line.queue = queue;
+        line.language = "en";
+        m_window = std::make_unique<DialogWindow>(Document::open(file, &error));
+        ASSERT_EQ(error, "");
+        new QueueSupply(line, *m_window); // the window's
+        m_window->show();
+        QApplication::setActiveWindow(m_window.get());
+    }
+    void openAndWait(const QString &queue = "counter")
+    {
+        open(queue);
+        ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); })) << message().toStdString();
+    }
+    template <class Condition>
+    static bool waitFor(Condition condition)
+    {
+        return QTest::qWaitFor(condition, kMilliseconds);
+    }
+    bool waitForMessage(const QString &part)
+    {
+        return waitFor([&] { return message().contains(part); });
+    }
+    template <class Widget>
+    Widget *find(const QString &name = {})
+    {
+        return m_window->findChild<Widget *>(name);
+    }
+    QPushButton *button(const QString &text)
+    {
+        for (auto *each : m_window->findChildren<QPushButton *>())
+            if (each->text() == text)
+                return each;
+        return nullptr;
+    }
+    /// The sentence under the panel.
+    QString message() const
+    {
+        for (const auto *label : m_window->findChildren<QLabel *>())
+            if (label->wordWrap() && label->parentWidget() == m_window.get())
+                return label->isVisible() ? label->text() : QString();
+        return "(no label for messages)";
+    }
+    QComboBox *field(const QString &label)
+    {
+        for (const auto *each : m_window->findChildren<QLabel *>())
+            if (each->text() == label)
+                return qobject_cast<QComboBox *>(each->buddy());
+        return nullptr;
+    }
+    static QStringList items(const QComboBox &box)
+    {
+        QStringList texts;
+        for (int i = 0; i < box.count(); ++i)
+            texts.append(box.itemText(i));
+        return texts;
+    }
+    static void choose(QComboBox &box, const QString &text)
+    {
+        box.setCurrentText(text);
+        ASSERT_EQ(box.currentText(), text);
+        Q_EMIT box.activated(box.currentIndex());
+        QApplication::processEvents();
+    }
+    void choosePaper(const QString &name)
+    {
+        auto *const papers = find<PaperChooser>()->findChild<QComboBox *>();
+        papers->setCurrentIndex(papers->findData(name));
+        Q_EMIT papers->activated(papers->currentIndex());
+        QApplication::processEvents();
+    }
+    /// Down from the item that is chosen, as a person does it.
+    void moveDown(const QString &popUp)
+    {
+        auto *const control = find<toolkit::PopUpControl>(popUp);
+        QTest::keyClick(control, Qt::Key_Down);
+        QApplication::processEvents();
+    }
+    QString marked(const QString &keyword) const { return m_window->printer().session->ppd().choiceMarked(keyword); }
+    void trigger(const QString &action)
+    {
+        for (auto *each : button("Sa&ve")->menu()->actions())
+            if (each->text() == action)
+                return each->trigger();
+        FAIL() << "no action " << action.toStdString();
+    }
+    void savePreset(const QString &name)
+    {
+        QTimer::singleShot(0, m_window.get(), [this, name] {
+            auto *const question = find<QInputDialog>();
+            ASSERT_TRUE(question);
+            question->setTextValue(name);
+            question->accept();
+        });
+        trigger("Save as &Preset…");
+    }
+    /// Presses Print; whether the window then went with its job.
+    bool print()
+    {
+        QSignalSpy printed(m_window.get(), &DialogWindow::printed);
+        button("&Print")->click();
+        waitFor([&] { return printed.size() == 1 || (button("&Print")->isEnabled() && !message().isEmpty()); });
+        return printed.size() == 1;
+    }
+
+    CupsServer m_server;
+    QStringList m_alerts;
+    std::unique_ptr<DialogWindow> m_window;
+};
+
+TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
+{
+    ASSERT_TRUE(m_server.addQueue("second", "usb://Qn/Thermal?serial=2"));
+    open();
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_EQ(message(), "Looking for the printer…");
+    EXPECT_FALSE(button("&Print")->isEnabled());
+    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled() && field("P&rinter:")->count() == 2; }));
+    EXPECT_EQ(message(), "");
+    EXPECT_EQ(field("P&rinter:")->currentText(), "counter");
+    choose(*field("P&rinter:"), "second");
+    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
+    EXPECT_EQ(m_window->printer().name, "second");
+    EXPECT_TRUE(print());
+    EXPECT_EQ(m_server.record(1)["QnPaperSizeType"], "QnCutSize");
+}
+
+TEST_F(QueueWindow, PrintsWhatWasChosenInIt)
+{
+    openAndWait();
+    choosePaper("RollA4");
+    moveDown("mMediaPopUp");
+    auto *const amount = find<toolkit::FieldControl>("mPaperFeedTxt");
+    amount->paste("40");
+    find<QSpinBox>()->setValue(3);
+    for (auto *each : m_window->findChildren<QLineEdit *>())
+        if (each->placeholderText() == "all")
+            each->setText("2-3");
+    ASSERT_TRUE(print()) << message().toStdString();
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["QnMedia"], "ThermalCopy");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
+    EXPECT_NEAR(job["parameter QnPaperFeed"].toDouble(), 40 / 25.4, 0.0001);
+    EXPECT_EQ(job["copies"], "3");
+    EXPECT_TRUE(job["options"].split(' ').contains("page-ranges=2-3"));
+}
+
+TEST_F(QueueWindow, SaysWhichPagesAreNone)
+{
+    openAndWait();
+    for (auto *each : m_window->findChildren<QLineEdit *>())
+        if (each->placeholderText() == "all")
+            each->setText("3-1");
+    EXPECT_FALSE(print());
+    EXPECT_EQ(message(), "“3-1” are no pages. Write single pages and ranges, such as 1-3,5.");
+    EXPECT_EQ(m_server.openJobs(), "");
+}
+
+TEST_F(QueueWindow, TellsInOneLineWhichChoiceMovedAnother)
+{
+    openAndWait();
+    find<QTabBar>()->setCurrentIndex(1);
+    auto *const speed = find<toolkit::PopUpControl>("mSpeedPopUp");
+    QTest::keyClick(speed, Qt::Key_End);
+    QApplication::processEvents();
+    ASSERT_EQ(marked("QnSpeed"), "S3");
+    EXPECT_EQ(message(), "");
+    find<QTabBar>()->setCurrentIndex(0);
+    moveDown("mMediaPopUp");
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
+    EXPECT_NE(marked("QnSpeed"), "S3");
+    EXPECT_TRUE(message().contains("instead of “Fastest”, to go with Paper Type “Thermal Copy Paper”."))
+        << message().toStdString();
+    EXPECT_EQ(m_alerts, QStringList());
+    moveDown("mDensityPopUp");
+    EXPECT_EQ(message(), ""); // told once
+}
+
+TEST_F(QueueWindow, SavesDefaultsThatEveryProgramFinds)
+{
+    openAndWait();
+    choosePaper("RollA4");
+    moveDown("mMediaPopUp");
+    trigger("Save as &Defaults");
+    EXPECT_EQ(message(), "Saved as your defaults for counter.");
+    ASSERT_EQ(m_server.run("lp", {"-d", "counter", kTicket}), 0);
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["PageSize"], "RollA4");
+    EXPECT_EQ(job["QnMedia"], "ThermalCopy");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
+    openAndWait();
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
+    EXPECT_EQ(m_window->printer().session->paper().name, QString("RollA4"));
+}
+
+TEST_F(QueueWindow, SavesAndRestoresPresetsThroughThePanels)
+{
+    openAndWait();
+    choosePaper("RollA4");
+    moveDown("mMediaPopUp");
+    savePreset("express");
+    EXPECT_EQ(message(), "Saved as “express” for counter.");
+    EXPECT_EQ(items(*field("Pre&set:")), QStringList({"Defaults", "express"}));
+    EXPECT_EQ(field("Pre&set:")->currentText(), "express");
+
+    choose(*field("Pre&set:"), "Defaults");
+    EXPECT_EQ(marked("QnMedia"), "Thermal");
+    EXPECT_EQ(m_window->printer().session->paper().name, QString("A4"));
+    EXPECT_EQ(find<toolkit::PopUpControl>("mMediaPopUp")->currentIndex(), 0);
+
+    choose(*field("Pre&set:"), "express");
+    EXPECT_EQ(message(), ""); // all is as it was saved
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
+    EXPECT_EQ(marked("PageSize"), "RollA4");
+    EXPECT_EQ(find<toolkit::PopUpControl>("mMediaPopUp")->currentIndex(), 1);
+    EXPECT_EQ(find<PaperChooser>()->findChild<QComboBox *>()->currentData(), "RollA4");
+
+    ASSERT_EQ(m_server.run("lp", {"-d", "counter/express", kTicket}), 0);
+    EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");
+    QByteArray options;
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter/express"}, &options), 0);
+    EXPECT_TRUE(options.contains("QnMedia=ThermalCopy")) << options.toStdString();
+
+    openAndWait("counter/express");
+    EXPECT_EQ(field("Pre&set:")->currentText(), "express");
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
+
+    trigger("De&lete Preset");
+    EXPECT_EQ(items(*field("Pre&set:")), QStringList("Defaults"));
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy"); // what is set stays as it is
+}
+
+TEST_F(QueueWindow, KeepsAPresetFromWhatOthersSavedAsDefaults)
+{
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter", "-o", "QnDensity=D4", "-o", "number-up=2"}), 0);
+    openAndWait();
+    EXPECT_EQ(marked("QnDensity"), "D4");
+    find<toolkit::PopUpControl>("mDensityPopUp")->setFocus();
+    QTest::keyClick(find<toolkit::PopUpControl>("mDensityPopUp"), Qt::Key_Home);
+    QApplication::processEvents();
+    ASSERT_EQ(marked("QnDensity"), m_window->printer().session->ppd().defaultOf("QnDensity"));
+    savePreset("plain");
+    // The PPD's own default has to be saved as well: without it the user's own one would come back.
+    const OptionValues saved = SavedOptions("counter").options("plain");
+    EXPECT_EQ(saved["QnDensity"], m_window->printer().session->ppd().defaultOf("QnDensity"));
+    EXPECT_EQ(saved["number-up"], "2");
+    choose(*field("Pre&set:"), "Defaults");
+    EXPECT_EQ(marked("QnDensity"), "D4");
+    choose(*field("Pre&set:"), "plain");
+    EXPECT_NE(marked("QnDensity"), "D4");
+}
+
+TEST_F(QueueWindow, TellsWhatOfAPresetThePanelsDecideAnew)
+{
+    // Whatever was saved, the amount begins at 26 mm; the person has to know before they print.
+    ASSERT_EQ(
+        m_server.run("lpoptions", {"-p", "counter/long", "-o", "PageSize=RollA4", "-o", "QnPaperFeed=Custom.1.5"}), 0);
+    openAndWait();
+    choose(*field("Pre&set:"), "long");
+    EXPECT_EQ(message(), "Paper Feed is not as it was saved: the rules for the paper decide it.");
+    EXPECT_EQ(m_window->printer().session->ppd().marked()["QnPaperFeed"], "Custom.1.02362");
+}
+
+TEST_F(QueueWindow, RefusesANameThatOtherProgramsCouldNotRead)
+{
+    openAndWait();
+    savePreset("two words");
+    EXPECT_EQ(message(), "“two words”: a name is one word without slashes and quotation marks");
+    EXPECT_EQ(SavedOptions("counter").presets(), QStringList());
+}
+
+TEST_F(QueueWindow, OffersGeneralSettingsForAQueueWithoutAPPD)
+{
+    ASSERT_TRUE(m_server.addPlainQueue("plain", "file://" + m_server.path("tmp/printed")));
+    openAndWait("plain");
+    EXPECT_EQ(message(), "No driver describes this printer: it has general settings only.");
+    EXPECT_EQ(find<QTabBar>()->count(), 0);
+    EXPECT_FALSE(button("Sa&ve")->isVisible());
+    find<QSpinBox>()->setValue(2);
+    EXPECT_TRUE(print());
+    EXPECT_TRUE(waitFor([this] { return m_server.openJobs().isEmpty(); }));
+    choose(*field("P&rinter:"), "counter"); // and back to one that has panels
+    ASSERT_TRUE(waitFor([this] { return find<QTabBar>()->count() == 2; }));
+}
+
+TEST_F(QueueWindow, ClosesAtOnceWhileAServerKeepsSilent)
+{
+    m_server.freeze();
+    open();
+    QElapsedTimer clock;
+    clock.start();
+    QTest::keyClick(m_window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(m_window->isVisible());
+    m_window.reset();
+    EXPECT_LT(clock.elapsed(), 5000); // looking goes on for ten seconds, without anybody waiting for it
+    m_server.thaw();
+}
+
+TEST_F(QueueWindow, OffersToLookAgainWhenTheServerDiesMeanwhile)
+{
+    m_server.freeze();
+    open();
+    QTest::qWait(200);
+    m_server.kill();
+    ASSERT_TRUE(waitFor([this] { return button("Try A&gain")->isVisible(); })) << message().toStdString();
+    EXPECT_TRUE(message().startsWith("counter: ")) << message().toStdString();
+    EXPECT_FALSE(button("&Print")->isEnabled());
+    ASSERT_FALSE(m_server.restart());
+    button("Try A&gain")->click();
+    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); })) << message().toStdString();
+    EXPECT_FALSE(button("Try A&gain")->isVisible());
+    EXPECT_TRUE(print());
+}
+
+TEST_F(QueueWindow, SaysThatTheServerIsSilent)
+{
+    m_server.freeze();
+    open();
+    EXPECT_TRUE(waitForMessage("counter: the CUPS server does not answer"));
+    EXPECT_TRUE(button("Try A&gain")->isVisible());
+    m_server.thaw();
+}
+
+class GuardedWindow : public QueueWindow
+{
+protected:
+    void SetUp() override { startServer({.asksForPassword = true}); }
+};
+
+TEST_F(GuardedWindow, SaysThatAPasswordIsAskedFor)
+{
+    open();
+    EXPECT_TRUE(waitForMessage("counter: the CUPS server asks for a password"));
+    EXPECT_TRUE(button("Try A&gain")->isVisible());
+}
+
+TEST_F(QueueWindow, KeepsTheJobWhenTheServerDiesBeforeItGoes)
+{
+    openAndWait();
+    moveDown("mMediaPopUp");
+    m_server.kill();
+    EXPECT_FALSE(print());
+    EXPECT_EQ(message(), "counter: no CUPS server answers");
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
+    ASSERT_FALSE(m_server.restart());
+    EXPECT_TRUE(print());
+    EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");
+    EXPECT_EQ(m_server.recordCount(), 1);
+}
+
+TEST_F(QueueWindow, DoesNotPrintByAPPDThatChangedMeanwhile)
+{
+    openAndWait();
+    moveDown("mMediaPopUp");
+    QTest::qWait(2100); // the server tells changes by the second
+    ASSERT_TRUE(
+        m_server.addQueue("counter", "usb://Qn/Thermal?serial=1", {{"*DefaultQnDensity:", "*DefaultQnDensity: D4"}}));
+    EXPECT_FALSE(print());
+    ASSERT_TRUE(waitForMessage("The printer's description has changed on the server. Please look over the settings."));
+    EXPECT_EQ(m_server.openJobs(), "");
+    EXPECT_EQ(m_server.recordCount(), 0);
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy"); // the person's own choice stays
+    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
+    EXPECT_TRUE(print());
+    EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");
+}
+
+TEST_F(QueueWindow, SaysThatTheQueueTakesNoJobs)
+{
+    openAndWait();
+    ASSERT_EQ(m_server.run("cupsreject", {"counter"}), 0);
+    EXPECT_FALSE(print());
+    EXPECT_TRUE(message().startsWith("counter: ")) << message().toStdString();
+    EXPECT_EQ(m_server.openJobs(), "");
+    ASSERT_EQ(m_server.run("cupsaccept", {"counter"}), 0);
+    EXPECT_TRUE(print());
+    EXPECT_EQ(m_server.record(1)["title"], "ticket.pdf");
+    EXPECT_EQ(m_server.recordCount(), 1);
+}
+
+TEST_F(QueueWindow, TellsOfAStoppedQueueBeforeAndLeavesTheJobInIt)
+{
+    ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0);
+    openAndWait();
+    EXPECT_EQ(message(), "counter: the queue is stopped; jobs wait until it is started");
+    EXPECT_TRUE(print());
+    EXPECT_TRUE(m_server.openJobs().startsWith("counter-1 "));
+    ASSERT_EQ(m_server.run("cupsenable", {"counter"}), 0);
+    EXPECT_EQ(m_server.record(1)["title"], "ticket.pdf");
+}
+
+} // namespace
