@@ -410,6 +410,67 @@ TEST_F(QueueWindow, KeepsTheJobWhenTheServerDiesBeforeItGoes)
     EXPECT_EQ(m_server.recordCount(), 1);
 }
 
+/// The server's end comes at a moment of the job.
+class FatefulSink : public JobSink
+{
+public:
+    FatefulSink(CupsServer &server, double share)
+        : m_server(server)
+        , m_share(share)
+    {}
+    Result submit(const Job &job, const JobProgress &progress) override
+    {
+        if (m_share == 0) // the panels have agreed, nothing has gone yet
+            m_server.kill();
+        CupsSink sink("counter", std::nullopt);
+        return sink.submit(job, [&](qint64 done, qint64 total) {
+            if (static_cast<double>(done) > m_share * static_cast<double>(total))
+                m_server.kill();
+            return progress(done, total);
+        });
+    }
+
+private:
+    CupsServer &m_server;
+    double m_share;
+};
+
+struct Moment
+{
+    const char *name;
+    double share;
+    const char *message;
+};
+class EndsOfTheServer : public QueueWindow, public testing::WithParamInterface<Moment>
+{};
+
+TEST_P(EndsOfTheServer, AreToldAndLeaveTheWindowAsItIs)
+{
+    QFile large(m_server.path("tmp/large.txt"));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.write(QByteArray(8 << 20, 'x')) && large.flush());
+    open("counter", large.fileName());
+    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
+    QString error;
+    const auto queue = findQueue({"counter", {}}, &error);
+    ASSERT_TRUE(queue) << error.toStdString();
+    auto printer = printerOfQueue({}, *queue, {}, &error);
+    ASSERT_TRUE(printer) << error.toStdString();
+    printer->sink = std::make_unique<FatefulSink>(m_server, GetParam().share);
+    m_window->usePrinter(*std::move(printer));
+    moveDown("mMediaPopUp");
+    EXPECT_FALSE(print());
+    EXPECT_TRUE(message().contains(GetParam().message)) << message().toStdString();
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_TRUE(button("&Print")->isEnabled());
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
+    EXPECT_EQ(m_server.recordCount(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(At, EndsOfTheServer,
+                         testing::Values(Moment{"BetweenAgreementAndJob", 0, "counter: no CUPS server answers"},
+                                         Moment{"InTheMiddleOfTheJob", 0.5, "look before you print again"}),
+                         [](const auto &row) { return row.param.name; });
+
 TEST_F(QueueWindow, DoesNotPrintByAPPDThatChangedMeanwhile)
 {
     openAndWait();

@@ -117,7 +117,8 @@ QByteArray CupsServer::serverConfiguration() const
     // What the server may write is limited: then its log must be short, as it is a file too.
     return QString("Listen 127.0.0.1:%1\nLogLevel %2\nAccessLogLevel all\nMaxLogSize 0\nBrowsing No\nDefaultShared "
                    "No\nWebInterface "
-                   "No\nDefaultAuthType None\nDefaultEncryption Never\nIdleExitTimeout 0\nDirtyCleanInterval 0\nPreserveJobHistory "
+                   "No\nDefaultAuthType None\nDefaultEncryption Never\nIdleExitTimeout 0\nDirtyCleanInterval "
+                   "0\nPreserveJobHistory "
                    "Yes\nPreserveJobFiles No\nJobRetryInterval 1\n<Location />\n%3</Location>\n<Location "
                    "/admin>\n%3</Location>\n<Policy default>\nJobPrivateAccess all\nJobPrivateValues "
                    "none\nSubscriptionPrivateAccess all\nSubscriptionPrivateValues none\n<Limit "
@@ -164,6 +165,8 @@ std::optional<QString> CupsServer::start(const Setup &setup)
 
 std::optional<QString> CupsServer::restart()
 {
+    if (m_pid > 0)
+        m_server.waitForFinished(kMilliseconds);
     // A write beyond the limit fails, as on a disk without room; a signal for it would end the server instead.
     const QString limit =
         m_setup.largestFile ? QString("trap '' XFSZ; ulimit -f %1; ").arg(m_setup.largestFile * 2) : "";
@@ -171,6 +174,7 @@ std::optional<QString> CupsServer::restart()
                                path("etc/cupsd.conf"), path("etc/cups-files.conf")});
     if (!m_server.waitForStarted(kMilliseconds))
         return QString("cupsd can't be started: %1").arg(m_server.errorString());
+    m_pid = static_cast<pid_t>(m_server.processId());
     QElapsedTimer clock;
     for (clock.start(); clock.elapsed() < kMilliseconds && m_server.state() == QProcess::Running; QThread::msleep(10)) {
         if (log().contains("Address already in use")) // the port went to somebody else, and so would the jobs
@@ -187,24 +191,27 @@ void CupsServer::stop()
     thaw();
     m_server.terminate();
     m_server.waitForFinished(kMilliseconds);
+    m_pid = 0;
 }
 
 void CupsServer::kill()
 {
-    m_server.kill();
-    m_server.waitForFinished(kMilliseconds);
+    if (m_pid > 0)
+        ::kill(m_pid, SIGKILL);
+    while (answers(m_port))
+        QThread::msleep(1);
 }
 
 void CupsServer::freeze()
 {
-    if (m_server.processId() > 0)
-        ::kill(static_cast<pid_t>(m_server.processId()), SIGSTOP);
+    if (m_pid > 0)
+        ::kill(m_pid, SIGSTOP);
 }
 
 void CupsServer::thaw()
 {
-    if (m_server.processId() > 0)
-        ::kill(static_cast<pid_t>(m_server.processId()), SIGCONT);
+    if (m_pid > 0)
+        ::kill(m_pid, SIGCONT);
 }
 
 void CupsServer::adoptEnvironment() const

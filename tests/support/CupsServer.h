@@ -27,7 +27,7 @@ public:
     std::optional<QString> start(const Setup &setup);
     /// Orderly; waits for the end.
     void stop();
-    /// As a crash would.
+    /// As a crash would; on whatever thread.
     void kill();
     /// Once more, with the queues and jobs that it had.
     std::optional<QString> restart();
@@ -68,6 +68,7 @@ private:
     QProcess m_server;
     Setup m_setup;
     int m_port = 0;
+    pid_t m_pid = 0; // 0 before there is one, and after the end
 };
 
 } // namespace support
