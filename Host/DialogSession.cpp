@@ -46,6 +46,7 @@ DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDo
     : m_ppd(std::move(ppd))
     , m_plugIn(std::move(plugIn))
     , m_panelType(parameters.panelType)
+    , m_language(parameters.localization)
 {
     m_ppd->adoptDefaults(parameters.defaults);
     m_printer.setDeviceURI(parameters.uri);
@@ -227,27 +228,33 @@ void DialogSession::report(const std::optional<PPDDocument::Changes> &changes)
     }
 }
 
+QString DialogSession::optionText(const QString &keyword) const
+{
+    return m_plugIn.bundle->localizedString(m_ppd->optionText(keyword));
+}
+
+/// In the words of the panels where they have some, else in those of the PPD.
+QString DialogSession::choiceText(const PPDDocument::Change &choice) const
+{
+    const QString key = m_ppd->choiceText(choice.keyword, choice.choice);
+    const QString text = m_plugIn.bundle->localizedString(key);
+    return text == key ? m_ppd->choiceText(choice.keyword, choice.choice, m_language) : text;
+}
+
 QString DialogSession::inWords(const PPDDocument::Change &choice) const
 {
-    const foundation::Bundle &bundle = *m_plugIn.bundle; // has the words that the panels show
-    return QString("%1 “%2”").arg(bundle.localizedString(m_ppd->optionText(choice.keyword)),
-                                  bundle.localizedString(m_ppd->choiceText(choice.keyword, choice.choice)));
+    return QString("%1 “%2”").arg(optionText(choice.keyword), choiceText(choice));
 }
 
 QStringList DialogSession::takeRemarks()
 {
-    const auto nameOf = [this](const QString &keyword) {
-        return m_plugIn.bundle->localizedString(m_ppd->optionText(keyword));
-    };
     QStringList remarks;
     for (const auto &[from, to, cause] : m_ppd->takeMoves()) {
         if (m_ppd->choiceMarked(from.keyword) == from.choice)
             continue; // it is back where it was
-        const QString sentence =
-            tr("%1 instead of “%2”, to go with %3.")
-                .arg(inWords({from.keyword, m_ppd->choiceMarked(from.keyword)}),
-                     m_plugIn.bundle->localizedString(m_ppd->choiceText(from.keyword, from.choice)),
-                     cause.keyword.isEmpty() ? tr("the other choices") : inWords(cause));
+        const QString sentence = tr("%1 instead of “%2”, to go with %3.")
+                                     .arg(inWords({from.keyword, m_ppd->choiceMarked(from.keyword)}), choiceText(from),
+                                          cause.keyword.isEmpty() ? tr("the other choices") : inWords(cause));
         if (!remarks.contains(sentence))
             remarks.append(sentence);
     }
@@ -255,7 +262,8 @@ QStringList DialogSession::takeRemarks()
     const OptionValues marked = m_ppd->marked();
     for (const auto &[keyword, value] : wanted.asKeyValueRange())
         if (keyword != "PageSize" && m_ppd->hasOption(keyword) && !isSameValue(marked.value(keyword), value))
-            remarks.append(tr("%1 is not as it was saved: the rules for the paper decide it.").arg(nameOf(keyword)));
+            remarks.append(
+                tr("%1 is not as it was saved: the rules for the paper decide it.").arg(optionText(keyword)));
     return remarks;
 }
 

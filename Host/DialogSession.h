@@ -60,6 +60,8 @@ public:
     PDEPanel *panelOnDisplay() const { return m_onDisplay; }
     PPDDocument &ppd() const { return *m_ppd; }
     const ChosenPaper &paper() const { return m_paper; }
+    /// The PPD's papers, in the language of the dialog where the PPD has it.
+    std::vector<PPDDocument::PageSize> papers() const { return m_ppd->pageSizes(m_language); }
 
     /// Prepares every panel that has not been shown yet.
     void prepareAll();
@@ -105,6 +107,8 @@ private:
 
     void setPaper(const ChosenPaper &paper);
     ChosenPaper markedPaper() const;
+    QString optionText(const QString &keyword) const;
+    QString choiceText(const PPDDocument::Change &choice) const;
     QString inWords(const PPDDocument::Change &choice) const;
     void markPageSize();
     void report(const std::optional<PPDDocument::Changes> &changes);
@@ -114,6 +118,7 @@ private:
     std::unique_ptr<PPDDocument> m_ppd; // outlives the panels, which borrow its choices
     PlugIn m_plugIn;
     QString m_panelType;
+    QString m_language;
     printing::Session m_session;
     printing::Settings m_settings;
     printing::PageFormat m_pageFormat;

@@ -29,6 +29,7 @@ constexpr int kPanelWidth = 520;
 constexpr int kPanelHeight = 336;
 constexpr int kSummaryWidth = 320;
 constexpr int kPresetRow = 1;
+constexpr int kPaperRow = 2;
 constexpr int kCopiesRow = 3;
 
 } // namespace
@@ -109,7 +110,8 @@ void DialogWindow::layOutForm()
     m_form->addRow(tr("Pre&set:"), presets);
     m_form->addRow(tr("Pap&er:"), m_paper);
     m_form->addRow(tr("&Copies:"), amount);
-    for (const auto &[row, field] : {std::pair<int, QWidget *>{kPresetRow, m_presets}, {kCopiesRow, m_copies}})
+    for (const auto &[row, field] :
+         {std::pair<int, QWidget *>{kPresetRow, m_presets}, {kPaperRow, m_paper->menu()}, {kCopiesRow, m_copies}})
         if (auto *label = qobject_cast<QLabel *>(m_form->itemAt(row, QFormLayout::LabelRole)->widget()))
             label->setBuddy(field);
     offerPresets();
@@ -419,9 +421,12 @@ void DialogWindow::setSending(bool sending)
     m_progress->setVisible(sending);
     for (QWidget *part :
          {static_cast<QWidget *>(m_printers), static_cast<QWidget *>(m_presets), static_cast<QWidget *>(m_save),
-          static_cast<QWidget *>(m_paper), static_cast<QWidget *>(m_copies), static_cast<QWidget *>(m_pages),
-          static_cast<QWidget *>(m_tabs), m_panelSpace, static_cast<QWidget *>(m_print)})
+          static_cast<QWidget *>(m_copies), static_cast<QWidget *>(m_pages), static_cast<QWidget *>(m_tabs),
+          m_panelSpace, static_cast<QWidget *>(m_print)})
         part->setEnabled(!sending);
+    m_paper->setChoosable(!sending);
+    if (!sending)
+        offerPresets();
 }
 
 void DialogWindow::reject()

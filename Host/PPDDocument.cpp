@@ -376,8 +376,14 @@ QString PPDDocument::optionText(const QString &keyword) const
     return option && *option->text ? text(option->text) : keyword;
 }
 
-QString PPDDocument::choiceText(const QString &keyword, const QString &choice) const
+QString PPDDocument::choiceText(const QString &keyword, const QString &choice, const QString &language) const
 {
+    for (const QString &name : {language, language.section('_', 0, 0)}) {
+        const QByteArray table = (name + '.' + keyword).toUtf8();
+        const ppd_attr_t *const translated = ppdFindAttr(m_file.get(), table.constData(), choice.toUtf8().constData());
+        if (translated && *translated->text)
+            return text(translated->text);
+    }
     ppd_option_t *const option = findOption(keyword);
     const ppd_choice_t *const found = option ? ppdFindChoice(option, choice.toUtf8().constData()) : nullptr;
     return found && *found->text ? text(found->text) : choice;
@@ -401,16 +407,14 @@ std::optional<printing::Paper> PPDDocument::pageSize(const QString &name) const
     return std::nullopt;
 }
 
-std::vector<PPDDocument::PageSize> PPDDocument::pageSizes() const
+std::vector<PPDDocument::PageSize> PPDDocument::pageSizes(const QString &language) const
 {
     std::vector<PageSize> result;
     const ppd_option_t *const option = findOption(kPageSize);
     for (int i = 0; option && i < option->num_choices; ++i) {
         const QString name = text(option->choices[i].choice);
-        if (const auto paper = pageSize(name)) {
-            const QString shown = text(option->choices[i].text);
-            result.push_back({name, shown.isEmpty() ? name : shown, *paper});
-        }
+        if (const auto paper = pageSize(name))
+            result.push_back({name, choiceText(kPageSize, name, language), *paper});
     }
     return result;
 }

@@ -38,7 +38,7 @@ public:
     struct PageSize
     {
         QString name;
-        QString text; // for people, in their language where the PPD has it
+        QString text; // for people
         printing::Paper paper;
     };
 
@@ -82,15 +82,16 @@ public:
     OptionValues generalAmong(const OptionValues &options) const;
     QString choiceMarked(const QString &keyword) const; // empty when none is
     QString defaultOf(const QString &keyword) const;    // as the file declared it
-    /// The PPD's own words for an option and for one of its choices.
+    /// The PPD's own words for an option and for one of its choices; for a choice in a language ("de", "zh_CN") where
+    /// the PPD has it. Looked up aside: the record's texts are keys to the panels.
     QString optionText(const QString &keyword) const;
-    QString choiceText(const QString &keyword, const QString &choice) const;
+    QString choiceText(const QString &keyword, const QString &choice, const QString &language = {}) const;
 
     QString pageSizeName() const; // marked; empty when none is
     /// Of the custom size that is marked; nil when another one is.
     std::optional<printing::Paper> customPageSize() const;
     std::optional<printing::Paper> pageSize(const QString &name) const;
-    std::vector<PageSize> pageSizes() const;
+    std::vector<PageSize> pageSizes(const QString &language) const;
     bool hasCustomPageSize() const { return m_file->variable_sizes; }
 
     /// The value of an attribute; nil when the PPD has none of that name.

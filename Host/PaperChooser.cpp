@@ -5,7 +5,6 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QHBoxLayout>
 #include <QLabel>
 
 #include <cmath>
@@ -19,9 +18,8 @@ constexpr double kPointsPerMillimetre = 72 / 25.4;
 
 } // namespace
 
-PaperChooser::PaperChooser(QWidget *parent)
-    : QWidget(parent)
-    , m_names(new QComboBox)
+PaperChooser::PaperChooser()
+    : m_names(new QComboBox)
     , m_ownSize(new QWidget)
     , m_width(new QDoubleSpinBox)
     , m_height(new QDoubleSpinBox)
@@ -42,12 +40,8 @@ PaperChooser::PaperChooser(QWidget *parent)
     own->addWidget(m_height);
     m_ownSize->hide();
 
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_names, 1);
-    row->addWidget(m_ownSize);
-    setFocusPolicy(Qt::ClickFocus); // or the label would not lead here; Tab finds the menu itself
-    setFocusProxy(m_names);
+    addWidget(m_names, 1);
+    addWidget(m_ownSize);
     connect(m_names, &QComboBox::activated, this, &PaperChooser::choose);
 }
 
@@ -63,7 +57,7 @@ void PaperChooser::offer(const std::vector<PPDDocument::PageSize> &papers, const
 
 void PaperChooser::offer(const DialogSession &session)
 {
-    offer(session.ppd().pageSizes(), {});
+    offer(session.papers(), {});
     const ppd_file_t &ppd = *session.ppd().file();
     if (session.ppd().hasCustomPageSize()) {
         m_names->addItem(tr("Custom size…"), kUserDefinedPaper);
@@ -82,6 +76,12 @@ void PaperChooser::offer(const DialogSession &session)
         m_height->setValue(session.paper().size->height / m_pointsPerUnit);
     }
     m_ownSize->setVisible(m_names->currentData() == kUserDefinedPaper);
+}
+
+void PaperChooser::setChoosable(bool choosable)
+{
+    m_names->setEnabled(choosable);
+    m_ownSize->setEnabled(choosable);
 }
 
 std::optional<ChosenPaper> PaperChooser::chosen() const

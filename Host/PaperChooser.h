@@ -3,19 +3,26 @@
 
 #include "DialogSession.h"
 
-#include <QWidget>
+#include <QHBoxLayout>
 
 class QComboBox;
 class QDoubleSpinBox;
 
 namespace host {
 
-class PaperChooser : public QWidget
+/// A row for a form. It is a layout and no widget of its own, so that assistive technology finds the label beside the
+/// menu.
+class PaperChooser : public QHBoxLayout
 {
     Q_OBJECT
 
 public:
-    explicit PaperChooser(QWidget *parent = nullptr);
+    PaperChooser();
+
+    /// What a label of the paper belongs to.
+    QComboBox *menu() const { return m_names; }
+    /// Whether a person may choose.
+    void setChoosable(bool choosable);
 
     /// Shows the papers of a session, with its own selected; nothing is reported.
     void offer(const DialogSession &session);

@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -197,6 +199,41 @@ TEST_F(CupsPrinting, TakesAPresetByTheNameThatLpTakes)
     ASSERT_EQ(m_server.run("lpoptions", {"-d", "counter/express"}), 0);
     ASSERT_EQ(print({kTicket}), 0) << m_said.toStdString();
     EXPECT_EQ(m_server.record(2)["QnSpeed"], "S1");
+}
+
+TEST_F(CupsPrinting, BringsWhatAScriptChoseToTheDriver)
+{
+    QProcess script;
+    script.setProcessEnvironment(m_server.environment());
+    script.start(QN_PROGRAM, {"script"});
+    script.write(QString(R"({"do":"open","ppd":"%1","uri":"usb://Qn/Thermal?serial=1","paper":"RollA4","locale":"de_DE"}
+{"do":"show","panel":"basic"}
+{"do":"pick","panel":"basic","control":"mMediaPopUp","index":1}
+{"do":"type","panel":"basic","control":"mPaperFeedTxt","text":"40"}
+{"do":"show","panel":"advanced"}
+{"do":"click","panel":"advanced","control":"mReversalChkBx"}
+{"do":"print"}
+{"do":"job"}
+)")
+                     .arg(QN_SOURCE_DIR "/examples/ppd/full.ppd")
+                     .toUtf8());
+    script.closeWriteChannel();
+    ASSERT_TRUE(script.waitForFinished());
+    const QByteArrayList replies = script.readAllStandardOutput().trimmed().split('\n');
+    ASSERT_EQ(replies.size(), 8);
+    ASSERT_TRUE(QJsonDocument::fromJson(replies[6]).object().value("result").toBool()) << replies[6].toStdString();
+    const QJsonObject options = QJsonDocument::fromJson(replies[7]).object().value("options").toObject();
+    QStringList arguments{"-d", "counter"};
+    for (auto each = options.begin(); each != options.end(); ++each)
+        arguments << "-o" << each.key() + '=' + each.value().toString();
+    ASSERT_EQ(m_server.run("lp", arguments + QStringList(kTicket)), 0);
+
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["PageSize"], "RollA4");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
+    EXPECT_EQ(job["QnMedia"], "ThermalCopy");
+    EXPECT_EQ(job["QnReversal"], "ON");
+    EXPECT_NEAR(job["parameter QnPaperFeed"].toDouble(), 40 / 25.4, 0.0001);
 }
 
 struct Device

@@ -24,6 +24,9 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <thread>
+
 using namespace host;
 
 namespace {
@@ -86,7 +89,7 @@ protected:
     }
     void choosePaper(const QString &name)
     {
-        auto *const papers = find<PaperChooser>()->findChild<QComboBox *>();
+        auto *const papers = find<PaperChooser>()->menu();
         papers->setCurrentIndex(papers->findData(name));
         Q_EMIT papers->activated(papers->currentIndex());
         QApplication::processEvents();
@@ -179,7 +182,7 @@ TEST_F(Window, GoesThroughThePanelsWithAnotherPaper)
 TEST_F(Window, OffersASizeOfTheUsersOwnWithinThePPDsLimits)
 {
     choosePaper("customsize");
-    const auto sides = find<PaperChooser>()->findChildren<QDoubleSpinBox *>();
+    const auto sides = m_window->findChildren<QDoubleSpinBox *>();
     ASSERT_EQ(sides.size(), 2);
     EXPECT_TRUE(sides[0]->isVisible());
     sides[0]->setValue(100);
@@ -251,5 +254,37 @@ TEST_F(Window, HasAPictureOfItself)
     EXPECT_GT(picture.width(), 800);
     EXPECT_GT(picture.height(), 400);
 }
+
+struct Named
+{
+    const char *environment;
+    const char *language;
+    QString name;
+};
+class PapersOfAPPD : public testing::TestWithParam<Named>
+{};
+
+TEST_P(PapersOfAPPD, AreNamedInTheUsersLanguageWhereThePPDHasIt)
+{
+    // The library keeps the names of one language, that of the environment, and finds out which once a thread.
+    qputenv("LC_ALL", GetParam().environment);
+    std::setlocale(LC_MESSAGES, "C"); // or what the application took at its start would count
+    QString shown;
+    std::thread([&shown] {
+        QString error;
+        const auto ppd = PPDDocument::open(QN_SOURCE_DIR "/examples/ppd/full.ppd", &error);
+        for (const auto &paper : ppd->pageSizes(GetParam().language))
+            if (paper.name == "RollA4")
+                shown = paper.text;
+    }).join();
+    EXPECT_EQ(shown, GetParam().name);
+}
+
+INSTANTIATE_TEST_SUITE_P(In, PapersOfAPPD,
+                         testing::Values(Named{"de_DE.UTF-8", "de_DE", "A4, Rolle"},
+                                         Named{"ja_JP.UTF-8", "ja_JP", "A4（ロール紙）"},
+                                         Named{"zh_CN.UTF-8", "zh_CN", "A4（卷纸）"},
+                                         Named{"it_IT.UTF-8", "it_IT", "A4, Roll"},
+                                         Named{"en_US.UTF-8", "en_US", "A4, Roll"}));
 
 } // namespace

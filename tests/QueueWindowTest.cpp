@@ -126,7 +126,7 @@ protected:
     }
     void choosePaper(const QString &name)
     {
-        auto *const papers = find<PaperChooser>()->findChild<QComboBox *>();
+        auto *const papers = find<PaperChooser>()->menu();
         papers->setCurrentIndex(papers->findData(name));
         Q_EMIT papers->activated(papers->currentIndex());
         QApplication::processEvents();
@@ -275,7 +275,7 @@ TEST_F(QueueWindow, SavesAndRestoresPresetsThroughThePanels)
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
     EXPECT_EQ(marked("PageSize"), "RollA4");
     EXPECT_EQ(find<toolkit::PopUpControl>("mMediaPopUp")->currentIndex(), 1);
-    EXPECT_EQ(find<PaperChooser>()->findChild<QComboBox *>()->currentData(), "RollA4");
+    EXPECT_EQ(find<PaperChooser>()->menu()->currentData(), "RollA4");
 
     ASSERT_EQ(m_server.run("lp", {"-d", "counter/express", kTicket}), 0);
     EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");

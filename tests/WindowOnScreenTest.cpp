@@ -1,0 +1,151 @@
+// The program as a person has it: a real window on a real screen, used by keys and mouse, printing on a real server.
+#include "CupsServer.h"
+#include "Print.h"
+#include "Screen.h"
+
+#include <QFile>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+using support::Seen;
+
+namespace {
+
+constexpr auto kTicket = QN_SOURCE_DIR "/examples/documents/ticket.pdf";
+constexpr int kMilliseconds = 20000;
+
+class OnScreen : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const auto noServer = m_server.start();
+        ASSERT_FALSE(noServer) << noServer->toStdString();
+        ASSERT_TRUE(m_server.addQueue("counter", "usb://Qn/Thermal?serial=1"));
+        ASSERT_TRUE(m_server.addQueue("office", "usb://Qn/Thermal?serial=2"));
+        const auto noScreen = m_screen.start();
+        ASSERT_FALSE(noScreen) << noScreen->toStdString();
+        m_program.setProcessEnvironment(m_screen.extended(m_server.environment()));
+        m_program.start(QN_PROGRAM, {"-d", "counter", "--language", "en", "--locale", "de_DE", kTicket});
+        ASSERT_TRUE(m_program.waitForStarted(kMilliseconds)) << m_program.errorString().toStdString();
+        ASSERT_TRUE(wait("push button", "Print")) << "the printer does not come";
+    }
+    void TearDown() override
+    {
+        if (HasFailure()) {
+            std::cerr << m_program.readAllStandardError().toStdString();
+            for (const Seen &each : m_screen.look("qnprint"))
+                std::cerr << each.role.toStdString() << " \"" << each.name.toStdString() << "\" ["
+                          << each.label.toStdString() << "] " << (each.isEnabled ? "" : "disabled") << '\n';
+        }
+        if (m_program.state() != QProcess::NotRunning) {
+            m_program.terminate();
+            m_program.waitForFinished(kMilliseconds);
+        }
+    }
+    std::optional<Seen> wait(const QString &role, const QString &name)
+    {
+        return m_screen.waitFor(
+            "qnprint", [&](const Seen &each) { return each.role == role && each.name == name && each.isEnabled; });
+    }
+    /// Finds the menu that a label belongs to, whatever it shows.
+    std::optional<Seen> labelled(const QString &label)
+    {
+        return m_screen.waitFor("qnprint", [&](const Seen &each) { return each.label == label && each.isEnabled; });
+    }
+    void chooseByMouse(const Seen &menu, const QString &item)
+    {
+        m_screen.click(menu);
+        const auto entry = wait("list item", item);
+        ASSERT_TRUE(entry) << item.toStdString();
+        QThread::msleep(600); // the menu takes a second click at once for the first one
+        m_screen.click(*entry);
+    }
+    bool ended(int status)
+    {
+        return m_program.waitForFinished(kMilliseconds) && m_program.exitStatus() == QProcess::NormalExit &&
+               m_program.exitCode() == status;
+    }
+
+    support::CupsServer m_server;
+    support::Screen m_screen;
+    QProcess m_program;
+};
+
+TEST_F(OnScreen, PrintsWhatAPersonChose)
+{
+    const auto paper = labelled("Paper:");
+    ASSERT_TRUE(paper);
+    chooseByMouse(*paper, "A4, Roll");
+    const auto media = wait("combo box", "Thermal Paper");
+    ASSERT_TRUE(media);
+    chooseByMouse(*media, "Thermal Copy Paper");
+    ASSERT_TRUE(wait("combo box", "Thermal Copy Paper"));
+
+    const auto amount = m_screen.waitFor(
+        "qnprint", [](const Seen &each) { return each.role == "text" && each.isEnabled && each.label != "Pages:"; });
+    ASSERT_TRUE(amount);
+    m_screen.click(*amount);
+    m_screen.press("ctrl+a");
+    m_screen.type("40");
+    m_screen.press("alt+c");
+    m_screen.press("ctrl+a");
+    m_screen.type("2");
+    m_screen.press("alt+a");
+    m_screen.type("1-3,5");
+    m_screen.press("alt+p");
+
+    ASSERT_TRUE(ended(0));
+    EXPECT_EQ(m_program.readAllStandardOutput(), "counter-1\n");
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["title"], "ticket.pdf");
+    EXPECT_EQ(job["size"], QString::number(QFile(kTicket).size()));
+    EXPECT_EQ(job["PageSize"], "RollA4");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
+    EXPECT_EQ(job["QnMedia"], "ThermalCopy");
+    EXPECT_NEAR(job["parameter QnPaperFeed"].toDouble(), 40 / 25.4, 0.0001);
+    EXPECT_EQ(job["copies"], "2");
+    EXPECT_TRUE(job["options"].split(' ').contains("page-ranges=1-3,5"));
+}
+
+TEST_F(OnScreen, StopsAnAmountThatIsOutOfRangeAndLetsThePersonMendIt)
+{
+    const auto amount = m_screen.waitFor(
+        "qnprint", [](const Seen &each) { return each.role == "text" && each.isEnabled && each.label != "Pages:"; });
+    ASSERT_TRUE(amount);
+    m_screen.click(*amount);
+    m_screen.press("ctrl+a");
+    m_screen.type("0");
+    m_screen.press("alt+p");
+    ASSERT_TRUE(m_screen.waitFor("qnprint", [](const Seen &each) {
+        return each.role == "label" && each.name.contains("The paper feed amount is out of range.");
+    }));
+    EXPECT_EQ(m_server.openJobs(), "");
+    m_screen.press("Return");
+    QThread::msleep(300);
+    m_screen.press("ctrl+a");
+    m_screen.type("30");
+    m_screen.press("alt+p");
+    ASSERT_TRUE(ended(0));
+    EXPECT_NEAR(m_server.record(1)["parameter QnPaperFeed"].toDouble(), 30 / 25.4, 0.0001);
+    EXPECT_EQ(m_server.recordCount(), 1);
+}
+
+TEST_F(OnScreen, SwitchesToAnotherPrinterByKeysAndClosesWithEscape)
+{
+    m_screen.press("alt+r");
+    m_screen.press("Down");
+    m_screen.press("Return");
+    ASSERT_TRUE(m_screen.waitFor("qnprint",
+                                 [](const Seen &each) { return each.label == "Printer:" && each.name == "office"; }));
+    ASSERT_TRUE(wait("push button", "Print"));
+    m_screen.press("Escape");
+    ASSERT_TRUE(ended(1));
+    EXPECT_EQ(m_server.openJobs(), "");
+    EXPECT_EQ(m_server.recordCount(), 0);
+}
+
+} // namespace

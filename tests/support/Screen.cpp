@@ -1,0 +1,210 @@
+// A screen of the test's own.
+#include "Screen.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+#undef signals // a name that the accessibility library's headers use
+#include <atspi/atspi.h>
+
+namespace support {
+
+namespace {
+
+constexpr int kMilliseconds = 20000;
+constexpr int kMillisecondsToAnswer = 2000;
+constexpr int kDeepest = 30;
+
+/// What the accessibility library gives and we have to give back.
+struct Unref
+{
+    void operator()(gpointer object) const { g_object_unref(object); }
+};
+template <class T>
+using Ref = std::unique_ptr<T, Unref>;
+
+QString taken(gchar *text)
+{
+    const QString result = QString::fromUtf8(text);
+    g_free(text);
+    return result;
+}
+
+/// The text of what is said to label an object.
+QString labelOf(AtspiAccessible *object)
+{
+    GArray *const relations = atspi_accessible_get_relation_set(object, nullptr);
+    QString label;
+    for (guint i = 0; relations && i < relations->len; ++i) {
+        const Ref<AtspiRelation> relation(g_array_index(relations, AtspiRelation *, i));
+        if (atspi_relation_get_relation_type(relation.get()) != ATSPI_RELATION_LABELLED_BY)
+            continue;
+        const Ref<AtspiAccessible> target(atspi_relation_get_target(relation.get(), 0));
+        if (target)
+            label = taken(atspi_accessible_get_name(target.get(), nullptr));
+    }
+    if (relations)
+        g_array_free(relations, TRUE);
+    return label;
+}
+
+Seen seen(AtspiAccessible *object)
+{
+    Seen result;
+    result.role = taken(atspi_accessible_get_role_name(object, nullptr));
+    result.name = taken(atspi_accessible_get_name(object, nullptr));
+    result.label = labelOf(object);
+    const Ref<AtspiStateSet> states(atspi_accessible_get_state_set(object));
+    if (states) {
+        result.isShowing = atspi_state_set_contains(states.get(), ATSPI_STATE_SHOWING);
+        result.isEnabled = atspi_state_set_contains(states.get(), ATSPI_STATE_ENABLED);
+        result.isFocused = atspi_state_set_contains(states.get(), ATSPI_STATE_FOCUSED);
+    }
+    const Ref<AtspiComponent> component(atspi_accessible_get_component_iface(object));
+    if (component) {
+        AtspiRect *const place = atspi_component_get_extents(component.get(), ATSPI_COORD_TYPE_SCREEN, nullptr);
+        if (place)
+            result.place = QRect(place->x, place->y, place->width, place->height);
+        g_free(place);
+    }
+    return result;
+}
+
+void collect(AtspiAccessible *object, int depth, std::vector<Seen> &found)
+{
+    Seen self = seen(object);
+    const bool isApplication = self.role == "application";
+    if (!isApplication && !self.isShowing)
+        return;
+    found.push_back(std::move(self));
+    const int count = depth < kDeepest ? atspi_accessible_get_child_count(object, nullptr) : 0;
+    for (int i = 0; i < count; ++i) {
+        const Ref<AtspiAccessible> child(atspi_accessible_get_child_at_index(object, i, nullptr));
+        if (child)
+            collect(child.get(), depth + 1, found);
+    }
+}
+
+void end(QProcess &process)
+{
+    process.terminate();
+    if (!process.waitForFinished(kMilliseconds))
+        process.kill();
+}
+
+} // namespace
+
+Screen::Screen() = default;
+
+Screen::~Screen()
+{
+    for (QProcess *process : {&m_windowManager, &m_bus, &m_display})
+        if (process->state() != QProcess::NotRunning)
+            end(*process);
+}
+
+std::optional<QString> Screen::start()
+{
+    m_display.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"});
+    if (!m_display.waitForStarted(kMilliseconds) || !m_display.waitForReadyRead(kMilliseconds))
+        return QString("Xvfb can't be started: %1").arg(m_display.errorString());
+    m_displayName = ':' + QString::fromLatin1(m_display.readLine().trimmed());
+    if (const auto problem = startBus())
+        return problem;
+    const QProcessEnvironment environment = extended(QProcessEnvironment::systemEnvironment());
+    m_windowManager.setProcessEnvironment(environment);
+    m_windowManager.start("openbox", {"--sm-disable"});
+    if (!m_windowManager.waitForStarted(kMilliseconds))
+        return QString("openbox can't be started: %1").arg(m_windowManager.errorString());
+    for (const char *name : {"DISPLAY", "DBUS_SESSION_BUS_ADDRESS"})
+        qputenv(name, environment.value(name).toUtf8());
+    // Asked once before there is anything to see: the question starts what answers it, and comes back too late itself.
+    atspi_set_timeout(kMillisecondsToAnswer, kMillisecondsToAnswer);
+    if (atspi_init() > 1)
+        return "the accessibility bus does not answer";
+    const Ref<AtspiAccessible> desktop(atspi_get_desktop(0));
+    return desktop ? std::nullopt : std::optional(QString("there is no accessible desktop"));
+}
+
+/// A session bus that nothing but the test is on, and that starts the accessibility bus when it is asked for.
+std::optional<QString> Screen::startBus()
+{
+    QFile service(m_folder.filePath("org.a11y.Bus.service"));
+    QFile configuration(m_folder.filePath("session.conf"));
+    if (!service.open(QIODevice::WriteOnly) || !configuration.open(QIODevice::WriteOnly))
+        return configuration.errorString();
+    service.write("[D-BUS Service]\nName=org.a11y.Bus\nExec=/usr/libexec/at-spi-bus-launcher\n");
+    service.close();
+    configuration.write(QString("<busconfig><type>session</type><listen>unix:dir=%1</listen><auth>EXTERNAL</auth>"
+                                "<servicedir>%1</servicedir>"
+                                "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+                                "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>")
+                            .arg(m_folder.path())
+                            .toUtf8());
+    configuration.close();
+    auto environment = QProcessEnvironment::systemEnvironment();
+    for (const char *place : {"XDG_RUNTIME_DIR", "XDG_CACHE_HOME"}) // where the accessibility bus puts its socket
+        environment.insert(place, m_folder.path());
+    m_bus.setProcessEnvironment(environment);
+    m_bus.start("dbus-daemon", {"--nofork", "--print-address=1", "--config-file=" + configuration.fileName()});
+    if (!m_bus.waitForStarted(kMilliseconds) || !m_bus.waitForReadyRead(kMilliseconds))
+        return QString("dbus-daemon can't be started: %1").arg(m_bus.errorString());
+    m_busAddress = QString::fromLatin1(m_bus.readLine().trimmed());
+    return std::nullopt;
+}
+
+QProcessEnvironment Screen::extended(QProcessEnvironment environment) const
+{
+    environment.insert("DISPLAY", m_displayName);
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", m_busAddress);
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    return environment;
+}
+
+std::vector<Seen> Screen::look(const QString &program) const
+{
+    std::vector<Seen> found;
+    const Ref<AtspiAccessible> desktop(atspi_get_desktop(0));
+    const int count = desktop ? atspi_accessible_get_child_count(desktop.get(), nullptr) : 0;
+    for (int i = 0; i < count; ++i) {
+        const Ref<AtspiAccessible> application(atspi_accessible_get_child_at_index(desktop.get(), i, nullptr));
+        if (!application)
+            continue;
+        atspi_accessible_clear_cache(application.get()); // what was seen before may be another by now
+        if (taken(atspi_accessible_get_name(application.get(), nullptr)) == program)
+            collect(application.get(), 0, found);
+    }
+    return found;
+}
+
+std::optional<Seen> Screen::waitFor(const QString &program, const std::function<bool(const Seen &)> &isIt) const
+{
+    QElapsedTimer clock;
+    for (clock.start(); clock.elapsed() < kMilliseconds; QThread::msleep(50))
+        for (const Seen &each : look(program))
+            if (isIt(each))
+                return each;
+    return std::nullopt;
+}
+
+bool Screen::run(const QString &program, const QStringList &arguments) const
+{
+    QProcess process;
+    process.setProcessEnvironment(extended(QProcessEnvironment::systemEnvironment()));
+    process.start(program, arguments);
+    return process.waitForFinished(kMilliseconds) && process.exitCode() == 0;
+}
+
+void Screen::press(const QString &keys) const { run("xdotool", {"key", keys}); }
+
+void Screen::type(const QString &text) const { run("xdotool", {"type", "--delay", "20", text}); }
+
+void Screen::click(const Seen &seen) const
+{
+    const QPoint at = seen.place.center();
+    run("xdotool", {"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "1"});
+}
+
+} // namespace support

@@ -1,0 +1,63 @@
+// A screen of the test's own, with a window manager, and eyes and hands on it: windows are read through the
+// accessibility bus, as assistive technology does, and used with keys and mouse clicks, as people do.
+#pragma once
+
+#include <QProcess>
+#include <QRect>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace support {
+
+/// Something on the screen, as assistive technology knows it.
+struct Seen
+{
+    QString role; // "push button"
+    QString name;
+    QString label; // of what stands beside it as its label
+    QRect place;   // on the screen
+    bool isShowing = false;
+    bool isEnabled = false;
+    bool isFocused = false;
+};
+
+class Screen
+{
+public:
+    Screen();
+    ~Screen();
+    Screen(const Screen &) = delete;
+    Screen &operator=(const Screen &) = delete;
+
+    /// Nil when it stands; otherwise one sentence that says why not.
+    std::optional<QString> start();
+
+    /// An environment, with what a program needs to show itself here.
+    QProcessEnvironment extended(QProcessEnvironment environment) const;
+
+    /// All that shows of a program, from the top; empty while it does not.
+    std::vector<Seen> look(const QString &program) const;
+    /// Waits for something that shows; nil when it does not come.
+    std::optional<Seen> waitFor(const QString &program, const std::function<bool(const Seen &)> &isIt) const;
+
+    void press(const QString &keys) const; // "alt+p"
+    void type(const QString &text) const;
+    void click(const Seen &seen) const;
+
+private:
+    bool run(const QString &program, const QStringList &arguments) const;
+    std::optional<QString> startBus();
+
+    QTemporaryDir m_folder{"/tmp/qnscreen-XXXXXX"};
+    QProcess m_display;
+    QProcess m_bus;
+    QProcess m_windowManager;
+    QString m_displayName;
+    QString m_busAddress;
+};
+
+} // namespace support
