@@ -69,9 +69,11 @@ JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
         return failed(server.problem());
     const CupsDestination destination(cupsGetNamedDest(server.get(), m_queue.toUtf8().constData(), nullptr));
     if (!destination)
-        return failed(cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? "no such queue" : server.problem());
+        return failed(cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? JobSink::tr("no such queue") : server.problem());
     if (m_ppd && hasPPDChanged(server.get(), m_queue, *m_ppd))
-        return {false, m_queue + ": the printer's description has changed meanwhile; nothing was printed", true};
+        return {false,
+                JobSink::tr("%1: the printer's description has changed meanwhile; nothing was printed").arg(m_queue),
+                true};
     const CupsDestinationInfo info(cupsCopyDestInfo(server.get(), destination.get()));
     if (!info)
         return failed(server.problem());
@@ -85,11 +87,11 @@ JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
     const auto reason = sendDocument(server, destination.get(), info.get(), id, job, noting);
     if (!reason)
         return {true, QString("%1-%2").arg(m_queue).arg(id)};
-    const QString why = progress(done, job.document.size()) ? *reason : QString("stopped");
+    const QString why = progress(done, job.document.size()) ? *reason : JobSink::tr("stopped");
     if (cancelJob(destination.get(), id))
         return failed(why);
     return failed(
-        QString("%1; job %2-%3 may still be there, so look before you print again").arg(why, m_queue).arg(id));
+        JobSink::tr("%1; job %2-%3 may still be there, so look before you print again").arg(why, m_queue).arg(id));
 }
 
 } // namespace host

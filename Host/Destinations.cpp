@@ -34,9 +34,9 @@ QString noteOn(const cups_dest_t &destination)
         return qstrcmp(cupsGetOption(name, destination.num_options, destination.options), value) == 0;
     };
     if (is("printer-is-accepting-jobs", "false"))
-        return QString("%1: the queue does not take jobs now").arg(QString::fromUtf8(destination.name));
+        return ServerConnection::tr("%1: the queue does not take jobs now").arg(QString::fromUtf8(destination.name));
     if (is("printer-state", "5"))
-        return QString("%1: the queue is stopped; jobs wait until it is started")
+        return ServerConnection::tr("%1: the queue is stopped; jobs wait until it is started")
             .arg(QString::fromUtf8(destination.name));
     return {};
 }
@@ -55,7 +55,8 @@ CupsDestination findDestination(const ServerConnection &server, const QueueName 
     if (!answered)
         *error = (queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue) + ": " + server.problem();
     else
-        *error = queue.isEmpty() ? QString("there is no default queue") : name.queue + ": no such queue";
+        *error = queue.isEmpty() ? ServerConnection::tr("there is no default queue")
+                                 : ServerConnection::tr("%1: no such queue").arg(name.queue);
     return nullptr;
 }
 

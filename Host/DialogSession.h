@@ -24,7 +24,7 @@ struct ChosenPaper
 
 class DialogSession final : private PDEPluginCallback_v100_
 {
-    Q_DECLARE_TR_FUNCTIONS(DialogSession)
+    Q_DECLARE_TR_FUNCTIONS(host::DialogSession)
 
 public:
     struct Parameters

@@ -121,7 +121,7 @@ void DialogWindow::layOut()
 {
     m_buttons = new QDialogButtonBox;
     m_print = m_buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
-    m_cancel = m_buttons->addButton(QDialogButtonBox::Cancel);
+    m_cancel = m_buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     m_print->setDefault(true);
     m_print->setEnabled(false);
     connect(m_print, &QPushButton::clicked, this, &DialogWindow::print);

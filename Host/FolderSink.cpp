@@ -78,11 +78,11 @@ JobSink::Result FolderSink::submit(const Job &job, const JobProgress &progress)
 {
     const auto failed = [this](const QString &reason) { return Result{false, m_folder + ": " + reason}; };
     if (!QDir().mkpath(m_folder))
-        return failed("can't be made");
+        return failed(JobSink::tr("can't be made"));
     const auto copy = temporaryFile(m_folder);
     const auto note = temporaryFile(m_folder);
     if (!copy || !note)
-        return failed("can't be written");
+        return failed(JobSink::tr("can't be written"));
     if (const auto reason = copyDocument(job.document, *copy, progress))
         return failed(*reason);
 
@@ -106,7 +106,7 @@ JobSink::Result FolderSink::submit(const Job &job, const JobProgress &progress)
         if (error != EEXIST)
             return failed(QString::fromLocal8Bit(std::strerror(error)));
     }
-    return failed("too many jobs of this name");
+    return failed(JobSink::tr("too many jobs of this name"));
 }
 
 } // namespace host

@@ -47,14 +47,14 @@ std::optional<QString> passOn(Document &document, const JobProgress &progress,
     for (;;) {
         const auto part = document.read();
         if (!part)
-            return document.title() + ": can't be read any more";
+            return JobSink::tr("%1: can't be read any more").arg(document.title());
         if (part->isEmpty())
             return std::nullopt;
         if (const auto reason = write(*part))
             return reason;
         done += part->size();
         if (!progress(done, document.size()))
-            return "stopped";
+            return JobSink::tr("stopped");
     }
 }
 

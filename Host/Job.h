@@ -5,6 +5,8 @@
 #include "PPDCache.h"
 #include "PPDDocument.h"
 
+#include <QCoreApplication>
+
 #include <functional>
 
 namespace host {
@@ -33,6 +35,8 @@ using JobProgress = std::function<bool(qint64 done, qint64 total)>;
 /// Where a job goes. Submitting blocks, and may run on a thread of its own.
 class JobSink
 {
+    Q_DECLARE_TR_FUNCTIONS(host::JobSink)
+
 public:
     struct Result
     {

@@ -6,6 +6,7 @@
 #include "Printer.h"
 #include "QueueSupply.h"
 #include "Toolkit/Alert.h"
+#include "WindowTexts.h"
 
 #include <QApplication>
 
@@ -97,6 +98,7 @@ int runDialog(const QStringList &arguments)
     if (line->noDialog)
         return printWithoutWindow(*line, *document);
 
+    useWindowTexts(line->language);
     DialogWindow window(std::move(document));
     window.setTitle(line->title);
     QObject::connect(&window, &DialogWindow::printed,
@@ -135,6 +137,7 @@ int runShot(const QStringList &arguments)
         complain(error);
         return kRefused;
     }
+    useWindowTexts(line->language);
     DialogWindow window(nullptr);
     window.showPrinterName(printer->name);
     window.usePrinter(*std::move(printer));

@@ -121,7 +121,7 @@ std::optional<QString> SavedOptions::problemOf(const QString &preset)
     static const QRegularExpression form(R"(^[^\s/\\"'#\x00-\x1f]+$)");
     if (preset.toUtf8().size() <= kLongestName && form.match(preset).hasMatch())
         return std::nullopt;
-    return QString("“%1”: a name is one word without slashes and quotation marks").arg(preset.left(kLongestName));
+    return tr("“%1”: a name is one word without slashes and quotation marks").arg(preset.left(kLongestName));
 }
 
 std::optional<QString> SavedOptions::save(const QString &preset, const OptionValues &options) const
@@ -140,10 +140,10 @@ std::optional<QString> SavedOptions::replace(const QString &preset, const std::o
     // From reading to writing nobody else may write: what another dialog saves meanwhile would be lost.
     QLockFile lock(path + ".lock");
     if (!lock.tryLock(kMillisecondsToLock))
-        return QString("%1: can't be written just now").arg(path);
+        return tr("%1: can't be written just now").arg(path);
     const auto lines = linesOf(path);
     if (!lines)
-        return QString("%1: can't be read").arg(path);
+        return tr("%1: can't be read").arg(path);
 
     QByteArrayList result;
     Line mine{"Dest", m_queue, preset, {}};

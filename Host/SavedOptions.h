@@ -4,6 +4,7 @@
 
 #include "PPDDocument.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <optional>
@@ -12,6 +13,8 @@ namespace host {
 
 class SavedOptions
 {
+    Q_DECLARE_TR_FUNCTIONS(host::SavedOptions)
+
 public:
     /// Of one queue. The names are read afresh each time: other programs save as well.
     explicit SavedOptions(QString queue)

@@ -54,11 +54,11 @@ bool ServerConnection::asksForPassword() const { return askedForPassword; }
 QString ServerConnection::problem() const
 {
     if (!m_http)
-        return "no CUPS server answers";
+        return tr("no CUPS server answers");
     if (asksForPassword())
-        return "the CUPS server asks for a password";
+        return tr("the CUPS server asks for a password");
     if (keepsSilent())
-        return "the CUPS server does not answer";
+        return tr("the CUPS server does not answer");
     return QString::fromUtf8(cupsLastErrorString());
 }
 

@@ -3,7 +3,7 @@
 
 #include "Printing/ppd_api.h"
 
-#include <QString>
+#include <QCoreApplication>
 
 #include <functional>
 #include <memory>
@@ -13,6 +13,8 @@ namespace host {
 /// One connection. The thread that makes it is not asked for passwords from then on.
 class ServerConnection
 {
+    Q_DECLARE_TR_FUNCTIONS(host::ServerConnection)
+
 public:
     /// Connects and asks a first question, within a few seconds. While the server keeps silent later, `goOn` is asked
     /// about once a second; when it answers false, or the silence lasts, the call that waits fails.

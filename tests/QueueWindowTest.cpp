@@ -207,6 +207,19 @@ TEST_F(QueueWindow, PrintsWhatWasChosenInIt)
     EXPECT_TRUE(job["options"].split(' ').contains("page-ranges=2-3"));
 }
 
+TEST_F(QueueWindow, OffersPrintingInBothDirectionsOverUSBOnly)
+{
+    ASSERT_TRUE(m_server.addQueue("far", "socket://127.0.0.1:9"));
+    const auto isOffered = [this] {
+        const QWidget *view = m_window->printer().session->panel("advanced")->panelView();
+        return view->findChild<toolkit::CheckControl *>("mBiDiPrintChkBx")->isEnabled();
+    };
+    openAndWait("counter");
+    EXPECT_TRUE(isOffered());
+    openAndWait("far");
+    EXPECT_FALSE(isOffered());
+}
+
 TEST_F(QueueWindow, SaysWhichPagesAreNone)
 {
     openAndWait();

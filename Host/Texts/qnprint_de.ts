@@ -1,0 +1,260 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>%1 statt „%2“, passend zu %3.</translation>
+    </message>
+    <message>
+        <source>the other choices</source>
+        <translation>den übrigen Einstellungen</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1 ist nicht wie gesichert: Die Regeln für das Papier bestimmen es.</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogWindow</name>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>Try A&amp;gain</source>
+        <translation>Er&amp;neut versuchen</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>Einstellungsseiten</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Single pages and ranges, such as 1-3,5</source>
+        <translation>Einzelne Seiten und Bereiche, etwa 1-3,5</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Defaults</source>
+        <translation>Als &amp;Standard sichern</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Preset…</source>
+        <translation>Als &amp;Vorlage sichern…</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset</source>
+        <translation>Vorlage &amp;löschen</translation>
+    </message>
+    <message>
+        <source>P&amp;ages:</source>
+        <translation>Se&amp;iten:</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>D&amp;rucker:</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>&amp;Vorlage:</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>Papi&amp;er:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Kopien:</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <translation>Das Plug-in hat keine Einstellungen für diesen Drucker. Gedruckt wird mit den Vorgaben des Treibers.</translation>
+    </message>
+    <message>
+        <source>No driver describes this printer: it has general settings only.</source>
+        <translation>Kein Treiber beschreibt diesen Drucker: Er hat nur allgemeine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>%1: the plug-in has no interface for this panel.</source>
+        <translation>%1: Das Plug-in hat keine Oberfläche für diese Seite.</translation>
+    </message>
+    <message>
+        <source>Saved as your defaults for %1.</source>
+        <translation>Als Ihr Standard für %1 gesichert.</translation>
+    </message>
+    <message>
+        <source>Saved as “%1” for %2.</source>
+        <translation>Als „%1“ für %2 gesichert.</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als Vorlage sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>“%1” was deleted.</source>
+        <translation>„%1“ wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>„%1“ sind keine Seiten. Schreiben Sie einzelne Seiten und Bereiche, etwa 1-3,5.</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Es gibt kein Dokument zu drucken.</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>no such queue</source>
+        <translation>keine solche Warteschlange</translation>
+    </message>
+    <message>
+        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
+        <translation>%1: Die Beschreibung des Druckers hat sich inzwischen geändert; nichts wurde gedruckt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1; der Auftrag %2-%3 ist vielleicht noch da, sehen Sie nach, bevor Sie erneut drucken</translation>
+    </message>
+    <message>
+        <source>can't be made</source>
+        <translation>kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>can't be written</source>
+        <translation>kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>zu viele Aufträge dieses Namens</translation>
+    </message>
+    <message>
+        <source>%1: can't be read any more</source>
+        <translation>%1: kann nicht mehr gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> Zoll</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Papierbreite</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Papierhöhe</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Eigene Größe…</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSupply</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>Der Drucker wird gesucht…</translation>
+    </message>
+    <message>
+        <source>The CUPS server does not answer.</source>
+        <translation>Der CUPS-Server antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The printer's description has changed on the server. Please look over the settings.</source>
+        <translation>Die Beschreibung des Druckers hat sich auf dem Server geändert. Bitte sehen Sie die Einstellungen durch.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SavedOptions</name>
+    <message>
+        <source>“%1”: a name is one word without slashes and quotation marks</source>
+        <translation>„%1“: Ein Name ist ein Wort ohne Schrägstriche und Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>%1: can't be written just now</source>
+        <translation>%1: kann gerade nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>%1: can't be read</source>
+        <translation>%1: kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>host::ServerConnection</name>
+    <message>
+        <source>%1: the queue does not take jobs now</source>
+        <translation>%1: Die Warteschlange nimmt gerade keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>%1: the queue is stopped; jobs wait until it is started</source>
+        <translation>%1: Die Warteschlange ist angehalten; Aufträge warten, bis sie wieder läuft</translation>
+    </message>
+    <message>
+        <source>there is no default queue</source>
+        <translation>es gibt keine Standardwarteschlange</translation>
+    </message>
+    <message>
+        <source>%1: no such queue</source>
+        <translation>%1: keine solche Warteschlange</translation>
+    </message>
+    <message>
+        <source>no CUPS server answers</source>
+        <translation>kein CUPS-Server antwortet</translation>
+    </message>
+    <message>
+        <source>the CUPS server asks for a password</source>
+        <translation>der CUPS-Server verlangt ein Passwort</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>der CUPS-Server antwortet nicht</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryView</name>
+    <message>
+        <source>Summary of the settings</source>
+        <translation>Übersicht der Einstellungen</translation>
+    </message>
+</context>
+</TS>

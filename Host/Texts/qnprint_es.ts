@@ -1,0 +1,260 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>%1 en lugar de «%2», para ir con %3.</translation>
+    </message>
+    <message>
+        <source>the other choices</source>
+        <translation>los demás ajustes</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1 no está como se guardó: lo deciden las reglas del papel.</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogWindow</name>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Try A&amp;gain</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimir %1</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>Paneles</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>todas</translation>
+    </message>
+    <message>
+        <source>Single pages and ranges, such as 1-3,5</source>
+        <translation>Páginas e intervalos, por ejemplo 1-3,5</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Defaults</source>
+        <translation>Guardar como valores pre&amp;determinados</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Preset…</source>
+        <translation>Guardar como a&amp;juste…</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset</source>
+        <translation>E&amp;liminar el ajuste</translation>
+    </message>
+    <message>
+        <source>P&amp;ages:</source>
+        <translation>Pági&amp;nas:</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Im&amp;presora:</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>&amp;Ajuste:</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>Pap&amp;el:</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copias:</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <translation>El complemento no tiene ajustes para esta impresora. Se imprime con los del controlador.</translation>
+    </message>
+    <message>
+        <source>No driver describes this printer: it has general settings only.</source>
+        <translation>Ningún controlador describe esta impresora: solo tiene ajustes generales.</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>%1: the plug-in has no interface for this panel.</source>
+        <translation>%1: el complemento no tiene interfaz para este panel.</translation>
+    </message>
+    <message>
+        <source>Saved as your defaults for %1.</source>
+        <translation>Guardado como sus valores predeterminados para %1.</translation>
+    </message>
+    <message>
+        <source>Saved as “%1” for %2.</source>
+        <translation>Guardado como «%1» para %2.</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Guardar como ajuste</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>“%1” was deleted.</source>
+        <translation>Se eliminó «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>«%1» no son páginas. Escriba páginas e intervalos, por ejemplo 1-3,5.</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>No hay ningún documento que imprimir.</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>no such queue</source>
+        <translation>no existe esa cola</translation>
+    </message>
+    <message>
+        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
+        <translation>%1: la descripción de la impresora ha cambiado mientras tanto; no se imprimió nada</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1; el trabajo %2-%3 puede seguir ahí, compruébelo antes de volver a imprimir</translation>
+    </message>
+    <message>
+        <source>can't be made</source>
+        <translation>no se puede crear</translation>
+    </message>
+    <message>
+        <source>can't be written</source>
+        <translation>no se puede escribir</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>demasiados trabajos con este nombre</translation>
+    </message>
+    <message>
+        <source>%1: can't be read any more</source>
+        <translation>%1: ya no se puede leer</translation>
+    </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> in</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Ancho del papel</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Alto del papel</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Tamaño personalizado…</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSupply</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>Buscando la impresora…</translation>
+    </message>
+    <message>
+        <source>The CUPS server does not answer.</source>
+        <translation>El servidor CUPS no responde.</translation>
+    </message>
+    <message>
+        <source>The printer's description has changed on the server. Please look over the settings.</source>
+        <translation>La descripción de la impresora ha cambiado en el servidor. Revise los ajustes.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SavedOptions</name>
+    <message>
+        <source>“%1”: a name is one word without slashes and quotation marks</source>
+        <translation>«%1»: un nombre es una sola palabra sin barras ni comillas</translation>
+    </message>
+    <message>
+        <source>%1: can't be written just now</source>
+        <translation>%1: no se puede escribir ahora</translation>
+    </message>
+    <message>
+        <source>%1: can't be read</source>
+        <translation>%1: no se puede leer</translation>
+    </message>
+</context>
+<context>
+    <name>host::ServerConnection</name>
+    <message>
+        <source>%1: the queue does not take jobs now</source>
+        <translation>%1: la cola no acepta trabajos ahora</translation>
+    </message>
+    <message>
+        <source>%1: the queue is stopped; jobs wait until it is started</source>
+        <translation>%1: la cola está detenida; los trabajos esperan a que se reanude</translation>
+    </message>
+    <message>
+        <source>there is no default queue</source>
+        <translation>no hay cola predeterminada</translation>
+    </message>
+    <message>
+        <source>%1: no such queue</source>
+        <translation>%1: no existe esa cola</translation>
+    </message>
+    <message>
+        <source>no CUPS server answers</source>
+        <translation>ningún servidor CUPS responde</translation>
+    </message>
+    <message>
+        <source>the CUPS server asks for a password</source>
+        <translation>el servidor CUPS pide una contraseña</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>el servidor CUPS no responde</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryView</name>
+    <message>
+        <source>Summary of the settings</source>
+        <translation>Resumen de los ajustes</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,260 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>%1 au lieu de « %2 », pour aller avec %3.</translation>
+    </message>
+    <message>
+        <source>the other choices</source>
+        <translation>les autres réglages</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1 n’est pas tel qu’enregistré : les règles du papier en décident.</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogWindow</name>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>E&amp;nregistrer</translation>
+    </message>
+    <message>
+        <source>Try A&amp;gain</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>Volets</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>Single pages and ranges, such as 1-3,5</source>
+        <translation>Pages et intervalles, par exemple 1-3,5</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Defaults</source>
+        <translation>Enregistrer par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Preset…</source>
+        <translation>Enregistrer comme &amp;préréglage…</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset</source>
+        <translation>Supprimer &amp;le préréglage</translation>
+    </message>
+    <message>
+        <source>P&amp;ages:</source>
+        <translation>Pa&amp;ges :</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>I&amp;mprimante :</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>&amp;Préréglage :</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>Papi&amp;er :</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies :</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <translation>Le module n’a pas de réglages pour cette imprimante. L’impression se fait avec ceux du pilote.</translation>
+    </message>
+    <message>
+        <source>No driver describes this printer: it has general settings only.</source>
+        <translation>Aucun pilote ne décrit cette imprimante : elle n’a que des réglages généraux.</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>%1: the plug-in has no interface for this panel.</source>
+        <translation>%1 : le module n’a pas d’interface pour ce volet.</translation>
+    </message>
+    <message>
+        <source>Saved as your defaults for %1.</source>
+        <translation>Enregistré comme vos valeurs par défaut pour %1.</translation>
+    </message>
+    <message>
+        <source>Saved as “%1” for %2.</source>
+        <translation>Enregistré comme « %1 » pour %2.</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>“%1” was deleted.</source>
+        <translation>« %1 » a été supprimé.</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>« %1 » ne désigne pas de pages. Écrivez des pages et des intervalles, par exemple 1-3,5.</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>Il n’y a pas de document à imprimer.</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>no such queue</source>
+        <translation>file d’impression inconnue</translation>
+    </message>
+    <message>
+        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
+        <translation>%1 : la description de l’imprimante a changé entre-temps ; rien n’a été imprimé</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1 ; la tâche %2-%3 existe peut-être encore, vérifiez avant de réimprimer</translation>
+    </message>
+    <message>
+        <source>can't be made</source>
+        <translation>ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>can't be written</source>
+        <translation>ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>trop de tâches de ce nom</translation>
+    </message>
+    <message>
+        <source>%1: can't be read any more</source>
+        <translation>%1 : ne peut plus être lu</translation>
+    </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> po</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Largeur du papier</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Hauteur du papier</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Taille personnalisée…</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSupply</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>Recherche de l’imprimante…</translation>
+    </message>
+    <message>
+        <source>The CUPS server does not answer.</source>
+        <translation>Le serveur CUPS ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The printer's description has changed on the server. Please look over the settings.</source>
+        <translation>La description de l’imprimante a changé sur le serveur. Veuillez revoir les réglages.</translation>
+    </message>
+</context>
+<context>
+    <name>host::SavedOptions</name>
+    <message>
+        <source>“%1”: a name is one word without slashes and quotation marks</source>
+        <translation>« %1 » : un nom est un seul mot, sans barre oblique ni guillemets</translation>
+    </message>
+    <message>
+        <source>%1: can't be written just now</source>
+        <translation>%1 : ne peut pas être écrit pour l’instant</translation>
+    </message>
+    <message>
+        <source>%1: can't be read</source>
+        <translation>%1 : ne peut pas être lu</translation>
+    </message>
+</context>
+<context>
+    <name>host::ServerConnection</name>
+    <message>
+        <source>%1: the queue does not take jobs now</source>
+        <translation>%1 : la file n’accepte pas de tâches pour l’instant</translation>
+    </message>
+    <message>
+        <source>%1: the queue is stopped; jobs wait until it is started</source>
+        <translation>%1 : la file est arrêtée ; les tâches attendent son redémarrage</translation>
+    </message>
+    <message>
+        <source>there is no default queue</source>
+        <translation>il n’y a pas de file par défaut</translation>
+    </message>
+    <message>
+        <source>%1: no such queue</source>
+        <translation>%1 : file d’impression inconnue</translation>
+    </message>
+    <message>
+        <source>no CUPS server answers</source>
+        <translation>aucun serveur CUPS ne répond</translation>
+    </message>
+    <message>
+        <source>the CUPS server asks for a password</source>
+        <translation>le serveur CUPS demande un mot de passe</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>le serveur CUPS ne répond pas</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryView</name>
+    <message>
+        <source>Summary of the settings</source>
+        <translation>Résumé des réglages</translation>
+    </message>
+</context>
+</TS>

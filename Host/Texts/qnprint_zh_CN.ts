@@ -1,0 +1,260 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>host::DialogSession</name>
+    <message>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>为配合%3，已将“%2”改为%1。</translation>
+    </message>
+    <message>
+        <source>the other choices</source>
+        <translation>其他设置</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1与保存时不同：由纸张规则决定。</translation>
+    </message>
+</context>
+<context>
+    <name>host::DialogWindow</name>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>保存(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Try A&amp;gain</source>
+        <translation>重试(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>打印 %1</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Panels</source>
+        <translation>设置面板</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Single pages and ranges, such as 1-3,5</source>
+        <translation>页码或范围，例如 1-3,5</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Defaults</source>
+        <translation>存为默认值(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Save as &amp;Preset…</source>
+        <translation>存为预设(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset</source>
+        <translation>删除预设(&amp;L)</translation>
+    </message>
+    <message>
+        <source>P&amp;ages:</source>
+        <translation>页(&amp;A):</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>打印机(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Pre&amp;set:</source>
+        <translation>预设(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Pap&amp;er:</source>
+        <translation>纸张(&amp;E):</translation>
+    </message>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>份数(&amp;C):</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <translation>插件没有此打印机的设置。将使用驱动程序的默认值打印。</translation>
+    </message>
+    <message>
+        <source>No driver describes this printer: it has general settings only.</source>
+        <translation>没有驱动程序描述此打印机：只有常规设置。</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>%1: the plug-in has no interface for this panel.</source>
+        <translation>%1：插件没有此面板的界面。</translation>
+    </message>
+    <message>
+        <source>Saved as your defaults for %1.</source>
+        <translation>已存为 %1 的默认值。</translation>
+    </message>
+    <message>
+        <source>Saved as “%1” for %2.</source>
+        <translation>已为 %2 存为“%1”。</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>存为预设</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N):</translation>
+    </message>
+    <message>
+        <source>“%1” was deleted.</source>
+        <translation>已删除“%1”。</translation>
+    </message>
+    <message>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>“%1”不是页码。请输入页码或范围，例如 1-3,5。</translation>
+    </message>
+    <message>
+        <source>There is no document to print.</source>
+        <translation>没有要打印的文档。</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>no such queue</source>
+        <translation>没有此队列</translation>
+    </message>
+    <message>
+        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
+        <translation>%1：打印机描述已更改，未打印任何内容</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1；作业 %2-%3 可能仍在，再次打印前请先查看</translation>
+    </message>
+    <message>
+        <source>can't be made</source>
+        <translation>无法创建</translation>
+    </message>
+    <message>
+        <source>can't be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>同名作业过多</translation>
+    </message>
+    <message>
+        <source>%1: can't be read any more</source>
+        <translation>%1：无法再读取</translation>
+    </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> 毫米</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> 英寸</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>纸张宽度</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>纸张高度</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>自定义尺寸…</translation>
+    </message>
+</context>
+<context>
+    <name>host::QueueSupply</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>正在查找打印机…</translation>
+    </message>
+    <message>
+        <source>The CUPS server does not answer.</source>
+        <translation>CUPS 服务器没有响应。</translation>
+    </message>
+    <message>
+        <source>The printer's description has changed on the server. Please look over the settings.</source>
+        <translation>服务器上的打印机描述已更改。请检查设置。</translation>
+    </message>
+</context>
+<context>
+    <name>host::SavedOptions</name>
+    <message>
+        <source>“%1”: a name is one word without slashes and quotation marks</source>
+        <translation>“%1”：名称须为一个词，不含斜线和引号</translation>
+    </message>
+    <message>
+        <source>%1: can't be written just now</source>
+        <translation>%1：暂时无法写入</translation>
+    </message>
+    <message>
+        <source>%1: can't be read</source>
+        <translation>%1：无法读取</translation>
+    </message>
+</context>
+<context>
+    <name>host::ServerConnection</name>
+    <message>
+        <source>%1: the queue does not take jobs now</source>
+        <translation>%1：队列现在不接受作业</translation>
+    </message>
+    <message>
+        <source>%1: the queue is stopped; jobs wait until it is started</source>
+        <translation>%1：队列已停止；作业将等到其重新启动</translation>
+    </message>
+    <message>
+        <source>there is no default queue</source>
+        <translation>没有默认队列</translation>
+    </message>
+    <message>
+        <source>%1: no such queue</source>
+        <translation>%1：没有此队列</translation>
+    </message>
+    <message>
+        <source>no CUPS server answers</source>
+        <translation>没有 CUPS 服务器响应</translation>
+    </message>
+    <message>
+        <source>the CUPS server asks for a password</source>
+        <translation>CUPS 服务器要求密码</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>CUPS 服务器没有响应</translation>
+    </message>
+</context>
+<context>
+    <name>host::SummaryView</name>
+    <message>
+        <source>Summary of the settings</source>
+        <translation>设置摘要</translation>
+    </message>
+</context>
+</TS>
