@@ -162,17 +162,22 @@ void DialogWindow::usePrinter(Printer printer)
     m_printer = std::move(printer);
     m_copies->setValue(m_printer.copies);
     m_pages->setText(m_printer.pages);
-    say(m_printer.note);
+    QStringList sentences;
+    if (!m_printer.note.isEmpty())
+        sentences.append(m_printer.note + '.');
     if (DialogSession *const session = m_printer.session.get()) {
         session->onChange = [this](const QString &, const QString &) { settleSoon(); };
         session->start(DialogSession::Prepare::firstPanel);
         m_paper->offer(*session);
         if (!session->panels() || session->panels()->empty())
-            say(tr("The plug-in has no settings for this printer. It is printed with the driver's defaults."));
+            sentences.append(
+                tr("The plug-in has no settings for this printer. It is printed with the driver's defaults."));
     } else {
         m_paper->offer(m_printer.papers, m_printer.generalOptions.value("media"));
-        say(tr("No driver describes this printer: it has general settings only."));
+        sentences.append(tr("No driver describes this printer: it has general settings only."));
     }
+    say(sentences.join(' '));
+    m_form->setRowVisible(kPaperRow, m_paper->menu()->count() > 0);
     offerPanels();
     offerPresets();
     m_print->setEnabled(true);

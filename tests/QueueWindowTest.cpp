@@ -351,6 +351,7 @@ TEST_F(QueueWindow, OffersGeneralSettingsForAQueueWithoutAPPD)
     EXPECT_EQ(message(), "No driver describes this printer: it has general settings only.");
     EXPECT_EQ(find<QTabBar>()->count(), 0);
     EXPECT_FALSE(button("Sa&ve")->isVisible());
+    EXPECT_EQ(find<PaperChooser>()->menu()->isVisible(), find<PaperChooser>()->menu()->count() > 0);
     find<QSpinBox>()->setValue(2);
     EXPECT_TRUE(print());
     EXPECT_TRUE(waitFor([this] { return m_server.openJobs().isEmpty(); }));
@@ -518,7 +519,7 @@ TEST_F(QueueWindow, TellsOfAStoppedQueueBeforeAndLeavesTheJobInIt)
 {
     ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0);
     openAndWait();
-    EXPECT_EQ(message(), "counter: the queue is stopped; jobs wait until it is started");
+    EXPECT_EQ(message(), "counter: the queue is stopped; jobs wait until it is started.");
     EXPECT_TRUE(print());
     EXPECT_TRUE(m_server.openJobs().startsWith("counter-1 "));
     ASSERT_EQ(m_server.run("cupsenable", {"counter"}), 0);
