@@ -162,6 +162,7 @@ void DialogWindow::usePrinter(Printer printer)
     m_printer = std::move(printer);
     m_copies->setValue(m_printer.copies);
     m_pages->setText(m_printer.pages);
+    m_form->setRowVisible(kPaperRow, true); // every part of it, so before the chooser hides some
     QStringList sentences;
     if (!m_printer.note.isEmpty())
         sentences.append(m_printer.note + '.');
@@ -177,7 +178,8 @@ void DialogWindow::usePrinter(Printer printer)
         sentences.append(tr("No driver describes this printer: it has general settings only."));
     }
     say(sentences.join(' '));
-    m_form->setRowVisible(kPaperRow, m_paper->menu()->count() > 0);
+    if (m_paper->menu()->count() == 0)
+        m_form->setRowVisible(kPaperRow, false);
     offerPanels();
     offerPresets();
     m_print->setEnabled(true);

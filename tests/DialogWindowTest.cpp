@@ -181,9 +181,10 @@ TEST_F(Window, GoesThroughThePanelsWithAnotherPaper)
 
 TEST_F(Window, OffersASizeOfTheUsersOwnWithinThePPDsLimits)
 {
-    choosePaper("customsize");
     const auto sides = m_window->findChildren<QDoubleSpinBox *>();
     ASSERT_EQ(sides.size(), 2);
+    EXPECT_FALSE(sides[0]->isVisible());
+    choosePaper("customsize");
     EXPECT_TRUE(sides[0]->isVisible());
     sides[0]->setValue(100);
     sides[1]->setValue(9999);
