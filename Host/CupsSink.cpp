@@ -61,8 +61,11 @@ bool cancelJob(cups_dest_t *destination, int id)
 
 JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
 {
-    const auto failed = [this](const QString &reason) { return Result{false, m_queue + ": " + reason}; };
     qint64 done = 0;
+    const auto failed = [&](const QString &reason) {
+        const bool wanted = progress(done, job.document.size());
+        return Result{false, m_queue + ": " + (wanted ? reason : JobSink::tr("stopped"))};
+    };
     const JobProgress noting = [&](qint64 now, qint64 total) { return progress(done = now, total); };
     ServerConnection server([&] { return progress(done, job.document.size()); }, kSecondsOfSilence);
     if (!server)
@@ -87,11 +90,13 @@ JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
     const auto reason = sendDocument(server, destination.get(), info.get(), id, job, noting);
     if (!reason)
         return {true, QString("%1-%2").arg(m_queue).arg(id)};
-    const QString why = progress(done, job.document.size()) ? *reason : JobSink::tr("stopped");
     if (cancelJob(destination.get(), id))
-        return failed(why);
-    return failed(
-        JobSink::tr("%1; job %2-%3 may still be there, so look before you print again").arg(why, m_queue).arg(id));
+        return failed(*reason);
+    auto result = failed(*reason);
+    result.sentence = JobSink::tr("%1; job %2-%3 may still be there, so look before you print again")
+                          .arg(result.sentence, m_queue)
+                          .arg(id);
+    return result;
 }
 
 } // namespace host

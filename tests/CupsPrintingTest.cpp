@@ -54,6 +54,9 @@ TEST_F(CupsPrinting, BringsEveryChosenOptionToTheDriver)
     const auto job = m_server.record(1);
     EXPECT_EQ(job["title"], "Ferry ticket");
     EXPECT_EQ(job["copies"], "2");
+    EXPECT_EQ(job["PRINTER"], "counter");
+    EXPECT_EQ(job["DEVICE_URI"], "usb://Qn/Thermal?serial=1");
+    EXPECT_EQ(job["CONTENT_TYPE"], "application/pdf");
     EXPECT_EQ(job["options"].count("copies="), job["options"].count("copies=2")); // never another number besides
     EXPECT_EQ(job["size"], QString::number(QFile(kTicket).size()));
     const QMap<QString, QString> expected{{"PageSize", "RollA4"},

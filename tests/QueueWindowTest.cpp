@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -421,6 +422,23 @@ TEST_F(QueueWindow, KeepsTheJobWhenTheServerDiesBeforeItGoes)
     ASSERT_FALSE(m_server.restart());
     EXPECT_TRUE(print());
     EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");
+    EXPECT_EQ(m_server.recordCount(), 1);
+}
+
+TEST_F(QueueWindow, StopsAJobWithCancelAndStaysForTheNext)
+{
+    openAndWait();
+    m_server.freeze();
+    button("&Print")->click();
+    EXPECT_FALSE(button("&Print")->isEnabled());
+    EXPECT_TRUE(find<QProgressBar>()->isVisible());
+    button("Cancel")->click();
+    ASSERT_TRUE(waitForMessage("counter: stopped"));
+    EXPECT_TRUE(m_window->isVisible());
+    m_server.thaw();
+    EXPECT_EQ(m_server.openJobs(), "");
+    EXPECT_TRUE(print());
+    EXPECT_FALSE(m_server.record(1).isEmpty());
     EXPECT_EQ(m_server.recordCount(), 1);
 }
 

@@ -1,4 +1,5 @@
-// A driver that prints nothing and writes down what it was told: arguments, and the choices marked in its PPD.
+// A driver that prints nothing and writes down what it was told: arguments, environment, and the choices marked in
+// its PPD.
 // Runs under the test's own CUPS server, as any filter does.
 #include "Printing/ppd_api.h"
 
@@ -39,6 +40,9 @@ int main(int argc, char *argv[])
     {
         std::ofstream out(path + ".part");
         out << "title " << argv[3] << "\ncopies " << argv[4] << "\noptions " << argv[5] << '\n';
+        for (const char *name : {"PRINTER", "DEVICE_URI", "CONTENT_TYPE", "FINAL_CONTENT_TYPE"})
+            if (const char *value = std::getenv(name))
+                out << name << ' ' << value << '\n';
         recordMarks(out, argv[5]);
         std::ifstream file;
         if (argc > 6)

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <grp.h>
 #include <net/if.h>
+#include <pwd.h>
 #include <sched.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
@@ -25,11 +26,11 @@ namespace {
 constexpr int kMilliseconds = 20000;
 constexpr auto kSystemBin = "/usr/lib/cups";
 
-/// A network that no other program is in. Where the system does not let us, the port is proved to be our own instead.
+/// A network that no other program is in. That takes a privilege; without it the port is proved to be our own instead.
 void leaveForOwnNetwork()
 {
     static bool done = false;
-    if (std::exchange(done, true) || ::unshare(::geteuid() == 0 ? CLONE_NEWNET : CLONE_NEWUSER | CLONE_NEWNET) != 0)
+    if (std::exchange(done, true) || ::unshare(CLONE_NEWNET) != 0)
         return;
     const int fd = ::socket(AF_INET, SOCK_DGRAM, 0);
     ifreq loopback{};
@@ -102,7 +103,8 @@ QByteArray filesConfiguration(const QString &folder)
                            "%1/log/error\nPageLog %1/log/page\nFileDevice Yes\nSandboxing relaxed\nServerKeychain "
                            "%1/etc/ssl\nSetEnv QN_RECORD_DIR %1/rec\nSystemGroup root\n")
                        .arg(folder);
-    text += root ? "User lp\nGroup lp\n" : QString("User %1\n").arg(qEnvironmentVariable("USER", "nobody"));
+    const passwd *const self = ::getpwuid(::geteuid());
+    text += root ? "User lp\nGroup lp\n" : QString("User %1\n").arg(self ? self->pw_name : "nobody");
     return text.toUtf8();
 }
 

@@ -47,8 +47,8 @@ public:
     /// Runs a program in the environment; its exit status, -1 when it could not be run or did not end.
     int run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr) const;
 
-    /// What the driver wrote down of a job: "title", "copies", "options", "size", marks under their keyword, parameters
-    /// under "parameter NAME". Waits for it; empty when it does not come.
+    /// What the driver wrote down of a job: "title", "copies", "options", "size", what is in its environment under the
+    /// name, marks under their keyword, parameters under "parameter NAME". Waits for it; empty when it does not come.
     QMap<QString, QString> record(int job) const;
     int recordCount() const;
     /// Documents that wait in the spool.
