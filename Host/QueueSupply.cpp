@@ -21,18 +21,14 @@ QueueSupply::QueueSupply(CommandLine line, DialogWindow &window)
     , m_wanted(QueueName::fromText(m_line.queue))
 {
     connect(&window, &DialogWindow::printerChosen, this, [this](const QString &name) { fetch({name, {}}); });
-    connect(&window, &DialogWindow::retryWanted, this, &QueueSupply::start);
+    connect(&window, &DialogWindow::retryWanted, this, [this] { fetch(m_wanted); });
     // What was chosen is kept, as far as the printer still has it.
     connect(&window, &DialogWindow::printerOutdated, this, [this] {
         fetch({m_shown, {}}, m_window.printer().jobOptions());
     });
-    start();
-}
-
-void QueueSupply::start()
-{
+    if (!m_wanted.queue.isEmpty())
+        m_window.showPrinterName(m_wanted.queue);
     fetch(m_wanted);
-    findNames();
 }
 
 void QueueSupply::fetch(const QueueName &name, const OptionValues &carried)
@@ -64,15 +60,23 @@ void QueueSupply::use(const Fetched &fetched, const OptionValues &carried)
     ++m_turn; // what comes later is late
     QString error = fetched.error;
     auto printer = fetched.queue ? printerOfQueue(m_line, *fetched.queue, carried, &error) : std::nullopt;
-    if (!printer)
-        return m_window.offerRetry(error);
-    m_shown = printer->name;
+    if (printer)
+        show(*std::move(printer));
+    else
+        m_window.offerRetry(error);
+    if (printer && !carried.isEmpty())
+        m_window.say(tr("The printer's description has changed on the server. Please look over the settings."));
+    if (!m_hasNames) // only now: a server is busy with many queues for a while, and nobody shall wait for that
+        findNames();
+}
+
+void QueueSupply::show(Printer printer)
+{
+    m_shown = printer.name;
     if (!m_names.contains(m_shown))
         m_names.append(m_shown);
     m_window.offerPrinters(m_names, m_shown);
-    m_window.usePrinter(*std::move(printer));
-    if (!carried.isEmpty())
-        m_window.say(tr("The printer's description has changed on the server. Please look over the settings."));
+    m_window.usePrinter(std::move(printer));
 }
 
 void QueueSupply::findNames()
@@ -92,6 +96,7 @@ void QueueSupply::offer(const Names &found)
 {
     if (!found.names)
         return;
+    m_hasNames = true;
     m_names = found.names->names;
     const QString wanted = m_wanted.queue.isEmpty() ? found.names->standard : m_wanted.queue;
     m_window.offerPrinters(m_names, m_shown.isEmpty() ? wanted : m_shown);

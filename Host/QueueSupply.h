@@ -10,6 +10,7 @@
 namespace host {
 
 class DialogWindow;
+struct Printer;
 
 class QueueSupply : public QObject
 {
@@ -31,9 +32,9 @@ private:
         QString error;
     };
 
-    void start();
     void fetch(const QueueName &name, const OptionValues &carried = {});
     void use(const Fetched &fetched, const OptionValues &carried);
+    void show(Printer printer);
     void findNames();
     void offer(const Names &found);
 
@@ -41,7 +42,8 @@ private:
     DialogWindow &m_window;
     QueueName m_wanted;
     QStringList m_names;
-    QString m_shown; // the queue in the window; empty before there is one
+    bool m_hasNames = false; // all of them
+    QString m_shown;         // the queue in the window; empty before there is one
     bool m_isWaiting = false;
     int m_turn = 0; // of fetching: only the last one counts
 };
