@@ -1,21 +1,15 @@
 // The window under a person's hands.
-#include "DialogWindow.h"
-
 #include "Foundation/Locale.h"
 #include "Foundation/UserDefaults.h"
 #include "PPDText.h"
-#include "PaperChooser.h"
-#include "Print.h"
 #include "SummaryView.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/Controls.h"
+#include "WindowTest.h"
 
-#include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTabBar>
@@ -31,7 +25,7 @@ using namespace host;
 
 namespace {
 
-class Window : public testing::Test
+class Window : public support::WindowTest
 {
 protected:
     void SetUp() override
@@ -66,18 +60,6 @@ protected:
         m_window.reset();
         toolkit::Alert::setPresenter({});
     }
-    template <class Widget>
-    Widget *find(const QString &name = {})
-    {
-        return m_window->findChild<Widget *>(name);
-    }
-    QPushButton *button(const QString &text)
-    {
-        for (auto *each : m_window->findChildren<QPushButton *>())
-            if (each->text() == text)
-                return each;
-        return nullptr;
-    }
     QStringList summary() const
     {
         QStringList rows;
@@ -87,18 +69,10 @@ protected:
                 rows.append(view->topLevelItem(i)->child(j)->text(0) + '=' + view->topLevelItem(i)->child(j)->text(1));
         return rows;
     }
-    void choosePaper(const QString &name)
-    {
-        auto *const papers = find<PaperChooser>()->menu();
-        papers->setCurrentIndex(papers->findData(name));
-        Q_EMIT papers->activated(papers->currentIndex());
-        QApplication::processEvents();
-    }
 
     QTemporaryDir m_directory;
     QString m_out = m_directory.filePath("out");
     QStringList m_alerts;
-    std::unique_ptr<DialogWindow> m_window;
     DialogSession *m_session = nullptr;
 };
 

@@ -1,23 +1,18 @@
 // The window on queues of a real CUPS server, also when that server fails at the worst moment.
 #include "CupsServer.h"
-#include "DialogWindow.h"
 #include "Foundation/Locale.h"
 #include "Foundation/UserDefaults.h"
-#include "PaperChooser.h"
-#include "Print.h"
 #include "QueueSupply.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/Controls.h"
+#include "WindowTest.h"
 
-#include <QApplication>
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -35,7 +30,7 @@ namespace {
 constexpr auto kTicket = QN_SOURCE_DIR "/examples/documents/ticket.pdf";
 constexpr int kMilliseconds = 40000;
 
-class QueueWindow : public testing::Test
+class QueueWindow : public support::WindowTest
 {
 protected:
     void SetUp() override
@@ -84,18 +79,6 @@ protected:
     {
         return waitFor([&] { return message().contains(part); });
     }
-    template <class Widget>
-    Widget *find(const QString &name = {})
-    {
-        return m_window->findChild<Widget *>(name);
-    }
-    QPushButton *button(const QString &text)
-    {
-        for (auto *each : m_window->findChildren<QPushButton *>())
-            if (each->text() == text)
-                return each;
-        return nullptr;
-    }
     /// The sentence under the panel.
     QString message() const
     {
@@ -123,13 +106,6 @@ protected:
         box.setCurrentText(text);
         ASSERT_EQ(box.currentText(), text);
         Q_EMIT box.activated(box.currentIndex());
-        QApplication::processEvents();
-    }
-    void choosePaper(const QString &name)
-    {
-        auto *const papers = find<PaperChooser>()->menu();
-        papers->setCurrentIndex(papers->findData(name));
-        Q_EMIT papers->activated(papers->currentIndex());
         QApplication::processEvents();
     }
     /// Down from the item that is chosen, as a person does it.
@@ -168,7 +144,6 @@ protected:
 
     CupsServer m_server;
     QStringList m_alerts;
-    std::unique_ptr<DialogWindow> m_window;
 };
 
 TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
