@@ -158,10 +158,13 @@ void DialogWindow::offerPrinters(const QStringList &names, const QString &chosen
 
 void DialogWindow::usePrinter(Printer printer)
 {
+    // What a person has written stays when the printer is another.
+    if (m_copies->value() == m_printer.copies)
+        m_copies->setValue(printer.copies);
+    if (m_pages->text() == m_printer.pages)
+        m_pages->setText(printer.pages);
     m_printer.session.reset(); // two sessions must not be alive at once
     m_printer = std::move(printer);
-    m_copies->setValue(m_printer.copies);
-    m_pages->setText(m_printer.pages);
     m_form->setRowVisible(kPaperRow, true); // every part of it, so before the chooser hides some
     QStringList sentences;
     if (!m_printer.note.isEmpty())

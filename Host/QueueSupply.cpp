@@ -6,6 +6,8 @@
 
 #include <QTimer>
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -77,6 +79,9 @@ void QueueSupply::show(Printer printer)
         m_names.append(m_shown);
     m_window.offerPrinters(m_names, m_shown);
     m_window.usePrinter(std::move(printer));
+    const QString panel = std::exchange(m_line.panel, {}); // to show first, and not after every change of the printer
+    if (!panel.isEmpty() && !m_window.showPanel(panel))
+        m_window.say(tr("There is no panel “%1”.").arg(panel));
 }
 
 void QueueSupply::findNames()

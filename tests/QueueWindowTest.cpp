@@ -156,11 +156,15 @@ TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
     ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled() && field("P&rinter:")->count() == 2; }));
     EXPECT_EQ(message(), "");
     EXPECT_EQ(field("P&rinter:")->currentText(), "counter");
+    find<QSpinBox>()->setValue(4);
     choose(*field("P&rinter:"), "second");
     ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
     EXPECT_EQ(m_window->printer().name, "second");
     EXPECT_TRUE(print());
-    EXPECT_EQ(m_server.record(1)["QnPaperSizeType"], "QnCutSize");
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["PRINTER"], "second");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnCutSize");
+    EXPECT_EQ(job["copies"], "4"); // written before the printer was changed
 }
 
 TEST_F(QueueWindow, PrintsWhatWasChosenInIt)

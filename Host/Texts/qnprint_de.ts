@@ -203,6 +203,10 @@
         <source>The printer's description has changed on the server. Please look over the settings.</source>
         <translation>Die Beschreibung des Druckers hat sich auf dem Server geändert. Bitte sehen Sie die Einstellungen durch.</translation>
     </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>Es gibt keine Seite „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>host::SavedOptions</name>

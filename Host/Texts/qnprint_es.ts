@@ -203,6 +203,10 @@
         <source>The printer's description has changed on the server. Please look over the settings.</source>
         <translation>La descripción de la impresora ha cambiado en el servidor. Revise los ajustes.</translation>
     </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>No hay ningún panel «%1».</translation>
+    </message>
 </context>
 <context>
     <name>host::SavedOptions</name>

@@ -203,6 +203,10 @@
         <source>The printer's description has changed on the server. Please look over the settings.</source>
         <translation>La description de l’imprimante a changé sur le serveur. Veuillez revoir les réglages.</translation>
     </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>Il n’y a pas de volet « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>host::SavedOptions</name>

@@ -203,6 +203,10 @@
         <source>The printer's description has changed on the server. Please look over the settings.</source>
         <translation>サーバー上のプリンターの記述が変わりました。設定を確かめてください。</translation>
     </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>「%1」というパネルはありません。</translation>
+    </message>
 </context>
 <context>
     <name>host::SavedOptions</name>

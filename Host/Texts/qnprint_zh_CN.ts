@@ -203,6 +203,10 @@
         <source>The printer's description has changed on the server. Please look over the settings.</source>
         <translation>服务器上的打印机描述已更改。请检查设置。</translation>
     </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>没有面板“%1”。</translation>
+    </message>
 </context>
 <context>
     <name>host::SavedOptions</name>
