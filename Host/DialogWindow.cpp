@@ -153,7 +153,7 @@ void DialogWindow::offerPrinters(const QStringList &names, const QString &chosen
 {
     m_printers->clear();
     m_printers->addItems(names);
-    m_printers->setCurrentText(chosen);
+    m_printers->setCurrentIndex(m_printers->findText(chosen)); // none rather than one that is not meant
 }
 
 void DialogWindow::usePrinter(Printer printer)

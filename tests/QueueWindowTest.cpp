@@ -103,7 +103,7 @@ protected:
     }
     static void choose(QComboBox &box, const QString &text)
     {
-        box.setCurrentText(text);
+        box.setCurrentIndex(box.findText(text));
         ASSERT_EQ(box.currentText(), text);
         Q_EMIT box.activated(box.currentIndex());
         QApplication::processEvents();
@@ -165,6 +165,17 @@ TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
     EXPECT_EQ(job["PRINTER"], "second");
     EXPECT_EQ(job["QnPaperSizeType"], "QnCutSize");
     EXPECT_EQ(job["copies"], "4"); // written before the printer was changed
+}
+
+TEST_F(QueueWindow, OffersThePrintersWithoutChoosingOneWhenThereIsNoDefault)
+{
+    open("");
+    ASSERT_TRUE(waitForMessage("there is no default queue"));
+    ASSERT_TRUE(waitFor([this] { return field("P&rinter:")->count() == 1; }));
+    EXPECT_EQ(field("P&rinter:")->currentIndex(), -1);
+    EXPECT_FALSE(button("&Print")->isEnabled());
+    choose(*field("P&rinter:"), "counter");
+    EXPECT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
 }
 
 TEST_F(QueueWindow, PrintsWhatWasChosenInIt)

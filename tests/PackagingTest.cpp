@@ -1,0 +1,62 @@
+// What a file manager is told of us.
+#include "Document.h"
+
+#include "Print.h"
+
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QString entry(const QString &key)
+{
+    QFile file(QN_SOURCE_DIR "/packaging/org.qnprint.qnprint.desktop");
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    for (const QByteArray &line : file.readAll().split('\n'))
+        if (line.startsWith(key.toUtf8() + '='))
+            return QString::fromUtf8(line.mid(key.toUtf8().size() + 1));
+    return {};
+}
+
+struct Sample
+{
+    const char *type;
+    QByteArray content;
+};
+
+class OfferedTypes : public testing::TestWithParam<Sample>
+{};
+
+TEST_P(OfferedTypes, AreTypesThatArePrinted)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("document"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(GetParam().content) > 0);
+    file.close();
+    QString error;
+    const auto document = host::Document::open(file.fileName(), &error);
+    ASSERT_TRUE(document) << error.toStdString();
+    EXPECT_EQ(document->format(), GetParam().type);
+    EXPECT_TRUE(entry("MimeType").split(';').contains(GetParam().type));
+}
+
+const std::array kSamples{Sample{"application/pdf", "%PDF-1.4 ..."},
+                          Sample{"image/png", "\x89PNG..."},
+                          Sample{"image/jpeg", "\xff\xd8\xff..."},
+                          Sample{"image/gif", "GIF89a..."},
+                          Sample{"image/tiff", "II*..."},
+                          Sample{"text/plain", "words"}};
+
+INSTANTIATE_TEST_SUITE_P(Of, OfferedTypes, testing::ValuesIn(kSamples));
+
+TEST(DesktopEntry, OffersNoOtherTypeAndTakesAFileNameForNothingElse)
+{
+    EXPECT_EQ(entry("MimeType").split(';', Qt::SkipEmptyParts).size(), static_cast<qsizetype>(kSamples.size()));
+    EXPECT_EQ(entry("Exec"), "qnprint -- %f"); // whatever a name begins with, it is a name
+    EXPECT_TRUE(QFile::exists(QString(QN_SOURCE_DIR "/packaging/%1.svg").arg(entry("Icon"))));
+}
+
+} // namespace
