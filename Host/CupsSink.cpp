@@ -57,17 +57,42 @@ bool cancelJob(cups_dest_t *destination, int id)
     return server && cupsCancelDestJob(server.get(), destination, id) <= IPP_STATUS_OK_CONFLICTING;
 }
 
+/// What became of a job on the server.
+struct Sent
+{
+    int id = 0;                    // 0: there was none
+    std::optional<QString> reason; // why it did not go; nil: it did
+    bool mayBeLeft = false;
+};
+
+Sent send(ServerConnection &server, cups_dest_t *destination, const Job &job, const JobProgress &progress)
+{
+    const CupsDestinationInfo info(cupsCopyDestInfo(server.get(), destination));
+    Options options;
+    fill(options, job);
+    Sent sent;
+    if (!info || cupsCreateDestJob(server.get(), destination, info.get(), &sent.id, job.title.toUtf8().constData(),
+                                   options.count, options.list) > IPP_STATUS_OK_CONFLICTING) {
+        sent.reason = server.problem();
+        return sent;
+    }
+    sent.reason = sendDocument(server, destination, info.get(), sent.id, job, progress);
+    sent.mayBeLeft = sent.reason && !cancelJob(destination, sent.id);
+    return sent;
+}
+
 } // namespace
 
 JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
 {
     qint64 done = 0;
-    const auto failed = [&](const QString &reason) {
-        const bool wanted = progress(done, job.document.size());
-        return Result{false, m_queue + ": " + (wanted ? reason : JobSink::tr("stopped"))};
-    };
     const JobProgress noting = [&](qint64 now, qint64 total) { return progress(done = now, total); };
-    ServerConnection server([&] { return progress(done, job.document.size()); }, kSecondsOfSilence);
+    const auto isWanted = [&] { return progress(done, job.document.size()); };
+    const auto failed = [&](const QString &reason) {
+        return Result{false, m_queue + ": " + (isWanted() ? reason : JobSink::tr("stopped"))};
+    };
+
+    ServerConnection server(isWanted, kSecondsOfSilence);
     if (!server)
         return failed(server.problem());
     const CupsDestination destination(cupsGetNamedDest(server.get(), m_queue.toUtf8().constData(), nullptr));
@@ -77,25 +102,15 @@ JobSink::Result CupsSink::submit(const Job &job, const JobProgress &progress)
         return {false,
                 JobSink::tr("%1: the printer's description has changed meanwhile; nothing was printed").arg(m_queue),
                 true};
-    const CupsDestinationInfo info(cupsCopyDestInfo(server.get(), destination.get()));
-    if (!info)
-        return failed(server.problem());
 
-    Options options;
-    fill(options, job);
-    int id = 0;
-    if (cupsCreateDestJob(server.get(), destination.get(), info.get(), &id, job.title.toUtf8().constData(),
-                          options.count, options.list) > IPP_STATUS_OK_CONFLICTING)
-        return failed(server.problem());
-    const auto reason = sendDocument(server, destination.get(), info.get(), id, job, noting);
-    if (!reason)
-        return {true, QString("%1-%2").arg(m_queue).arg(id)};
-    if (cancelJob(destination.get(), id))
-        return failed(*reason);
-    auto result = failed(*reason);
-    result.sentence = JobSink::tr("%1; job %2-%3 may still be there, so look before you print again")
-                          .arg(result.sentence, m_queue)
-                          .arg(id);
+    const Sent sent = send(server, destination.get(), job, noting);
+    if (!sent.reason)
+        return {true, QString("%1-%2").arg(m_queue).arg(sent.id)};
+    Result result = failed(*sent.reason);
+    if (sent.mayBeLeft)
+        result.sentence = JobSink::tr("%1; job %2-%3 may still be there, so look before you print again")
+                              .arg(result.sentence, m_queue)
+                              .arg(sent.id);
     return result;
 }
 

@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-constexpr int kMillisecondsToLock = 5000;
+constexpr int kMillisecondsToLock = 2000;
 constexpr qsizetype kLongestName = 127;
 
 struct Line
