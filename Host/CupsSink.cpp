@@ -38,7 +38,7 @@ std::optional<QString> sendDocument(ServerConnection &server, cups_dest_t *desti
     if (cupsStartDestDocument(server.get(), destination, info, id, job.title.toUtf8().constData(),
                               job.document.format().constData(), 0, nullptr, 1) != HTTP_STATUS_CONTINUE)
         return server.problem();
-    const auto reason = passOn(job.document, progress, [&](const QByteArray &part) {
+    auto reason = passOn(job.document, progress, [&](const QByteArray &part) {
         const auto status = cupsWriteRequestData(server.get(), part.constData(), static_cast<std::size_t>(part.size()));
         server.heard();
         return status == HTTP_STATUS_CONTINUE ? std::nullopt : std::optional(server.problem());

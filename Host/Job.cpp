@@ -50,7 +50,7 @@ std::optional<QString> passOn(Document &document, const JobProgress &progress,
             return JobSink::tr("%1: can't be read any more").arg(document.title());
         if (part->isEmpty())
             return std::nullopt;
-        if (const auto reason = write(*part))
+        if (auto reason = write(*part))
             return reason;
         done += part->size();
         if (!progress(done, document.size()))

@@ -62,12 +62,13 @@ void QueueSupply::use(const Fetched &fetched, const OptionValues &carried)
     ++m_turn; // what comes later is late
     QString error = fetched.error;
     auto printer = fetched.queue ? printerOfQueue(m_line, *fetched.queue, carried, &error) : std::nullopt;
-    if (printer)
-        show(*std::move(printer));
-    else
+    if (!printer) {
         m_window.offerRetry(error);
-    if (printer && !carried.isEmpty())
-        m_window.say(tr("The printer's description has changed on the server. Please look over the settings."));
+    } else {
+        show(*std::move(printer));
+        if (!carried.isEmpty())
+            m_window.say(tr("The printer's description has changed on the server. Please look over the settings."));
+    }
     if (!m_hasNames) // only now: a server is busy with many queues for a while, and nobody shall wait for that
         findNames();
 }
