@@ -325,10 +325,14 @@ void DialogWindow::restorePreset(const QString &preset)
 {
     if (!m_printer.session || !m_printer.saved)
         return;
-    const OptionValues values = m_printer.saved->options(preset);
+    const OptionValues values = inWordsOfPPDs(m_printer.saved->options(preset));
     m_printer.preset = preset;
     m_printer.session->restore(values);
-    m_printer.generalOptions = m_printer.session->ppd().generalAmong(values);
+    m_printer.setGeneralOptions(m_printer.session->ppd().generalAmong(values));
+    if (values.contains("copies"))
+        m_copies->setValue(m_printer.copies);
+    if (values.contains("page-ranges"))
+        m_pages->setText(m_printer.pages);
     m_paper->offer(*m_printer.session);
     m_remove->setEnabled(!preset.isEmpty());
     settleSoon();
@@ -337,7 +341,8 @@ void DialogWindow::restorePreset(const QString &preset)
 void DialogWindow::save(const QString &preset)
 {
     const SavedOptions &saved = *m_printer.saved;
-    OptionValues options = m_printer.session->ppd().generalAmong(saved.options(preset)); // not ours to drop
+    OptionValues options =
+        m_printer.session->ppd().generalAmong(inWordsOfPPDs(saved.options(preset))); // not ours to drop
     options.insert(m_printer.generalOptions);
     options.insert(m_printer.session->settings(saved.options()));
     if (const auto problem = saved.save(preset, options))
@@ -373,7 +378,7 @@ void DialogWindow::removePreset()
 
 std::optional<QString> DialogWindow::chosenPages()
 {
-    const auto pages = readPageRanges(m_pages->text());
+    auto pages = readPageRanges(m_pages->text());
     if (pages)
         return pages;
     say(tr("“%1” are no pages. Write single pages and ranges, such as 1-3,5.").arg(m_pages->text()));

@@ -21,7 +21,6 @@ constexpr auto kCustom = "Custom";
 constexpr auto kCustomPrefix = "Custom.";
 constexpr auto kPageSize = "PageSize";
 constexpr auto kPageRegion = "PageRegion";
-constexpr auto kMedia = "media";
 
 QString text(const char *bytes) { return QString::fromUtf8(bytes); }
 
@@ -174,19 +173,11 @@ std::optional<QString> PPDDocument::savedMark(const ppd_option_t &option, const 
     return canMark(option, bare, &markAs) ? std::optional(markAs) : std::nullopt;
 }
 
-/// A value as saved options and command lines give it. They may name the paper as programs do that know no PPD.
-std::optional<QString> PPDDocument::savedMark(const QString &keyword, const QString &value) const
-{
-    const bool isMedia = keyword == kMedia && !findOption(keyword);
-    const ppd_option_t *const option = findOption(isMedia ? QString(kPageSize) : keyword);
-    return option ? savedMark(*option, isMedia ? value.section(',', 0, 0) : value) : std::nullopt;
-}
-
 void PPDDocument::adoptDefaults(const OptionValues &values)
 {
     for (const auto &[keyword, value] : values.asKeyValueRange()) {
-        ppd_option_t *const option = findOption(keyword == kMedia ? QString(kPageSize) : keyword);
-        const auto markAs = savedMark(keyword, value);
+        ppd_option_t *const option = findOption(keyword);
+        const auto markAs = option ? savedMark(*option, value) : std::nullopt;
         if (!markAs)
             continue;
         const QByteArray choice = markAs->startsWith(kCustomPrefix) ? QByteArray(kCustom) : markAs->toUtf8();
@@ -198,7 +189,8 @@ void PPDDocument::adoptDefaults(const OptionValues &values)
 
 bool PPDDocument::canTake(const QString &keyword, const QString &value) const
 {
-    return savedMark(keyword, value).has_value();
+    const ppd_option_t *const option = findOption(keyword);
+    return option && savedMark(*option, value);
 }
 
 PPDDocument::Changes PPDDocument::restore(const OptionValues &values)
@@ -351,7 +343,7 @@ OptionValues PPDDocument::generalAmong(const OptionValues &options) const
 {
     OptionValues result;
     for (const auto &[keyword, value] : options.asKeyValueRange())
-        if (keyword != kMedia && !findOption(keyword))
+        if (!findOption(keyword))
             result.insert(keyword, value);
     return result;
 }

@@ -54,8 +54,7 @@ public:
     /// passed over: saved options outlive the PPD that they were saved for.
     void adoptDefaults(const OptionValues &values);
 
-    /// Whether an option of the PPD can have a value as saved options and command lines give it; "media" stands for the
-    /// page size there.
+    /// Whether an option of the PPD can have a value as saved options and command lines give it.
     bool canTake(const QString &keyword, const QString &value) const;
 
     /// Marks, for each option, the value given or else its declared default; values that the PPD lacks are passed over.
@@ -103,7 +102,6 @@ private:
     explicit PPDDocument(printing::PPDFile file);
 
     ppd_option_t *findOption(const QString &keyword) const;
-    std::optional<QString> savedMark(const QString &keyword, const QString &value) const;
     std::optional<QString> savedMark(const ppd_option_t &option, const QString &value) const;
     bool canMark(const ppd_option_t &option, const QString &choice, QString *markAs) const;
     Changes apply(ppd_option_t &option, const QString &markAs);

@@ -11,22 +11,12 @@ namespace {
 constexpr auto kPageSize = "PageSize";
 constexpr auto kMedia = "media"; // the same, in the words of programs that know no PPD
 
-/// What is asked for later counts for more, the paper under either of its names.
-void insertLater(OptionValues &options, const OptionValues &later)
-{
-    if (later.contains(kPageSize) || later.contains(kMedia)) {
-        options.remove(kPageSize);
-        options.remove(kMedia);
-    }
-    options.insert(later);
-}
-
 /// What is asked for on the command line must be had, or the job would be another than the one asked for.
 bool canBeHad(const OptionValues &asked, const PPDDocument &ppd, QString *error)
 {
     for (const auto &[keyword, value] : asked.asKeyValueRange()) {
-        const bool isOfPPD = keyword == kMedia || ppd.hasOption(keyword);
-        if (isOfPPD && !ppd.canTake(keyword, value)) {
+        const OptionValues meant = inWordsOfPPDs({{keyword, value}});
+        if (ppd.hasOption(meant.firstKey()) && !ppd.canTake(meant.firstKey(), meant.first())) {
             *error = QString("-o %1=%2: the printer has no such choice").arg(keyword, value);
             return false;
         }
@@ -38,24 +28,42 @@ bool canBeHad(const OptionValues &asked, const PPDDocument &ppd, QString *error)
 bool addSession(Printer &printer, const CommandLine &line, DialogSession::Parameters parameters, QString *error)
 {
     parameters.localization = line.language;
-    insertLater(parameters.defaults, line.options);
+    parameters.defaults = inWordsOfPPDs(parameters.defaults);
+    parameters.defaults.insert(inWordsOfPPDs(line.options));
     printer.session = DialogSession::open(parameters, error);
     if (!printer.session || !canBeHad(line.options, printer.session->ppd(), error))
         return false;
-    printer.generalOptions = printer.session->ppd().generalAmong(parameters.defaults);
+    printer.setGeneralOptions(printer.session->ppd().generalAmong(parameters.defaults));
     return true;
 }
 
-/// Copies and pages have places of their own. What is no number of copies or no pages is passed over, as other saved
-/// options are that nothing fits any more.
+/// The command line counts for more than what is saved.
 void takeCopiesAndPages(Printer &printer, const CommandLine &line)
 {
-    printer.copies = line.copies.value_or(readCopies(printer.generalOptions.take("copies")).value_or(1));
-    const QString saved = readPageRanges(printer.generalOptions.take("page-ranges")).value_or(QString());
-    printer.pages = line.pages.isEmpty() ? saved : line.pages;
+    printer.copies = line.copies.value_or(printer.copies);
+    if (!line.pages.isEmpty())
+        printer.pages = line.pages;
 }
 
 } // namespace
+
+OptionValues inWordsOfPPDs(OptionValues options)
+{
+    if (const auto paper = options.constFind(kMedia); paper != options.cend()) {
+        const QString name = paper->section(',', 0, 0); // tray and kind may follow
+        options.remove(kMedia);
+        if (!options.contains(kPageSize))
+            options.insert(kPageSize, name);
+    }
+    return options;
+}
+
+void Printer::setGeneralOptions(OptionValues options)
+{
+    copies = readCopies(options.take("copies")).value_or(1);
+    pages = readPageRanges(options.take("page-ranges")).value_or(QString());
+    generalOptions = std::move(options);
+}
 
 OptionValues Printer::jobOptions() const
 {
@@ -88,7 +96,7 @@ std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queu
     printer.papers = queue.papers;
     const SavedOptions saved(queue.name);
     OptionValues defaults = saved.options(queue.preset);
-    insertLater(defaults, carried);
+    defaults.insert(carried);
     if (queue.ppd) {
         DialogSession::Parameters parameters;
         parameters.ppdPath = queue.ppd->path;
@@ -100,8 +108,8 @@ std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queu
         }
         printer.saved = saved;
     } else {
-        printer.generalOptions = defaults;
-        printer.generalOptions.insert(line.options);
+        defaults.insert(line.options);
+        printer.setGeneralOptions(defaults);
     }
     takeCopiesAndPages(printer, line);
     printer.sink = std::make_unique<CupsSink>(queue.name, queue.ppd);

@@ -25,9 +25,17 @@ struct Printer
     QString preset;                    // whose options are the session's defaults; empty: the user's own
     QString note;                      // one sentence on what to expect of the printer now; mostly empty
 
+    /// Takes options that the PPD does not know. Copies and pages have places of their own; what is no number of copies
+    /// or no pages is passed over, as other saved options are that nothing fits any more.
+    void setGeneralOptions(OptionValues options);
+
     /// What a job has to say, after the session has agreed to it.
     OptionValues jobOptions() const;
 };
+
+/// Options for a printer with a PPD: programs that know no PPD ask for the paper as "media", which there is the page
+/// size.
+OptionValues inWordsOfPPDs(OptionValues options);
 
 /// The printer that a PPD file describes, with a folder in place of a queue. Nil, with one sentence, when there can be
 /// none: the file is no PPD, no plug-in loads, or the command line asks for a choice that the PPD lacks.

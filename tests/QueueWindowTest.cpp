@@ -327,6 +327,23 @@ TEST_F(QueueWindow, TellsWhatOfAPresetThePanelsDecideAnew)
     EXPECT_EQ(m_window->printer().session->ppd().marked()["QnPaperFeed"], "Custom.1.02362");
 }
 
+TEST_F(QueueWindow, TakesCopiesAndPagesOfAPresetIntoTheirFields)
+{
+    ASSERT_EQ(m_server.run("lpoptions",
+                           {"-p", "counter/three", "-o", "copies=3", "-o", "page-ranges=1-2", "-o", "number-up=2"}),
+              0);
+    openAndWait();
+    choose(*field("Pre&set:"), "three");
+    EXPECT_EQ(find<QSpinBox>()->value(), 3);
+    find<QSpinBox>()->setValue(2);
+    ASSERT_TRUE(print()) << message().toStdString();
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["copies"], "2");
+    const QStringList options = job["options"].split(' ');
+    EXPECT_EQ(options.filter("page-ranges"), QStringList("page-ranges=1-2"));
+    EXPECT_TRUE(options.contains("number-up=2"));
+}
+
 TEST_F(QueueWindow, RefusesANameThatOtherProgramsCouldNotRead)
 {
     openAndWait();
