@@ -184,6 +184,22 @@ TEST_F(Saved, StayAsTheyWereWhenThereIsNoRoomForMore)
     EXPECT_EQ(content(), before);
 }
 
+TEST_F(Saved, SurviveWhateverTheFileHolds)
+{
+    const QByteArray odd =
+        "Dest\nDest \nDest /x a=b\nDest counter/ a=b\ndefault\n\n   \nDest counter {a={b\nDest counter "
+        "a=\"b\nDest counter =\nDest counter \\\nDest counter/\xff\xfe a=\xff\n" +
+        QByteArray("Dest counter a=\0b", 17) + "\nDest counter/long " + QByteArray(100000, 'x') + "\n" +
+        QByteArray(100000, '{');
+    write(".cups/lpoptions", odd);
+    EXPECT_FALSE(m_saved.presets().isEmpty());
+    m_saved.options();
+    for (const QString &name : m_saved.presets())
+        m_saved.options(name);
+    EXPECT_EQ(m_saved.save("mine", {{"QnSpeed", "S1"}}), std::nullopt);
+    EXPECT_EQ(content(), odd + "\nDest counter/mine QnSpeed=S1\n"); // what is not understood is kept all the same
+}
+
 TEST_F(Saved, AreNotWrittenOverAFileThatCannotBeRead)
 {
     QDir(m_home.path()).mkpath(".cups/lpoptions"); // a folder in its place
