@@ -27,7 +27,7 @@ namespace {
 
 constexpr int kPanelWidth = 520;
 constexpr int kPanelHeight = 336;
-constexpr int kSummaryWidth = 320;
+constexpr int kSummaryWidth = 392; // the longest value in German
 constexpr int kPresetRow = 1;
 constexpr int kPaperRow = 2;
 constexpr int kCopiesRow = 3;
