@@ -138,7 +138,6 @@ TEST_F(OnScreen, SwitchesToAnotherPrinterByKeysAndClosesWithEscape)
 {
     m_screen.press("alt+r");
     m_screen.press("Down");
-    m_screen.press("Return");
     ASSERT_TRUE(m_screen.waitFor("qnprint",
                                  [](const Seen &each) { return each.label == "Printer:" && each.name == "office"; }));
     ASSERT_TRUE(wait("push button", "Print"));
