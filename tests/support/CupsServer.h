@@ -2,8 +2,9 @@
 // lets us, in a network of its own), ended with the test.
 #pragma once
 
+#include "Helper.h"
+
 #include <QMap>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <optional>
@@ -65,7 +66,7 @@ private:
     QByteArray serverConfiguration() const;
 
     QTemporaryDir m_folder{"/tmp/qncups-XXXXXX"};
-    QProcess m_server;
+    Helper m_server;
     Setup m_setup;
     int m_port = 0;
     pid_t m_pid = 0; // 0 before there is one, and after the end

@@ -2,7 +2,8 @@
 // accessibility bus, as assistive technology does, and used with keys and mouse clicks, as people do.
 #pragma once
 
-#include <QProcess>
+#include "Helper.h"
+
 #include <QRect>
 #include <QTemporaryDir>
 
@@ -53,9 +54,9 @@ private:
     std::optional<QString> startBus();
 
     QTemporaryDir m_folder{"/tmp/qnscreen-XXXXXX"};
-    QProcess m_display;
-    QProcess m_bus;
-    QProcess m_windowManager;
+    Helper m_display;
+    Helper m_bus;
+    Helper m_windowManager;
     QString m_displayName;
     QString m_busAddress;
 };
