@@ -64,7 +64,7 @@ CupsDestination findDestination(const ServerConnection &server, const QueueName 
 
 QueueName QueueName::fromText(const QString &text) { return {text.section('/', 0, 0), text.section('/', 1)}; }
 
-std::optional<QueueNames> queueNames(QString *error)
+std::optional<QueueNames> queueNames()
 {
     const ServerConnection server;
     cups_dest_t *destinations = nullptr;
@@ -78,10 +78,8 @@ std::optional<QueueNames> queueNames(QString *error)
             found.names.append(name);
     }
     cupsFreeDests(count, destinations);
-    if (count == 0 && (!server || cupsLastError() > IPP_STATUS_OK_CONFLICTING)) {
-        *error = server.problem();
+    if (count == 0 && (!server || cupsLastError() > IPP_STATUS_OK_CONFLICTING))
         return std::nullopt;
-    }
     found.names.sort(Qt::CaseInsensitive);
     return found;
 }

@@ -37,8 +37,8 @@ struct QueueNames
     QString standard; // the default queue; empty when there is none
 };
 
-/// Nil, with one sentence, when the server can't tell.
-std::optional<QueueNames> queueNames(QString *error);
+/// Nil when the server can't tell.
+std::optional<QueueNames> queueNames();
 
 /// Nil, with one sentence that names the queue, when it can't be had.
 std::optional<Queue> findQueue(const QueueName &name, QString *error);

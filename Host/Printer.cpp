@@ -25,11 +25,13 @@ bool canBeHad(const OptionValues &asked, const PPDDocument &ppd, QString *error)
 }
 
 /// Fills in what a PPD gives.
-bool addSession(Printer &printer, const CommandLine &line, DialogSession::Parameters parameters, QString *error)
+bool addSession(Printer &printer, const CommandLine &line, const OptionValues &carried,
+                DialogSession::Parameters parameters, QString *error)
 {
     parameters.localization = line.language;
     parameters.defaults = inWordsOfPPDs(parameters.defaults);
     parameters.defaults.insert(inWordsOfPPDs(line.options));
+    parameters.defaults.insert(carried);
     printer.session = DialogSession::open(parameters, error);
     if (!printer.session || !canBeHad(line.options, printer.session->ppd(), error))
         return false;
@@ -78,7 +80,7 @@ std::optional<Printer> printerOfPPD(const CommandLine &line, QString *error)
     Printer printer;
     DialogSession::Parameters parameters;
     parameters.ppdPath = line.ppd;
-    if (!addSession(printer, line, parameters, error))
+    if (!addSession(printer, line, {}, parameters, error))
         return std::nullopt;
     printer.name = printer.session->ppd().attribute("NickName").value_or(line.ppd);
     takeCopiesAndPages(printer, line);
@@ -96,13 +98,12 @@ std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queu
     printer.papers = queue.papers;
     const SavedOptions saved(queue.name);
     OptionValues defaults = saved.options(queue.preset);
-    defaults.insert(carried);
     if (queue.ppd) {
         DialogSession::Parameters parameters;
         parameters.ppdPath = queue.ppd->path;
         parameters.uri = queue.uri;
         parameters.defaults = defaults;
-        if (!addSession(printer, line, parameters, error)) {
+        if (!addSession(printer, line, carried, parameters, error)) {
             *error = queue.name + ": " + *error;
             return std::nullopt;
         }

@@ -40,7 +40,7 @@ OptionValues inWordsOfPPDs(OptionValues options);
 /// The printer that a PPD file describes, with a folder in place of a queue. Nil, with one sentence, when there can be
 /// none: the file is no PPD, no plug-in loads, or the command line asks for a choice that the PPD lacks.
 std::optional<Printer> printerOfPPD(const CommandLine &line, QString *error);
-/// `carried`: choices made before, which count for more than what is saved.
+/// `carried`: choices that a person has made before; they count for more than what is saved or asked for.
 std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queue, const OptionValues &carried,
                                       QString *error);
 

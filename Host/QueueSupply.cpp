@@ -26,7 +26,7 @@ QueueSupply::QueueSupply(CommandLine line, DialogWindow &window)
     connect(&window, &DialogWindow::retryWanted, this, [this] { fetch(m_wanted); });
     // What was chosen is kept, as far as the printer still has it.
     connect(&window, &DialogWindow::printerOutdated, this, [this] {
-        fetch({m_shown, {}}, m_window.printer().jobOptions());
+        fetch({m_shown, m_window.printer().preset}, m_window.printer().jobOptions());
     });
     if (!m_wanted.queue.isEmpty())
         m_window.showPrinterName(m_wanted.queue);
@@ -36,7 +36,6 @@ QueueSupply::QueueSupply(CommandLine line, DialogWindow &window)
 void QueueSupply::fetch(const QueueName &name, const OptionValues &carried)
 {
     m_wanted = name;
-    m_isWaiting = true;
     m_window.wait(tr("Looking for the printer…"));
     inBackground(
         *this,
@@ -51,14 +50,13 @@ void QueueSupply::fetch(const QueueName &name, const OptionValues &carried)
         });
     // Looking has an end of its own; should the library be held up all the same, the person is not.
     QTimer::singleShot(kMillisecondsToWait, this, [this, turn = m_turn] {
-        if (turn == m_turn && m_isWaiting)
+        if (turn == m_turn)
             use({std::nullopt, tr("The CUPS server does not answer.")}, {});
     });
 }
 
 void QueueSupply::use(const Fetched &fetched, const OptionValues &carried)
 {
-    m_isWaiting = false;
     ++m_turn; // what comes later is late
     QString error = fetched.error;
     auto printer = fetched.queue ? printerOfQueue(m_line, *fetched.queue, carried, &error) : std::nullopt;
@@ -88,23 +86,17 @@ void QueueSupply::show(Printer printer)
 void QueueSupply::findNames()
 {
     inBackground(
-        *this,
-        [] {
-            Names found;
-            found.names = queueNames(&found.error);
-            return found;
-        },
-        [this](const Names &found) { offer(found); });
+        *this, [] { return queueNames(); }, [this](const std::optional<QueueNames> &found) { offer(found); });
 }
 
 /// Without names the printer that was asked for may still come; when it does not, that is told.
-void QueueSupply::offer(const Names &found)
+void QueueSupply::offer(const std::optional<QueueNames> &found)
 {
-    if (!found.names)
+    if (!found)
         return;
     m_hasNames = true;
-    m_names = found.names->names;
-    const QString wanted = m_wanted.queue.isEmpty() ? found.names->standard : m_wanted.queue;
+    m_names = found->names;
+    const QString wanted = m_wanted.queue.isEmpty() ? found->standard : m_wanted.queue;
     m_window.offerPrinters(m_names, m_shown.isEmpty() ? wanted : m_shown);
 }
 

@@ -26,17 +26,12 @@ private:
         std::optional<Queue> queue;
         QString error;
     };
-    struct Names
-    {
-        std::optional<QueueNames> names;
-        QString error;
-    };
 
     void fetch(const QueueName &name, const OptionValues &carried = {});
     void use(const Fetched &fetched, const OptionValues &carried);
     void show(Printer printer);
     void findNames();
-    void offer(const Names &found);
+    void offer(const std::optional<QueueNames> &found);
 
     CommandLine m_line;
     DialogWindow &m_window;
@@ -44,8 +39,7 @@ private:
     QStringList m_names;
     bool m_hasNames = false; // all of them
     QString m_shown;         // the queue in the window; empty before there is one
-    bool m_isWaiting = false;
-    int m_turn = 0; // of fetching: only the last one counts
+    int m_turn = 0;          // of fetching: only the last one counts, and only once
 };
 
 } // namespace host

@@ -59,6 +59,7 @@ protected:
         CommandLine line;
         line.queue = queue;
         line.language = "en";
+        line.options = m_asked;
         m_window = std::make_unique<DialogWindow>(Document::open(file, &error));
         ASSERT_EQ(error, "");
         new QueueSupply(line, *m_window); // the window's
@@ -144,6 +145,7 @@ protected:
 
     CupsServer m_server;
     QStringList m_alerts;
+    OptionValues m_asked; // on the command line
 };
 
 TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
@@ -512,7 +514,9 @@ INSTANTIATE_TEST_SUITE_P(At, EndsOfTheServer,
 
 TEST_F(QueueWindow, DoesNotPrintByAPPDThatChangedMeanwhile)
 {
-    openAndWait();
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter/express", "-o", "QnSpeed=S1"}), 0);
+    m_asked = {{"QnMedia", "Thermal"}};
+    openAndWait("counter/express");
     moveDown("mMediaPopUp");
     QTest::qWait(2100); // the server tells changes by the second
     ASSERT_TRUE(
@@ -521,7 +525,9 @@ TEST_F(QueueWindow, DoesNotPrintByAPPDThatChangedMeanwhile)
     ASSERT_TRUE(waitForMessage("The printer's description has changed on the server. Please look over the settings."));
     EXPECT_EQ(m_server.openJobs(), "");
     EXPECT_EQ(m_server.recordCount(), 0);
-    EXPECT_EQ(marked("QnMedia"), "ThermalCopy"); // the person's own choice stays
+    EXPECT_EQ(marked("QnMedia"), "ThermalCopy"); // the person's own choice stays, also above the command line
+    EXPECT_EQ(marked("QnSpeed"), "S1");
+    EXPECT_EQ(field("Pre&set:")->currentText(), "express");
     ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
     EXPECT_TRUE(print());
     EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");
