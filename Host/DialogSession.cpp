@@ -262,8 +262,10 @@ QStringList DialogSession::takeRemarks()
     const OptionValues marked = m_ppd->marked();
     for (const auto &[keyword, value] : wanted.asKeyValueRange())
         if (keyword != "PageSize" && m_ppd->hasOption(keyword) && !isSameValue(marked.value(keyword), value))
-            remarks.append(
-                tr("%1 is not as it was saved: the rules for the paper decide it.").arg(optionText(keyword)));
+            remarks.append((m_ppd->canTake(keyword, value)
+                                ? tr("%1 is not as it was saved: the rules for the paper decide it.")
+                                : tr("%1 is not as it was saved: the printer has no such choice any more."))
+                               .arg(optionText(keyword)));
     return remarks;
 }
 

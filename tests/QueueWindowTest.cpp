@@ -329,6 +329,14 @@ TEST_F(QueueWindow, TellsWhatOfAPresetThePanelsDecideAnew)
     EXPECT_EQ(m_window->printer().session->ppd().marked()["QnPaperFeed"], "Custom.1.02362");
 }
 
+TEST_F(QueueWindow, TellsWhatOfAPresetThePrinterNoLongerHas)
+{
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter/old", "-o", "QnDensity=D99"}), 0);
+    openAndWait();
+    choose(*field("Pre&set:"), "old");
+    EXPECT_EQ(message(), "Print Density is not as it was saved: the printer has no such choice any more.");
+}
+
 TEST_F(QueueWindow, TakesCopiesAndPagesOfAPresetIntoTheirFields)
 {
     ASSERT_EQ(m_server.run("lpoptions",

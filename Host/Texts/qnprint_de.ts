@@ -15,6 +15,10 @@
         <source>%1 is not as it was saved: the rules for the paper decide it.</source>
         <translation>%1 ist nicht wie gesichert: Die Regeln für das Papier bestimmen es.</translation>
     </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1 ist nicht wie gesichert: Der Drucker hat diese Auswahl nicht mehr.</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogWindow</name>

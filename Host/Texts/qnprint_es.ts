@@ -15,6 +15,10 @@
         <source>%1 is not as it was saved: the rules for the paper decide it.</source>
         <translation>%1 no está como se guardó: lo deciden las reglas del papel.</translation>
     </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1 no está como se guardó: la impresora ya no tiene esa opción.</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogWindow</name>

@@ -15,6 +15,10 @@
         <source>%1 is not as it was saved: the rules for the paper decide it.</source>
         <translation>%1 n’est pas tel qu’enregistré : les règles du papier en décident.</translation>
     </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1 n’est pas tel qu’enregistré : l’imprimante n’a plus ce choix.</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogWindow</name>

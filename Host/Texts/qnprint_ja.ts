@@ -15,6 +15,10 @@
         <source>%1 is not as it was saved: the rules for the paper decide it.</source>
         <translation>%1は保存した値ではありません。用紙の規則で決まります。</translation>
     </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1は保存した値ではありません。プリンターにその選択肢がもうありません。</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogWindow</name>

@@ -15,6 +15,10 @@
         <source>%1 is not as it was saved: the rules for the paper decide it.</source>
         <translation>%1与保存时不同：由纸张规则决定。</translation>
     </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1与保存时不同：打印机已没有此选项。</translation>
+    </message>
 </context>
 <context>
     <name>host::DialogWindow</name>
