@@ -1,7 +1,7 @@
 // What a person waits for: opening a dialog, showing a panel, changing the paper, typing; on the example PPD and on a
 // generated one with 300 further options of 40 choices each.
-#include "DialogSession.h"
 #include "PPDText.h"
+#include "Session/DialogSession.h"
 
 #include "Foundation/UserDefaults.h"
 #include "Toolkit/Alert.h"

@@ -1,7 +1,7 @@
 // How long a person waits for the window with few and with many queues on the server.
 #include "CupsServer.h"
-#include "DialogWindow.h"
-#include "QueueSupply.h"
+#include "Dialog/PrinterFinder.h"
+#include "Window/DialogWindow.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 // Any bytes as a PPD: the dialog opens on it, or says in one sentence why not.
 #include "Offscreen.h"
-#include "Script.h"
+#include "Script/Script.h"
 
 #include <QJsonDocument>
 #include <QTemporaryFile>

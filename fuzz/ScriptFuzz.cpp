@@ -1,6 +1,6 @@
 // Any bytes as lines of a script: one reply a line, whatever the line is.
 #include "Offscreen.h"
-#include "Script.h"
+#include "Script/Script.h"
 
 #include <cstddef>
 #include <cstdint>

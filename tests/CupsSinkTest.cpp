@@ -1,6 +1,6 @@
 // One job on its way to a real CUPS server, stopped or broken off in the middle.
 #include "CupsServer.h"
-#include "Job.h"
+#include "Jobs/Job.h"
 #include "Print.h"
 
 #include <QCoreApplication>

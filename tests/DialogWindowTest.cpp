@@ -2,9 +2,9 @@
 #include "Foundation/Locale.h"
 #include "Foundation/UserDefaults.h"
 #include "PPDText.h"
-#include "SummaryView.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/Controls.h"
+#include "Window/SummaryView.h"
 #include "WindowTest.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
 // Documents to print: what is taken, and what is said of the rest.
-#include "Document.h"
+#include "Jobs/Document.h"
 
 #include "Print.h"
 

@@ -1,5 +1,5 @@
 // Every example script gives the replies that stand beside it.
-#include "Script.h"
+#include "Script/Script.h"
 
 #include "Foundation/UserDefaults.h"
 #include "Print.h"

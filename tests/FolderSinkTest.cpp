@@ -1,5 +1,5 @@
 // Jobs that go into a folder: whole, beside each other, or not at all.
-#include "Job.h"
+#include "Jobs/Job.h"
 
 #include "Print.h"
 

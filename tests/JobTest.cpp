@@ -1,5 +1,5 @@
 // What a job says besides its options.
-#include "Job.h"
+#include "Jobs/Job.h"
 
 #include "Print.h"
 

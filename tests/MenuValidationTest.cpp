@@ -1,8 +1,8 @@
 // What the menus offer when they open.
 #include "Dialog.h"
 
-#include "DialogSession.h"
 #include "Foundation/UserDefaults.h"
+#include "Session/DialogSession.h"
 
 #include <QAccessible>
 #include <QComboBox>

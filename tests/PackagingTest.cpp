@@ -1,5 +1,5 @@
 // What a file manager is told of us.
-#include "Document.h"
+#include "Jobs/Document.h"
 
 #include "Print.h"
 

@@ -1,8 +1,8 @@
 // The window on queues of a real CUPS server, also when that server fails at the worst moment.
 #include "CupsServer.h"
+#include "Dialog/PrinterFinder.h"
 #include "Foundation/Locale.h"
 #include "Foundation/UserDefaults.h"
-#include "QueueSupply.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/Controls.h"
 #include "WindowTest.h"

@@ -1,5 +1,5 @@
 // What the user saves for queues, in the file that all CUPS programs share.
-#include "SavedOptions.h"
+#include "Cups/SavedOptions.h"
 
 #include "Print.h"
 

@@ -1,6 +1,6 @@
 // The texts of the bundle: every key has one in every language, and every one has room.
-#include "DialogSession.h"
 #include "Print.h"
+#include "Session/DialogSession.h"
 
 #include "Foundation/UserDefaults.h"
 #include "Toolkit/Controls.h"

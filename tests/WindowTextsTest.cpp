@@ -1,8 +1,8 @@
 // The window's own texts, in each language.
-#include "WindowTexts.h"
+#include "Window/WindowTexts.h"
 
-#include "DialogWindow.h"
 #include "Print.h"
+#include "Window/DialogWindow.h"
 
 #include <QFile>
 #include <QLabel>
@@ -20,7 +20,7 @@ using Texts = QMap<QString, QString>; // context and English text to the languag
 
 Texts textsOf(const QString &language)
 {
-    QFile file(QString(QN_SOURCE_DIR "/Host/Texts/qnprint_%1.ts").arg(language));
+    QFile file(QString(QN_SOURCE_DIR "/Host/Window/Texts/qnprint_%1.ts").arg(language));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     QXmlStreamReader xml(&file);
     Texts texts;

@@ -5,7 +5,7 @@
 #include "PPDText.h"
 #include "Print.h"
 
-#include "Script.h"
+#include "Script/Script.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

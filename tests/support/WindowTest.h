@@ -1,9 +1,9 @@
 // A test with the dialog's window in its hands.
 #pragma once
 
-#include "DialogWindow.h"
-#include "PaperChooser.h"
 #include "Print.h"
+#include "Window/DialogWindow.h"
+#include "Window/PaperChooser.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // Queues of the CUPS server.
-#include "Destinations.h"
+#include "Queues.h"
 
-#include "Server.h"
+#include "ServerConnection.h"
 
 namespace host {
 

@@ -1,9 +1,9 @@
 // What the window, or a batch, prints on.
 #pragma once
 
-#include "DialogSession.h"
-#include "Job.h"
-#include "SavedOptions.h"
+#include "Cups/SavedOptions.h"
+#include "Jobs/Job.h"
+#include "Session/DialogSession.h"
 
 namespace host {
 

@@ -1,7 +1,7 @@
 // What the command line of `qnprint` asks for.
 #pragma once
 
-#include "PPDDocument.h"
+#include "PPD/PPDDocument.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 // The print dialog as a window: a face of DialogSession, which makes all decisions.
 #pragma once
 
-#include "Printer.h"
+#include "Dialog/PrintTarget.h"
 
 #include <QDialog>
 

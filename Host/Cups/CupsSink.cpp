@@ -1,6 +1,6 @@
 // Jobs that go to a CUPS queue.
-#include "Job.h"
-#include "Server.h"
+#include "Jobs/Job.h"
+#include "ServerConnection.h"
 
 namespace host {
 

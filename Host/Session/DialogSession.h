@@ -3,7 +3,7 @@
 #pragma once
 
 #include "PDEPlugInInterface.h"
-#include "PPDDocument.h"
+#include "PPD/PPDDocument.h"
 #include "PlugIn.h"
 
 #include <QCoreApplication>

@@ -2,7 +2,7 @@
 // reads it, one line a queue or preset (`lp -d queue/preset`).
 #pragma once
 
-#include "PPDDocument.h"
+#include "PPD/PPDDocument.h"
 
 #include <QCoreApplication>
 #include <QStringList>

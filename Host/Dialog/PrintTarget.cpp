@@ -1,8 +1,8 @@
 // What the window, or a batch, prints on.
-#include "Printer.h"
+#include "PrintTarget.h"
 
-#include "CommandLine.h"
-#include "Destinations.h"
+#include "Cups/Queues.h"
+#include "Program/CommandLine.h"
 
 namespace host {
 

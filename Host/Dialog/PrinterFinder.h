@@ -2,8 +2,8 @@
 // Everything that asks the server is done in the background.
 #pragma once
 
-#include "CommandLine.h"
-#include "Destinations.h"
+#include "Cups/Queues.h"
+#include "Program/CommandLine.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 // Reading the command line.
 #include "CommandLine.h"
 
-#include "Job.h"
+#include "Jobs/Job.h"
 
 #include "Foundation/Locale.h"
 #include "Foundation/SystemVersion.h"

@@ -1,5 +1,5 @@
 // Talking to the CUPS server with an end.
-#include "Server.h"
+#include "ServerConnection.h"
 
 namespace host {
 

@@ -2,8 +2,8 @@
 // and so belongs on a thread of its own.
 #pragma once
 
+#include "PPD/PPDDocument.h"
 #include "PPDCache.h"
-#include "PPDDocument.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 // The paper of the dialog: the PPD's sizes, and a size of the user's own within the PPD's limits.
 #pragma once
 
-#include "DialogSession.h"
+#include "Session/DialogSession.h"
 
 #include <QHBoxLayout>
 

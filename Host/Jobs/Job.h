@@ -1,9 +1,9 @@
 // A print job and the places that it can go to.
 #pragma once
 
+#include "Cups/PPDCache.h"
 #include "Document.h"
-#include "PPDCache.h"
-#include "PPDDocument.h"
+#include "PPD/PPDDocument.h"
 
 #include <QCoreApplication>
 

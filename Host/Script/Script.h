@@ -1,8 +1,8 @@
 // `qnprint script`: the dialog driven by lines of JSON, without a display.
 #pragma once
 
-#include "DialogSession.h"
 #include "ScriptRequest.h"
+#include "Session/DialogSession.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 // `qnprint`: which face of the dialog the command line asks for.
 #include "RunDialog.h"
-#include "Script.h"
+#include "Script/Script.h"
 
 #include <QApplication>
 

@@ -2,11 +2,11 @@
 #include "RunDialog.h"
 
 #include "CommandLine.h"
-#include "DialogWindow.h"
-#include "Printer.h"
-#include "QueueSupply.h"
+#include "Dialog/PrintTarget.h"
+#include "Dialog/PrinterFinder.h"
 #include "Toolkit/Alert.h"
-#include "WindowTexts.h"
+#include "Window/DialogWindow.h"
+#include "Window/WindowTexts.h"
 
 #include <QApplication>
 

@@ -1,8 +1,8 @@
 // Keeps a window supplied with printers of the CUPS server.
-#include "QueueSupply.h"
+#include "PrinterFinder.h"
 
 #include "Background.h"
-#include "DialogWindow.h"
+#include "Window/DialogWindow.h"
 
 #include <QTimer>
 
