@@ -55,7 +55,7 @@ private:
     void changePaperFeed();
     void switchPerforatedOff();
 
-    // The amount entry (PaperFeedEntry.cpp).
+    // The amount entry (PrintSettingPDE_FeedEntry.cpp).
     enum class Entry { disabled, enabled };
     void setPaperFeedEntry(Entry state);
     void controlTextDidChange(QWidget *field) override;
