@@ -3,7 +3,7 @@
 
 #include "PDEChoice.h"
 
-#include "Toolkit/View.h"
+#include "Toolkit/Handles.h"
 
 /// A null PPD, option or choice is one in which nothing is found.
 class PDEUtilsMethod

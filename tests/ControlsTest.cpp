@@ -1,6 +1,6 @@
 // The habits of the toolkit's controls, under mouse, keyboard and code.
 #include "Toolkit/Alert.h"
-#include "Toolkit/View.h"
+#include "Toolkit/Handles.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>

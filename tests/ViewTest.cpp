@@ -1,5 +1,5 @@
 // Handles of controls: coordinates, removal, and the control that is not there.
-#include "Toolkit/View.h"
+#include "Toolkit/Handles.h"
 
 #include <QApplication>
 

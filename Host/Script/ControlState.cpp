@@ -1,7 +1,7 @@
 // Controls described.
 #include "ControlState.h"
 
-#include "Toolkit/View.h"
+#include "Toolkit/Handles.h"
 
 #include <QJsonArray>
 

@@ -16,12 +16,6 @@
 
 namespace toolkit {
 
-namespace {
-
-QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
-
-} // namespace
-
 PopUpControl::PopUpControl(QWidget *parent)
     : QComboBox(parent)
 {}

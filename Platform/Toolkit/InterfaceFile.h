@@ -1,7 +1,7 @@
 // Interface files: forms of a bundle, loaded at run time and connected to the object that owns them.
 #pragma once
 
-#include "View.h"
+#include "Handles.h"
 
 #include <memory>
 

@@ -1,5 +1,5 @@
 // Labels and entry fields.
-#include "Controls.h"
+#include "TextControls.h"
 
 #include <QEvent>
 #include <QHelpEvent>
@@ -12,8 +12,6 @@ namespace toolkit {
 
 namespace {
 
-QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
-
 bool isPaletteEvent(const QEvent &event)
 {
     return event.type() == QEvent::PaletteChange || event.type() == QEvent::ApplicationPaletteChange ||
@@ -21,6 +19,8 @@ bool isPaletteEvent(const QEvent &event)
 }
 
 } // namespace
+
+QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
 
 void TextControl::setTextColor(TextColor color)
 {

@@ -1,7 +1,7 @@
 // The sample picture of the halftone method that a radio group selects.
 #pragma once
 
-#include "Toolkit/View.h"
+#include "Toolkit/Handles.h"
 
 #include <QPixmap>
 #include <QWidget>

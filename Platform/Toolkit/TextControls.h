@@ -1,0 +1,95 @@
+// Labels and entry fields as widgets.
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace toolkit {
+
+/// The text for a label, button or tab that shows each '&' as it stands instead of underlining what follows.
+QString withoutMnemonic(QString text);
+
+/// A colour by its meaning; what it looks like is the palette's matter.
+enum class TextColor { control, disabledControl };
+
+/// What labels and entry fields have in common.
+class TextControl
+{
+public:
+    virtual ~TextControl() = default;
+
+    virtual QString stringValue() const = 0;
+    virtual void setStringValue(const QString &text) = 0;
+
+    TextColor textColor() const { return m_color; }
+    void setTextColor(TextColor color);
+
+protected:
+    explicit TextControl(QWidget &self)
+        : m_self(self)
+    {}
+    /// Call when the palette may have changed.
+    void followPalette();
+
+private:
+    QWidget &m_self;
+    TextColor m_color = TextColor::control;
+    bool m_applying = false;
+};
+
+class LabelControl : public QLabel, public TextControl
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ stringValue WRITE setStringValue)
+
+public:
+    explicit LabelControl(QWidget *parent = nullptr);
+
+    QString stringValue() const override { return m_text; }
+    void setStringValue(const QString &text) override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    QString m_text;
+};
+
+class FieldControl : public QLineEdit, public TextControl
+{
+    Q_OBJECT
+
+public:
+    explicit FieldControl(QWidget *parent = nullptr);
+
+    QString stringValue() const override { return text(); }
+    /// The cursor stays where it was, so that a correction while typing does not carry it away.
+    void setStringValue(const QString &text) override;
+
+    bool isEditable() const { return !isReadOnly(); }
+    void setEditable(bool editable) { setReadOnly(!editable); }
+
+    /// A text too long for the field shows whole while the pointer rests on it.
+    bool allowsExpansionToolTips() const { return m_expansionToolTips; }
+    void setAllowsExpansionToolTips(bool allow) { m_expansionToolTips = allow; }
+
+    /// For a person: replaces the whole text in one edit.
+    void paste(const QString &text);
+    /// For a person: presses Return.
+    void enter();
+
+Q_SIGNALS:
+    void edited();       // a person changed the text; never sent for what code sets
+    void entered();      // a person pressed Return
+    void editingEnded(); // after `entered`; moving the focus away does not end editing, so nobody is held in the field
+
+protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    bool m_expansionToolTips = true;
+};
+
+} // namespace toolkit
