@@ -1,5 +1,6 @@
 // Settings, page format and printer of a print session.
 #include "Printing/PrintSettings.h"
+#include "Printing/Units.h"
 
 #include <gtest/gtest.h>
 
@@ -62,5 +63,12 @@ INSTANTIATE_TEST_SUITE_P(Addresses, Scheme,
                                          Address{"QNLRUSB:", "QNLRUSB"}, Address{"a+b-c.1:x", "a+b-c.1"},
                                          Address{"", ""}, Address{"usb", ""}, Address{":x", ""}, Address{"1a:x", ""},
                                          Address{"u b:x", ""}, Address{"/path:x", ""}));
+
+TEST(Units, AgreeWithEachOther)
+{
+    EXPECT_EQ(kPointsPerInch, 72);
+    EXPECT_DOUBLE_EQ(kPointsPerMillimetre * 25.4, 72);
+    EXPECT_DOUBLE_EQ(kPointsPerHundredthOfMillimetre * 2540, 72);
+}
 
 } // namespace
