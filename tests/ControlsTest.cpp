@@ -383,12 +383,21 @@ TEST(Alerts, ShowAMessageBoxWithTheirTexts)
 TEST(Alerts, GoToWhoeverPresentsThem)
 {
     QStringList seen;
-    Alert::setPresenter([&](const Alert &alert) { seen.append(alert.messageText()); });
+    const auto notedAs = [&](const QString &who) {
+        return [&seen, who](const Alert &alert) { seen.append(who + ": " + alert.messageText()); };
+    };
     Alert alert;
     alert.setMessageText("What");
-    alert.runModal();
-    Alert::setPresenter({});
-    EXPECT_EQ(seen, QStringList("What"));
+    {
+        const PresentAlerts outer(notedAs("outer"));
+        {
+            const PresentAlerts inner(notedAs("inner"));
+            alert.runModal();
+        }
+        alert.runModal();
+    }
+    EXPECT_EQ(seen, QStringList({"inner: What", "outer: What"}));
+    EXPECT_FALSE(Alert::setPresenter({})); // nobody presents them any more
 }
 
 } // namespace

@@ -9,7 +9,6 @@
 #include "Foundation/Text.h"
 #include "Foundation/UserDefaults.h"
 
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -93,26 +92,31 @@ class Versions : public testing::TestWithParam<Version>
 
 TEST_P(Versions, ArePackedAsDecimalDigits)
 {
-    const auto version = systemVersionFromString(GetParam().text);
+    const auto version = systemVersionFromString(QString(GetParam().text));
     ASSERT_EQ(version.has_value(), GetParam().readable) << GetParam().text;
     if (!version)
         return;
-    setSystemVersion(version);
+    const ScopedSystemVersion scope(version);
     std::int32_t packed = 0;
     EXPECT_EQ(Gestalt(gestaltSystemVersion, &packed), 0);
     EXPECT_EQ(packed, GetParam().packed);
 }
 
-INSTANTIATE_TEST_SUITE_P(Texts, Versions,
-                         testing::Values(Version{"10.5.0", true, 0x1050}, Version{"10.6.8", true, 0x1068},
-                                         Version{"10.15.7", true, 0x1097}, Version{"11.0.0", true, 0x1100},
-                                         Version{"9.2.2", true, 0x0922}, Version{"", false, 0}, Version{"11", false, 0},
-                                         Version{"11.0", false, 0}, Version{"11.0.0.0", false, 0},
-                                         Version{"11.0.x", false, 0}, Version{"-1.0.0", false, 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Texts, Versions,
+    testing::Values(Version{"10.5.0", true, 0x1050}, Version{"10.6.8", true, 0x1068}, Version{"10.15.7", true, 0x1097},
+                    Version{"11.0.0", true, 0x1100}, Version{"9.2.2", true, 0x0922}, Version{"", false, 0},
+                    Version{"11", false, 0}, Version{"11.0", false, 0}, Version{"11.0.0.0", false, 0},
+                    Version{"11.0.x", false, 0}, Version{"-1.0.0", false, 0}, Version{"010.05.00", true, 0x1050},
+                    Version{"2147483647.0.0", true, 0x9900}, Version{"2147483648.0.0", false, 0},
+                    Version{"99999999999999999999.0.0", false, 0}, Version{"+1.0.0", false, 0},
+                    Version{"1.+0.0", false, 0}, Version{" 11.0.0", false, 0}, Version{"11. 0.0", false, 0},
+                    Version{"11.0.0 ", false, 0}, Version{"11.0.0.", false, 0}, Version{".11.0.0", false, 0},
+                    Version{"11..0", false, 0}, Version{"0x11.0.0", false, 0}, Version{"１１.0.0", false, 0}));
 
 TEST(Gestalt, AnswersPartsAndFailsWhereItDoesNotKnow)
 {
-    setSystemVersion(SystemVersion{10, 5, 8});
+    const ScopedSystemVersion known(SystemVersion{10, 5, 8});
     std::int32_t answer = -1;
     EXPECT_EQ(Gestalt(gestaltSystemVersionMajor, &answer), 0);
     EXPECT_EQ(answer, 10);
@@ -122,15 +126,43 @@ TEST(Gestalt, AnswersPartsAndFailsWhereItDoesNotKnow)
     EXPECT_EQ(answer, 8);
     EXPECT_NE(Gestalt(0x12345678, &answer), 0);
     EXPECT_EQ(answer, 8);
-    setSystemVersion(std::nullopt);
+    const ScopedSystemVersion unknown(std::nullopt);
     EXPECT_NE(Gestalt(gestaltSystemVersion, &answer), 0);
     EXPECT_EQ(answer, 8); // untouched
+}
+
+TEST(ScopedSystemVersions, GiveBackTheEarlierOneAlsoWhenNested)
+{
+    const auto before = systemVersion();
+    {
+        const ScopedSystemVersion outer(SystemVersion{10, 4, 0});
+        {
+            const ScopedSystemVersion inner(std::nullopt);
+            EXPECT_EQ(systemVersion(), std::nullopt);
+        }
+        EXPECT_EQ(systemVersion(), (SystemVersion{10, 4, 0}));
+    }
+    EXPECT_EQ(systemVersion(), before);
+}
+
+TEST(ScopedLocales, GiveBackTheEarlierOneAlsoWhenNested)
+{
+    const QLocale before = Locale::current().locale();
+    {
+        const ScopedLocale outer{QLocale("en_US")};
+        {
+            const ScopedLocale inner{QLocale("de_DE")};
+            EXPECT_TRUE(IsMetric());
+        }
+        EXPECT_EQ(Locale::current().locale(), QLocale("en_US"));
+    }
+    EXPECT_EQ(Locale::current().locale(), before);
 }
 
 TEST(Metric, IsEveryLocaleThatDoesNotMeasureInUSUnits)
 {
     const auto metric = [](const char *name) {
-        Locale::current().set(QLocale(name));
+        const ScopedLocale scope{QLocale(name)};
         return IsMetric();
     };
     EXPECT_FALSE(metric("en_US"));
@@ -139,19 +171,38 @@ TEST(Metric, IsEveryLocaleThatDoesNotMeasureInUSUnits)
     EXPECT_TRUE(metric("ja_JP"));
 }
 
-TEST(Defaults, AreKeptInTheirStore)
+TEST(Defaults, AreKeptInTheStoreUntilTheyAreRemoved)
 {
     const QTemporaryDir directory;
+    const QString path = directory.filePath("defaults.ini");
     auto &defaults = UserDefaults::standard();
-    const auto store = [&] { return std::make_unique<QSettings>(directory.filePath("d.ini"), QSettings::IniFormat); };
-    defaults.useStore(store());
-    EXPECT_EQ(defaults.objectForKey("QnPerforated"), std::nullopt);
-    defaults.setObjectForKey("YES", "QnPerforated");
-    defaults.useStore(store()); // another object over the same file
+    {
+        const ScopedDefaults scope(path);
+        EXPECT_EQ(defaults.objectForKey("QnPerforated"), std::nullopt);
+        defaults.setObjectForKey("YES", "QnPerforated");
+    }
+    const ScopedDefaults scope(path); // another object over the same file
     EXPECT_EQ(defaults.objectForKey("QnPerforated"), QString("YES"));
     defaults.removeObjectForKey("QnPerforated");
     EXPECT_EQ(defaults.objectForKey("QnPerforated"), std::nullopt);
-    defaults.useStore(nullptr);
+}
+
+TEST(ScopedStores, GiveBackTheEarlierOneAlsoWhenNested)
+{
+    const QTemporaryDir directory;
+    auto &defaults = UserDefaults::standard();
+    const ScopedDefaults outermost(directory.filePath("outermost.ini"));
+    {
+        const ScopedDefaults outer(directory.filePath("outer.ini"));
+        defaults.setObjectForKey("outer", "QnPerforated");
+        {
+            const ScopedDefaults inner(directory.filePath("inner.ini"));
+            EXPECT_EQ(defaults.objectForKey("QnPerforated"), std::nullopt);
+            defaults.setObjectForKey("inner", "QnPerforated");
+        }
+        EXPECT_EQ(defaults.objectForKey("QnPerforated"), QString("outer"));
+    }
+    EXPECT_EQ(defaults.objectForKey("QnPerforated"), std::nullopt);
 }
 
 class Notifications : public testing::Test

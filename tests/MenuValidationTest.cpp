@@ -6,7 +6,6 @@
 
 #include <QAccessible>
 #include <QComboBox>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -105,8 +104,6 @@ class MenuInHand : public testing::Test
 protected:
     void open(const QString &paper)
     {
-        foundation::UserDefaults::standard().useStore(
-            std::make_unique<QSettings>(m_directory.filePath("defaults.ini"), QSettings::IniFormat));
         host::DialogSession::Parameters parameters;
         parameters.ppdPath = PPDText().allOptions().file();
         parameters.paperName = paper;
@@ -127,6 +124,7 @@ protected:
     }
 
     QTemporaryDir m_directory;
+    foundation::ScopedDefaults m_defaults{m_directory.filePath("defaults.ini")};
     std::unique_ptr<host::DialogSession> m_session;
     QComboBox *m_menu = nullptr;
 };

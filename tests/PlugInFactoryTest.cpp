@@ -6,7 +6,6 @@
 #include "Foundation/UserDefaults.h"
 #include "Messages.h"
 
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -79,12 +78,12 @@ class Factory : public testing::Test
 protected:
     void SetUp() override
     {
-        m_defaults.useStore(std::make_unique<QSettings>(m_directory.filePath("d.ini"), QSettings::IniFormat));
         QString error;
         m_bundle = foundation::Bundle::open(QN_BUNDLE_DIR, "none", &error);
         ASSERT_TRUE(m_bundle) << error.toStdString();
     }
     QTemporaryDir m_directory;
+    foundation::ScopedDefaults m_scope{m_directory.filePath("defaults.ini")};
     foundation::UserDefaults &m_defaults = foundation::UserDefaults::standard();
     std::unique_ptr<foundation::Bundle> m_bundle;
     NoHost m_host;
@@ -151,10 +150,10 @@ TEST_P(SystemOf, IsServedFrom10Point5On)
 {
     if (!qEnvironmentVariableIsSet("QN_OWN_PROCESS"))
         GTEST_SKIP() << "needs a process of its own: run it with ctest";
-    foundation::setSystemVersion(GetParam().version);
+    const foundation::ScopedSystemVersion first(GetParam().version);
     QNKVPageSettings15PlugIn_v100_ plugIn({});
     EXPECT_EQ(plugIn.initWithBundle(*m_bundle), GetParam().served);
-    foundation::setSystemVersion(SystemVersion{GetParam().served ? 9 : 12, 0, 0});
+    const foundation::ScopedSystemVersion then(SystemVersion{GetParam().served ? 9 : 12, 0, 0});
     QNKVPageSettings15PlugIn_v100_ another({});
     EXPECT_EQ(another.initWithBundle(*m_bundle), GetParam().served); // never asked again
 }

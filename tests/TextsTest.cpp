@@ -10,7 +10,6 @@
 #include <QLayout>
 #include <QRadioButton>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
@@ -125,11 +124,6 @@ int widthNeeded(const QWidget &control)
 class Room : public testing::TestWithParam<std::tuple<QString, QString>>
 {
 protected:
-    void SetUp() override
-    {
-        m_defaults.useStore(std::make_unique<QSettings>(m_directory.filePath("defaults.ini"), QSettings::IniFormat));
-    }
-
     std::unique_ptr<host::DialogSession> open(const QString &ppd, const QString &language)
     {
         host::DialogSession::Parameters parameters;
@@ -158,7 +152,7 @@ protected:
     }
 
     QTemporaryDir m_directory;
-    foundation::UserDefaults &m_defaults = foundation::UserDefaults::standard();
+    foundation::ScopedDefaults m_defaults{m_directory.filePath("defaults.ini")};
 };
 
 INSTANTIATE_TEST_SUITE_P(EachLanguage, Room,

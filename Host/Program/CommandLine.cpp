@@ -23,7 +23,7 @@ std::optional<QString> applySurroundings(const QCommandLineParser &parser)
         foundation::Locale::current().set(locale);
     }
     if (parser.isSet("system-version")) {
-        const auto version = foundation::systemVersionFromString(parser.value("system-version").toLatin1().constData());
+        const auto version = foundation::systemVersionFromString(parser.value("system-version"));
         if (!version)
             return QString("--system-version %1: not of the form 11.0.0").arg(parser.value("system-version"));
         foundation::setSystemVersion(version);

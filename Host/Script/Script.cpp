@@ -5,12 +5,10 @@
 #include "Foundation/Locale.h"
 #include "Foundation/SystemVersion.h"
 #include "Foundation/UserDefaults.h"
-#include "Toolkit/Alert.h"
 #include "Toolkit/Controls.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -73,7 +71,7 @@ Surroundings surroundings(const ScriptRequest &request)
     Surroundings result;
     if (!request.isNull("system")) {
         const QString version = request.stringOr("system", kDefaultSystem);
-        result.system = foundation::systemVersionFromString(version.toLatin1().constData());
+        result.system = foundation::systemVersionFromString(version);
         if (!result.system)
             throw ScriptRefusal(QString("\"%1\" is not a system version of the form 11.0.0").arg(version));
     }
@@ -117,20 +115,13 @@ const std::array<Script::Verb, 21> Script::kVerbs{{
 }};
 
 Script::Script()
-{
-    toolkit::Alert::setPresenter([this](const toolkit::Alert &alert) {
+    : m_presentAlerts([this](const toolkit::Alert &alert) {
         m_alerts.append(QJsonObject{{"message", alert.messageText()},
                                     {"informative", alert.informativeText()},
                                     {"buttons", QJsonArray::fromStringList(alert.buttons())},
                                     {"style", styleName(alert.style())}});
-    });
-}
-
-Script::~Script()
-{
-    m_session.reset();
-    toolkit::Alert::setPresenter({});
-}
+    })
+{}
 
 std::optional<QByteArray> Script::reply(const QByteArray &line)
 {
@@ -381,20 +372,14 @@ int runScript()
 {
     // A run must not meet the user's own values, nor another run's.
     const QTemporaryDir directory;
-    auto &defaults = foundation::UserDefaults::standard();
-    defaults.useStore(std::make_unique<QSettings>(directory.filePath("defaults.ini"), QSettings::IniFormat));
-    bool allLinesKnown = false;
-    {
-        Script script;
-        for (std::string line; std::getline(std::cin, line);) {
-            if (const auto reply = script.reply(QByteArray::fromStdString(line)))
-                std::cout << reply->constData() << std::endl; // flushed: somebody waits for it
-            QCoreApplication::processEvents();
-        }
-        allLinesKnown = script.allLinesKnown();
+    const foundation::ScopedDefaults defaults(directory.filePath("defaults.ini"));
+    Script script;
+    for (std::string line; std::getline(std::cin, line);) {
+        if (const auto reply = script.reply(QByteArray::fromStdString(line)))
+            std::cout << reply->constData() << std::endl; // flushed: somebody waits for it
+        QCoreApplication::processEvents();
     }
-    defaults.useStore(nullptr);
-    return allLinesKnown ? 0 : 2;
+    return script.allLinesKnown() ? 0 : 2;
 }
 
 } // namespace host

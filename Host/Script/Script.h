@@ -4,6 +4,8 @@
 #include "ScriptRequest.h"
 #include "Session/DialogSession.h"
 
+#include "Toolkit/Alert.h"
+
 #include <array>
 
 namespace host {
@@ -12,7 +14,6 @@ class Script
 {
 public:
     Script();
-    ~Script();
 
     /// The reply to one line; nil for a line that gets none. Never fails: what can't be done is said in the reply.
     std::optional<QByteArray> reply(const QByteArray &line);
@@ -58,10 +59,11 @@ private:
     C &control(const ScriptRequest &request) const;
     QJsonArray panelIdentifiers() const;
 
-    std::unique_ptr<DialogSession> m_session;
     QJsonArray m_marks;  // of the request at work
     QJsonArray m_alerts; // of the request at work
     bool m_allLinesKnown = true;
+    toolkit::PresentAlerts m_presentAlerts;
+    std::unique_ptr<DialogSession> m_session; // goes first: its end may still mark and alert
 };
 
 /// Runs a script from standard input to standard output. Exit status 0, or 2 when a line was no known request.

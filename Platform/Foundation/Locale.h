@@ -20,6 +20,19 @@ private:
     QLocale m_locale = QLocale::system();
 };
 
+/// Another locale while this lives, then the earlier one again.
+class ScopedLocale
+{
+public:
+    explicit ScopedLocale(const QLocale &locale) { Locale::current().set(locale); }
+    ~ScopedLocale() { Locale::current().set(m_earlier); }
+    ScopedLocale(const ScopedLocale &) = delete;
+    ScopedLocale &operator=(const ScopedLocale &) = delete;
+
+private:
+    QLocale m_earlier = Locale::current().locale(); // made before the constructor sets the new one
+};
+
 /// The system's metric setting.
 inline bool IsMetric() { return Locale::current().usesMetricSystem(); }
 

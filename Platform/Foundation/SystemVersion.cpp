@@ -1,9 +1,9 @@
 // The version of the system that a panel believes to run on.
 #include "SystemVersion.h"
 
+#include <QVersionNumber>
+
 #include <algorithm>
-#include <charconv>
-#include <cstring>
 
 namespace foundation {
 
@@ -28,20 +28,18 @@ std::int32_t packed(const SystemVersion &version)
 
 } // namespace
 
-std::optional<SystemVersion> systemVersionFromString(const char *text)
+std::optional<SystemVersion> systemVersionFromString(QStringView text)
 {
-    SystemVersion version;
-    const char *const end = text + std::strlen(text);
-    for (int *part : {&version.major, &version.minor, &version.bugFix}) {
-        if (part != &version.major && (text == end || *text++ != '.'))
-            return std::nullopt;
-        const auto [next, failed] = std::from_chars(text, end, *part);
-        if (failed != std::errc() || *part < 0)
-            return std::nullopt;
-        text = next;
-    }
-    return text == end ? std::optional(version) : std::nullopt;
+    // The library's parser would take blanks and signs before a number too.
+    const bool plain = std::ranges::all_of(text, [](QChar c) { return c == u'.' || (c >= u'0' && c <= u'9'); });
+    qsizetype end = 0;
+    const auto version = QVersionNumber::fromString(text, &end);
+    if (!plain || end != text.size() || version.segmentCount() != 3)
+        return std::nullopt;
+    return SystemVersion{version.majorVersion(), version.minorVersion(), version.microVersion()};
 }
+
+std::optional<SystemVersion> systemVersion() { return current(); }
 
 void setSystemVersion(std::optional<SystemVersion> version) { current() = version; }
 

@@ -1,6 +1,8 @@
 // The version of the system that a panel believes to run on.
 #pragma once
 
+#include <QStringView>
+
 #include <cstdint>
 #include <optional>
 
@@ -16,10 +18,24 @@ struct SystemVersion
 };
 
 /// "major.minor.bugfix"; nil when the text is anything else.
-std::optional<SystemVersion> systemVersionFromString(const char *text);
+std::optional<SystemVersion> systemVersionFromString(QStringView text);
 
-/// What Gestalt answers from now on; nil makes every query fail.
+/// What Gestalt goes by; nil makes every query fail.
+std::optional<SystemVersion> systemVersion();
 void setSystemVersion(std::optional<SystemVersion> version);
+
+/// Another system version while this lives, then the earlier one again.
+class ScopedSystemVersion
+{
+public:
+    explicit ScopedSystemVersion(std::optional<SystemVersion> version) { setSystemVersion(version); }
+    ~ScopedSystemVersion() { setSystemVersion(m_earlier); }
+    ScopedSystemVersion(const ScopedSystemVersion &) = delete;
+    ScopedSystemVersion &operator=(const ScopedSystemVersion &) = delete;
+
+private:
+    std::optional<SystemVersion> m_earlier = systemVersion(); // made before the constructor sets the new one
+};
 
 /// Selectors of Gestalt: four-character codes.
 inline constexpr std::uint32_t gestaltSystemVersion = 0x73797376;       // 'sysv': packed, 0x1060 is 10.6.0

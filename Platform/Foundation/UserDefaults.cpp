@@ -3,6 +3,8 @@
 
 #include <QSettings>
 
+#include <utility>
+
 namespace foundation {
 
 UserDefaults &UserDefaults::standard()
@@ -14,7 +16,10 @@ UserDefaults &UserDefaults::standard()
 UserDefaults::UserDefaults() = default;
 UserDefaults::~UserDefaults() = default;
 
-void UserDefaults::useStore(std::unique_ptr<QSettings> store) { m_store = std::move(store); }
+std::unique_ptr<QSettings> UserDefaults::useStore(std::unique_ptr<QSettings> store)
+{
+    return std::exchange(m_store, std::move(store));
+}
 
 QSettings &UserDefaults::store() const
 {
@@ -32,5 +37,11 @@ std::optional<QString> UserDefaults::objectForKey(const QString &key) const
 void UserDefaults::setObjectForKey(const QString &value, const QString &key) { store().setValue(key, value); }
 
 void UserDefaults::removeObjectForKey(const QString &key) { store().remove(key); }
+
+ScopedDefaults::ScopedDefaults(const QString &path)
+    : m_earlier(UserDefaults::standard().useStore(std::make_unique<QSettings>(path, QSettings::IniFormat)))
+{}
+
+ScopedDefaults::~ScopedDefaults() { UserDefaults::standard().useStore(std::move(m_earlier)); }
 
 } // namespace foundation

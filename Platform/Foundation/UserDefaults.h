@@ -20,8 +20,8 @@ public:
     UserDefaults(const UserDefaults &) = delete;
     UserDefaults &operator=(const UserDefaults &) = delete;
 
-    /// Keeps everything in `store` from now on. Meant for runs that must not meet the user's own values.
-    void useStore(std::unique_ptr<QSettings> store);
+    /// Keeps everything in `store` from now on, null being the user's own, and answers the earlier store.
+    std::unique_ptr<QSettings> useStore(std::unique_ptr<QSettings> store);
 
     /// nil when nothing is stored under `key`.
     std::optional<QString> objectForKey(const QString &key) const;
@@ -33,6 +33,20 @@ private:
     QSettings &store() const;
 
     mutable std::unique_ptr<QSettings> m_store; // made on first use, after the application has its name
+};
+
+/// Keeps the standard defaults in a file while this lives, for runs that must not meet the user's own values; then the
+/// earlier store counts again.
+class ScopedDefaults
+{
+public:
+    explicit ScopedDefaults(const QString &path);
+    ~ScopedDefaults();
+    ScopedDefaults(const ScopedDefaults &) = delete;
+    ScopedDefaults &operator=(const ScopedDefaults &) = delete;
+
+private:
+    std::unique_ptr<QSettings> m_earlier;
 };
 
 } // namespace foundation

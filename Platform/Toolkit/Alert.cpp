@@ -38,12 +38,12 @@ void showMessageBox(const Alert &alert)
 
 } // namespace
 
-void Alert::setPresenter(Presenter function) { presenter() = std::move(function); }
+Alert::Presenter Alert::setPresenter(Presenter function) { return std::exchange(presenter(), std::move(function)); }
 
 void Alert::runModal() const
 {
-    if (presenter())
-        presenter()(*this);
+    if (const Presenter present = presenter()) // a copy: the function may set another
+        present(*this);
     else
         showMessageBox(*this);
 }

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 namespace toolkit {
 
@@ -14,8 +15,8 @@ public:
     enum class Style { warning, informational, critical };
     using Presenter = std::function<void(const Alert &)>;
 
-    /// How alerts are shown from now on; an empty function brings message boxes back.
-    static void setPresenter(Presenter presenter);
+    /// How alerts are shown from now on, an empty function being message boxes; answers how they were shown before.
+    static Presenter setPresenter(Presenter presenter);
 
     void setMessageText(const QString &text) { m_message = text; }
     void setInformativeText(const QString &text) { m_informative = text; }
@@ -35,6 +36,21 @@ private:
     QString m_informative;
     QStringList m_buttons;
     Style m_style = Style::warning;
+};
+
+/// Shows alerts by a function while this lives, then as before.
+class PresentAlerts
+{
+public:
+    explicit PresentAlerts(Alert::Presenter presenter)
+        : m_earlier(Alert::setPresenter(std::move(presenter)))
+    {}
+    ~PresentAlerts() { Alert::setPresenter(std::move(m_earlier)); }
+    PresentAlerts(const PresentAlerts &) = delete;
+    PresentAlerts &operator=(const PresentAlerts &) = delete;
+
+private:
+    Alert::Presenter m_earlier;
 };
 
 } // namespace toolkit

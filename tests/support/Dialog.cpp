@@ -1,27 +1,25 @@
 // The dialog as tests use it.
 #include "Dialog.h"
 
-#include "Foundation/UserDefaults.h"
-
 #include <QJsonDocument>
-#include <QSettings>
 #include <QTemporaryDir>
 
 namespace support {
 
 namespace {
 
-std::unique_ptr<QSettings> emptyStore()
+QString emptyStore()
 {
     static const QTemporaryDir directory;
     static int count = 0;
-    const QString path = directory.filePath(QString("defaults%1.ini").arg(++count));
-    return std::make_unique<QSettings>(path, QSettings::IniFormat);
+    return directory.filePath(QString("defaults%1.ini").arg(++count));
 }
 
 } // namespace
 
-Dialog::Dialog() { foundation::UserDefaults::standard().useStore(emptyStore()); }
+Dialog::Dialog()
+    : m_defaults(emptyStore())
+{}
 
 Dialog::~Dialog() = default;
 

@@ -5,6 +5,7 @@
 #include "PPDText.h"
 #include "Print.h"
 
+#include "Foundation/UserDefaults.h"
 #include "Script/Script.h"
 
 #include <QJsonArray>
@@ -79,6 +80,7 @@ public:
 private:
     QJsonObject must(const QJsonObject &request);
 
+    foundation::ScopedDefaults m_defaults; // outlives the script, whose end writes into it
     mutable host::Script m_script;
     QJsonObject m_reply;
     QString m_panel = "basic";
