@@ -36,11 +36,7 @@ bool BasePDE_v100_::initWithCallback(PDEPluginCallback_v100_ &callback, const fo
     return true;
 }
 
-BasePDE_v100_::~BasePDE_v100_()
-{
-    delete kPDEView;
-    BasePDE_v100_::removeObserverSelf();
-}
+BasePDE_v100_::~BasePDE_v100_() { delete kPDEView; }
 
 QWidget *BasePDE_v100_::panelView() { return loadedView(kPDEView, "PrintSettingPDE"); }
 
