@@ -37,6 +37,7 @@ public:
     /// Captures what the host hands out and registers for notifications. Both arguments are borrowed.
     virtual bool initWithCallback(PDEPluginCallback_v100_ &callback, const foundation::Bundle &bundle);
 
+    QString identifier() const override { return {}; }
     QWidget *panelView() override;
     QString panelName() override;
     QString panelKind() override;
@@ -96,7 +97,6 @@ protected:
     void controlTextDidEndEditing(QWidget *) override {}
 
     // A panel without anything to inspect.
-    QString identifier() const override { return {}; }
     bool isInterfaceLoaded() const override { return kPDEView; }
     std::vector<Control> controls() const override { return {}; }
     std::vector<Selection> selections() const override { return {}; }

@@ -1,15 +1,13 @@
 // The principal class.
 #include "BasePDEPlugIn.h"
 
+#include "PerforatedMemo.h"
+
 #include "Foundation/SystemVersion.h"
-#include "Foundation/UserDefaults.h"
 
 namespace {
 
 constexpr std::size_t kPanelCapacity = 2;
-
-/// The choice of perforation that panels remember for the length of one dialog.
-constexpr auto kPerforatedMemo = "QnPerforated";
 
 bool versionTestHasRun = false;
 bool versionTestResult = false;
@@ -43,10 +41,7 @@ bool QNKVPageSettings15PlugIn_v100_::runningOnLeopardOrLater()
 const PDEPanels *QNKVPageSettings15PlugIn_v100_::PDEPanelsForType(const QString &type,
                                                                   PDEPluginCallback_v100_ &callback)
 {
-    auto &defaults = foundation::UserDefaults::standard();
-    if (defaults.objectForKey(kPerforatedMemo))
-        defaults.removeObjectForKey(kPerforatedMemo);
-
+    perforatedMemo::remove();
     if (pdes)
         mEarlierPanels.push_back(std::move(pdes));
     pdes = std::make_unique<PDEPanels>();

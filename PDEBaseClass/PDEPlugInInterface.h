@@ -9,6 +9,9 @@
 //   6. Before printing `shouldPrint` of each panel in order, up to the first false.
 //   7. When the dialog goes away the host destroys the principal object, and with it the panels and their views.
 // Nothing here throws, and nothing reports an error by other means than its answer.
+//
+// Types of Qt and of the standard library cross this border: host and bundle must come from compilers of one family and
+// use the same major version of Qt. Qt refuses code of another major version; nothing checks the compiler.
 #pragma once
 
 #include "Printing/PrintSettings.h"
@@ -29,8 +32,10 @@ namespace foundation {
 class Bundle;
 }
 
-/// Raised whenever a declaration of this file changes; a bundle names the one it was built with in its Info.json.
-inline constexpr int kPDEInterfaceVersion = 100;
+/// Raised whenever a declaration of this file changes; a bundle names the one it was built with in its Info.json. The
+/// number stands here only: the build reads this line for the Info.json, the preprocessor for the identifier below.
+#define QN_PDE_INTERFACE_VERSION 101
+inline constexpr int kPDEInterfaceVersion = QN_PDE_INTERFACE_VERSION;
 
 /// The panel type that stands for printing options.
 inline constexpr auto kPDEPrintingOptionsType = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
@@ -53,14 +58,17 @@ public:
     virtual bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) = 0;
 };
 
-/// Titles to values, and under "Summary Display Order" the titles in the order in which to show them.
+/// The key under which a summary carries its order where it is one dictionary; no title.
+inline constexpr auto kPDESummaryDisplayOrder = "Summary Display Order";
+
+/// Titles to values, and the titles in the order in which to show them.
 struct PDESummary
 {
     QMap<QString, QString> values;
     QStringList displayOrder;
 };
 
-/// A panel laid open for tests and diagnosis; a dialog for people needs none of it.
+/// A panel laid open for scripts, tests and diagnosis; a dialog for people needs none of it.
 class PDEPanelInspection
 {
 public:
@@ -77,9 +85,9 @@ public:
 
     virtual ~PDEPanelInspection() = default;
 
-    /// A short fixed name, unlike every other panel's of the bundle.
-    virtual QString identifier() const = 0;
     virtual bool isInterfaceLoaded() const = 0;
+    /// The fields of the panel that are controls, those of the toolkit and views of the bundle's own. A view that shows
+    /// a sample picture says which by a property "picture": a text, empty while it shows none.
     virtual std::vector<Control> controls() const = 0;
     virtual std::vector<Selection> selections() const = 0;
     /// The paper name that the panel last read.
@@ -91,16 +99,22 @@ class PDEPanel
 public:
     virtual ~PDEPanel() = default;
 
+    /// A short fixed name, unlike every other panel's of the bundle.
+    virtual QString identifier() const = 0;
+
     /// The panel's view, made on first use; null when the bundle has no readable interface file for it. The panel owns
     /// it; the host may give it a parent.
     virtual QWidget *panelView() = 0;
     /// Localized.
     virtual QString panelName() = 0;
+    /// What sort of panel it is, in reverse domain notation; panels of a bundle may share it.
     virtual QString panelKind() = 0;
     /// Keywords of the options that the panel takes care of; nil when it does not say.
     virtual std::optional<QStringList> supportedPPDOptionKeys() = 0;
 
+    /// Fills the view for display. The first call also marks the choices that the controls then show.
     virtual void willShow() = 0;
+    /// The panel leaves the display, and says whether it agrees. This host takes it off whatever the answer is.
     virtual bool shouldHide() = 0;
 
     /// Marks what the controls show, and reads back what is marked. `error` is left alone; the answer is always true.
@@ -114,7 +128,9 @@ public:
     /// may show an alert, and returns when it is dismissed.
     virtual bool shouldPrint() = 0;
 
+    /// The dialog closes, to print or not. Part of the protocol; this host never calls it.
     virtual void printWindowWillClose(bool printing) = 0;
+    /// Whether the panel has help to offer. Part of the protocol; this host never calls it.
     virtual bool shouldShowHelp() = 0;
 
     /// The host's report that `key` is now marked with `choice`, whoever asked for it.
@@ -140,6 +156,13 @@ public:
     virtual const PDEPanels *PDEPanelsForType(const QString &type, PDEPluginCallback_v100_ &callback) = 0;
 };
 
+/// A value that the panels of a bundle remember among themselves for the length of one dialog.
+struct PDERemembered
+{
+    QString name;
+    std::optional<QString> value; // nil while nothing is remembered
+};
+
 /// The root object of the bundle's shared object. It stays loaded until the process ends.
 class PDEPlugInEntry
 {
@@ -148,6 +171,10 @@ public:
 
     /// A new principal object; null when the class is not this bundle's.
     virtual std::unique_ptr<PDEPlugIn> principalObject(const QString &className) = 0;
+
+    /// All that can be remembered, whether or not a dialog is open; for scripts, tests and diagnosis.
+    virtual std::vector<PDERemembered> remembered() const = 0;
 };
 
-Q_DECLARE_INTERFACE(PDEPlugInEntry, "org.qnprint.PDEPlugInEntry/100")
+#define PDEPlugInEntry_iid "org.qnprint.PDEPlugInEntry/" QT_STRINGIFY(QN_PDE_INTERFACE_VERSION)
+Q_DECLARE_INTERFACE(PDEPlugInEntry, PDEPlugInEntry_iid)

@@ -1,5 +1,6 @@
 // The root object of the bundle's shared object: where the host comes in.
 #include "BasePDEPlugIn.h"
+#include "PerforatedMemo.h"
 #include "PrintSettingAdvancedPDE.h"
 #include "PrintSettingPDE.h"
 
@@ -23,7 +24,7 @@ constexpr std::array<PDEPanelMaker, 2> kPanels{make<PrintSettingPDE_v100_>, make
 class BundleEntry final : public QObject, public PDEPlugInEntry
 {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.qnprint.PDEPlugInEntry/100")
+    Q_PLUGIN_METADATA(IID PDEPlugInEntry_iid)
     Q_INTERFACES(PDEPlugInEntry)
 
 public:
@@ -33,6 +34,7 @@ public:
             return nullptr;
         return std::make_unique<QNKVPageSettings15PlugIn_v100_>(kPanels);
     }
+    std::vector<PDERemembered> remembered() const override { return {{perforatedMemo::kKey, perforatedMemo::value()}}; }
 };
 
 #include "BundleEntry.moc"

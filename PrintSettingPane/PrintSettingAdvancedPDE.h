@@ -9,13 +9,13 @@ public:
     PrintSettingAdvancedPDE_v100_();
     ~PrintSettingAdvancedPDE_v100_() override;
 
+    QString identifier() const override { return "advanced"; }
     QWidget *panelView() override;
     QString panelName() override;
     bool shouldPrint() override;
 
 private:
     // What is the advanced panel's own (PrintSettingAdvancedPDE.cpp).
-    QString identifier() const override { return "advanced"; }
     bool isInterfaceLoaded() const override { return kAdvPDEView; }
     toolkit::PopUpButton *popUpOf(OptionId id) override;
     toolkit::CheckBox *checkBoxOf(OptionId id) override;

@@ -9,11 +9,11 @@ public:
     PrintSettingPDE_v100_();
     ~PrintSettingPDE_v100_() override;
 
+    QString identifier() const override { return "basic"; }
     bool shouldPrint() override;
 
 private:
     // What is the basic panel's own (PrintSettingPDE.cpp).
-    QString identifier() const override { return "basic"; }
     std::vector<Selection> selections() const override;
     std::optional<OptionFields> fieldsOf(OptionId id) override;
     toolkit::PopUpButton *popUpOf(OptionId id) override;

@@ -2,6 +2,8 @@
 // and writing the controls back.
 #include "PrintSettingAdvancedPDE.h"
 
+#include "PerforatedMemo.h"
+
 #include <cstring>
 
 void PrintSettingAdvancedPDE_v100_::initializeOptions()
@@ -99,7 +101,7 @@ void PrintSettingAdvancedPDE_v100_::saveSetting_BiDiPrint() { saveCheckBox(Optio
 void PrintSettingAdvancedPDE_v100_::saveSetting_Density() { savePopUp(OptionId::density, mDensityPopUp); }
 void PrintSettingAdvancedPDE_v100_::saveSetting_Speed() { savePopUp(OptionId::speed, mSpeedPopUp); }
 
-bool PrintSettingAdvancedPDE_v100_::memoAllowsPerforated() { return perforatedMemo().value_or("YES") == "YES"; }
+bool PrintSettingAdvancedPDE_v100_::memoAllowsPerforated() { return perforatedMemo::value().value_or("YES") == "YES"; }
 
 void PrintSettingAdvancedPDE_v100_::adjustToPaper(const paper::Availability &rules, paper::Group, int formFeed,
                                                   int perforated)

@@ -1,8 +1,9 @@
 // Basic panel, group QNKVPS_IBAction: what the controls do when a person uses them.
 #include "PrintSettingPDE.h"
 
+#include "PerforatedMemo.h"
+
 #include "Foundation/Locale.h"
-#include "Foundation/UserDefaults.h"
 
 namespace {
 
@@ -30,11 +31,11 @@ void PrintSettingPDE_v100_::changeFormFeedMode()
 
     // On the screen only: the perforated choice reaches the PPD when it is saved or picked.
     if (paper::isRollOrUserDefined(paperNameView()) && mode == 1) {
-        setPerforatedMemo("YES");
+        perforatedMemo::store("YES");
         perforatedItem(0).setEnabled(true);
         perforatedItem(1).setEnabled(true);
     } else {
-        setPerforatedMemo("NO");
+        perforatedMemo::store("NO");
         switchPerforatedOff();
     }
 

@@ -2,6 +2,8 @@
 // writing the controls back.
 #include "PrintSettingPDE.h"
 
+#include "PerforatedMemo.h"
+
 #include "Foundation/Locale.h"
 
 namespace {
@@ -134,10 +136,10 @@ void PrintSettingPDE_v100_::adjustToPaper(const paper::Availability &rules, pape
                                           int perforated)
 {
     if (group == paper::Group::roll) {
-        if (perforatedMemo() == "YES")
+        if (perforatedMemo::value() == "YES")
             mFormFeedModePopUp.selectItemAtIndex(1);
         if (formFeed == 1) // as it was at the start: a move by the memo does not store the memo again
-            setPerforatedMemo("YES");
+            perforatedMemo::store("YES");
     }
     const bool enabled = paper::holds(rules.feedAmount, formFeed, perforated);
     setPaperFeedEntry(enabled ? Entry::enabled : Entry::disabled);
@@ -150,5 +152,5 @@ void PrintSettingPDE_v100_::adjustToPaper(const paper::Availability &rules, pape
 void PrintSettingPDE_v100_::adjustAfterSelection(paper::Group group, int formFeedAtEntry)
 {
     if (group == paper::Group::roll && formFeedAtEntry == 1)
-        setPerforatedMemo("YES");
+        perforatedMemo::store("YES");
 }

@@ -1,20 +1,19 @@
 // Life cycle, protocol answers and change propagation that both panels share.
 #include "SharedSettingsPDE.h"
 
+#include "PerforatedMemo.h"
+
 #include "Foundation/Bundle.h"
 #include "Foundation/Locale.h"
 #include "Foundation/NotificationCenter.h"
 #include "Foundation/SystemVersion.h"
-#include "Foundation/UserDefaults.h"
 
 #include <array>
 
 using foundation::NotificationCenter;
-using foundation::UserDefaults;
 
 namespace {
 
-constexpr auto kPerforatedMemoKey = "QnPerforated";
 constexpr std::array kUSBSchemes{"usb", "QNLRUSB"}; // exact, letter case included
 
 /// In the order in which a refresh selects their items.
@@ -97,8 +96,7 @@ void SharedSettingsPDE::findOptions()
 
 SharedSettingsPDE::~SharedSettingsPDE()
 {
-    if (perforatedMemo())
-        UserDefaults::standard().removeObjectForKey(kPerforatedMemoKey);
+    perforatedMemo::remove();
     delete mHalftoneView;
     NotificationCenter::defaultCenter().removeObserver(this, printing::kPaperDidChangeNotification);
 }
@@ -276,16 +274,6 @@ bool SharedSettingsPDE::withholdsMirror()
     std::int32_t version = 0; // what a system that does not answer leaves; the answer's status does not count
     foundation::Gestalt(foundation::gestaltSystemVersion, &version);
     return version >= kFirstVersionWithout;
-}
-
-std::optional<QString> SharedSettingsPDE::perforatedMemo()
-{
-    return UserDefaults::standard().objectForKey(kPerforatedMemoKey);
-}
-
-void SharedSettingsPDE::setPerforatedMemo(const QString &value)
-{
-    UserDefaults::standard().setObjectForKey(value, kPerforatedMemoKey);
 }
 
 bool SharedSettingsPDE::connectField(const QString &name, QWidget *control)

@@ -93,8 +93,6 @@ protected:
 
     /// The mirror option is withheld from users of system 10.6 and later.
     static bool withholdsMirror();
-    static std::optional<QString> perforatedMemo();
-    static void setPerforatedMemo(const QString &value);
 
     // Inspection and interface file.
     struct ControlField

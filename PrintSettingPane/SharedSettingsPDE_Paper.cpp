@@ -1,6 +1,12 @@
 // How the panels follow the kind of paper.
 #include "SharedSettingsPDE.h"
 
+#include <algorithm>
+#include <string_view>
+
+// The tables of paper know nothing of Qt, nor of the print settings; the one name that both sides use is compared here.
+static_assert(std::ranges::equal(paper::kUserDefinedPaper, std::string_view(printing::kUserDefinedPaper)));
+
 std::optional<QString> SharedSettingsPDE::readPaperName() const
 {
     return printing::PMPrintSettingsGetValue(pdePluginCallbackObject->printSettings(), printing::kPaperNameKey);

@@ -3,8 +3,6 @@
 
 namespace {
 
-constexpr auto kDisplayOrderKey = "Summary Display Order";
-
 void addIfNotEmpty(PDESummary &summary, const QString &title, const std::optional<QString> &value)
 {
     if (!value || value->isEmpty())
@@ -27,7 +25,7 @@ std::optional<PDESummary> SharedSettingsPDE::summaryInfo()
     }
     // The order is stored last and wins over an entry that happens to have its title. It holds every title in the order
     // of adding, empty ones and equal ones included.
-    summary.values.remove(kDisplayOrderKey);
+    summary.values.remove(kPDESummaryDisplayOrder);
     return summary;
 }
 

@@ -168,7 +168,7 @@ TEST_F(DamagedBundle, OfAnotherInterfaceVersionIsRefused)
     write(
         "Info.json",
         R"({"executable":"QNKVPageSettings15.so","principalClass":"QNKVPageSettings15PlugIn_v100_","abiVersion":99})");
-    EXPECT_EQ(refusal(), ": made for interface version 99, this dialog has 100");
+    EXPECT_EQ(refusal(), QString(": made for interface version 99, this dialog has %1").arg(kPDEInterfaceVersion));
 }
 
 TEST_F(DamagedBundle, WithoutInfoOrWithBrokenInfoIsRefused)
@@ -191,10 +191,13 @@ TEST_F(DamagedBundle, WithoutItsCodeOrWithOtherCodeIsRefused)
 
 TEST_F(DamagedBundle, OfAnotherPrincipalClassIsNotAccepted)
 {
-    write("Info.json", R"({"executable":"QNKVPageSettings15.so","principalClass":"Another","abiVersion":100})");
+    const QString info = R"({"executable":"QNKVPageSettings15.so","principalClass":"Another","abiVersion":%1})";
+    write("Info.json", info.arg(kPDEInterfaceVersion).toUtf8());
     openCopy();
     EXPECT_FALSE(reply()["accepted"].toBool(true));
     EXPECT_EQ(reply()["panels"], QJsonValue(QJsonArray()));
+    request({{"do", "state"}});
+    EXPECT_EQ(reply()["defaults"], QJsonValue(QJsonObject{{"QnPerforated", QJsonValue()}})); // its code still says so
 }
 
 TEST_F(DamagedBundle, ThatDoesNotExistIsRefused)

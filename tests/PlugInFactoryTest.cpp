@@ -28,6 +28,7 @@ public:
         ++living;
     }
     ~CountedPanel() override { --living; }
+    QString identifier() const override { return m_name; }
     QWidget *panelView() override { return nullptr; }
     QString panelName() override { return m_name; }
     QString panelKind() override { return {}; }
@@ -44,7 +45,6 @@ public:
     const PDEPanelInspection &inspection() const override { return *this; }
 
 private:
-    QString identifier() const override { return m_name; }
     bool isInterfaceLoaded() const override { return false; }
     std::vector<Control> controls() const override { return {}; }
     std::vector<Selection> selections() const override { return {}; }

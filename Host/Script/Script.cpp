@@ -19,7 +19,6 @@ namespace host {
 
 namespace {
 
-constexpr auto kDisplayOrder = "Summary Display Order";
 constexpr auto kDefaultURI = "ipp://localhost/printers/qn";
 constexpr auto kDefaultSystem = "11.0.0";
 constexpr auto kDefaultLocale = "en_US";
@@ -201,7 +200,7 @@ QJsonArray Script::panelIdentifiers() const
 {
     QJsonArray identifiers;
     for (const auto &panel : *m_session->panels())
-        identifiers.append(panel->inspection().identifier());
+        identifiers.append(panel->identifier());
     return identifiers;
 }
 
@@ -350,7 +349,7 @@ QJsonObject Script::summary(const ScriptRequest &request)
     if (!summary)
         return {{"result", QJsonValue()}};
     QJsonObject result = toObject(summary->values);
-    result[kDisplayOrder] = QJsonArray::fromStringList(summary->displayOrder);
+    result[kPDESummaryDisplayOrder] = QJsonArray::fromStringList(summary->displayOrder);
     return {{"result", result}};
 }
 

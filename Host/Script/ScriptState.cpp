@@ -2,13 +2,9 @@
 #include "ControlState.h"
 #include "Script.h"
 
-#include "Foundation/UserDefaults.h"
-
 namespace host {
 
 namespace {
-
-constexpr auto kPerforatedMemo = "QnPerforated";
 
 QJsonValue orNull(const std::optional<QString> &text) { return text ? QJsonValue(*text) : QJsonValue(); }
 
@@ -32,22 +28,24 @@ QJsonObject panelState(const PDEPanelInspection &panel)
 QJsonObject Script::state(const ScriptRequest &request)
 {
     QJsonObject panels;
-    const auto add = [&](const PDEPanelInspection &shown) { panels[shown.identifier()] = panelState(shown); };
+    const auto add = [&](const PDEPanel &shown) { panels[shown.identifier()] = panelState(shown.inspection()); };
     if (request.has("panel"))
-        add(panel(request).inspection());
+        add(panel(request));
     else if (session().panels())
         for (const auto &each : *session().panels())
-            add(each->inspection());
+            add(*each);
 
     QJsonObject marked;
     for (const auto &[key, value] : session().ppd().marked().asKeyValueRange())
         marked[key] = value;
-    const auto memo = foundation::UserDefaults::standard().objectForKey(kPerforatedMemo);
+    QJsonObject remembered;
+    for (const auto &[name, value] : session().remembered())
+        remembered[name] = orNull(value);
     const PDEPanel *const onDisplay = session().panelOnDisplay();
     return {{"panels", panels},
             {"marked", marked},
-            {"defaults", QJsonObject{{kPerforatedMemo, orNull(memo)}}},
-            {"display", onDisplay ? QJsonValue(onDisplay->inspection().identifier()) : QJsonValue()}};
+            {"defaults", remembered},
+            {"display", onDisplay ? QJsonValue(onDisplay->identifier()) : QJsonValue()}};
 }
 
 } // namespace host

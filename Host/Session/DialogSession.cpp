@@ -105,8 +105,8 @@ PDEPanel *DialogSession::panel(const QString &identifier) const
 {
     if (!m_panels)
         return nullptr;
-    const auto found = std::ranges::find_if(
-        *m_panels, [&](const auto &panel) { return panel->inspection().identifier() == identifier; });
+    const auto found =
+        std::ranges::find_if(*m_panels, [&](const auto &panel) { return panel->identifier() == identifier; });
     return found == m_panels->end() ? nullptr : found->get();
 }
 

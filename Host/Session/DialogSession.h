@@ -12,8 +12,7 @@
 
 namespace host {
 
-/// The name by which a size that the user defined goes.
-inline constexpr auto kUserDefinedPaper = "customsize";
+using printing::kUserDefinedPaper;
 
 /// A paper of the dialog. `name` is nil when the print settings hold none; `size` nil when it is not known.
 struct ChosenPaper
@@ -58,6 +57,8 @@ public:
     const PDEPanels *panels() const { return m_panels; }
     PDEPanel *panel(const QString &identifier) const;
     PDEPanel *panelOnDisplay() const { return m_onDisplay; }
+    /// What the panels remember for this dialog.
+    std::vector<PDERemembered> remembered() const { return m_plugIn.entry->remembered(); }
     PPDDocument &ppd() const { return *m_ppd; }
     const ChosenPaper &paper() const { return m_paper; }
     /// The PPD's papers, in the language of the dialog where the PPD has it.

@@ -208,7 +208,7 @@ void DialogWindow::offerPanels()
         m_tabs->removeTab(0);
     if (m_printer.session && m_printer.session->panels())
         for (const auto &panel : *m_printer.session->panels())
-            m_tabs->setTabData(m_tabs->addTab(panel->panelName().replace('&', "&&")), panel->inspection().identifier());
+            m_tabs->setTabData(m_tabs->addTab(panel->panelName().replace('&', "&&")), panel->identifier());
     showPanelAt(m_tabs->currentIndex());
 }
 

@@ -13,6 +13,9 @@ namespace printing {
 /// The print setting that carries the name of the chosen paper.
 inline constexpr auto kPaperNameKey = "com.apple.print.PageToPaperMappingMediaName";
 
+/// The paper name that stands for a size which the user defined.
+inline constexpr auto kUserDefinedPaper = "customsize";
+
 /// Posted when the user has chosen another paper.
 inline constexpr auto kPaperDidChangeNotification = "PMPrintDestinationPaperDidChangeNotification";
 
