@@ -56,36 +56,22 @@ constexpr bool isRollOrUserDefined(std::optional<std::u16string_view> name)
     return groupOf(name) == Group::roll || name == kUserDefinedPaper;
 }
 
-/// When an item or a control is on.
-enum class When { never, always, formFeed0, formFeed1, perforated0, byMemo };
-
-struct Availability
+/// The row of a group. Every table below has one row a group, in the order of the groups.
+template <class Row>
+constexpr const Row &rowOf(const std::array<Row, kGroups> &table, Group group)
 {
-    std::array<When, 4> formFeed;   // FF 0 to FF 3
-    std::array<When, 2> perforated; // PF 0 and PF 1
-    When feedAmount;                // the amount entry of the basic panel
-    When perforatedBox;             // the check box of the advanced panel
-    const char *sizeType;           // choice of QnPaperSizeType
-};
+    return table[static_cast<std::size_t>(group)];
+}
 
-namespace rows {
-using enum When;
-inline constexpr std::array<Availability, kGroups> kAvailability{{
-    // clang-format off
-    //                 FF 0         FF 1    FF 2         FF 3      PF 0    PF 1       amount      box        size type
-    /* plain      */ {{always,      always, always,      never},  {always, never},     formFeed0, never,     "QnCutSize"},
-    /* perforated */ {{never,       never,  always,      never},  {always, never},     never,     never,     "QnPerforatedSize"},
-    /* roll       */ {{perforated0, always, never,       never},  {always, formFeed1}, formFeed0, byMemo,    "QnRollSize"},
-    /* continuous */ {{always,      never,  never,       never},  {always, never},     always,    never,     "QnInfiniteSize"},
-    /* retract    */ {{never,       never,  never,       always}, {always, never},     formFeed0, never,     "QnPerforatedRetractSize"},
-    /* other      */ {{perforated0, always, perforated0, never},  {always, formFeed1}, formFeed0, formFeed1, "QnCustomSize"},
-    // clang-format on
-}};
-} // namespace rows
+template <class Row>
+constexpr bool hasARowForEachGroup(const std::array<Row, kGroups> &table)
+{
+    return std::ranges::all_of(table, [&](const Row &row) { return &rowOf(table, row.group) == &row; });
+}
 
-constexpr const Availability &availability(Group group) { return rows::kAvailability[static_cast<std::size_t>(group)]; }
+/// When an item or a control is on.
+enum class When { never, always, formFeed0, formFeed1, perforated0 };
 
-/// `byMemo` is not decided here: the memo is the panels' matter.
 constexpr bool holds(When when, int formFeed, int perforated)
 {
     switch (when) {
@@ -94,42 +80,85 @@ constexpr bool holds(When when, int formFeed, int perforated)
     case When::formFeed0: return formFeed == 0;
     case When::formFeed1: return formFeed == 1;
     case When::perforated0: return perforated == 0;
-    case When::byMemo: return true;
     }
     return false;
 }
 
-/// How selections move away from what the paper does not allow.
-struct Correction
+/// When the check box of the advanced panel is on. The memo is the panels' matter.
+enum class PerforatedBox { never, formFeed1, byMemo };
+
+struct Availability
 {
-    bool (*isWrong)(int formFeed);
-    int formFeed;            // the item selected instead
-    bool enablesPerforated1; // together with that move
-    bool clearsPerforated1;  // PF 1 becomes PF 0
+    Group group;
+    std::array<When, 4> formFeed;   // FF 0 to FF 3
+    std::array<When, 2> perforated; // PF 0 and PF 1
+    When feedAmount;                // the amount entry of the basic panel
+    PerforatedBox perforatedBox;
+    const char *sizeType; // choice of QnPaperSizeType
 };
 
 namespace rows {
-constexpr bool is3(int item) { return item == 3; }
-constexpr bool is2or3(int item) { return item == 2 || item == 3; }
-template <int N>
-constexpr bool isNot(int item)
-{
-    return item != N;
-}
-
-inline constexpr std::array<Correction, kGroups> kCorrections{{
+using enum Group;
+using enum When;
+using Box = PerforatedBox;
+inline constexpr std::array<Availability, kGroups> kAvailability{{
     // clang-format off
-    /* plain      */ {is3,      1, false, true},
-    /* perforated */ {isNot<2>, 2, false, true},
-    /* roll       */ {is2or3,   1, true,  false},
-    /* continuous */ {isNot<0>, 0, false, true},
-    /* retract    */ {isNot<3>, 3, true,  true}, // PF 1 is refused again when its menu opens
-    /* other      */ {is3,      1, false, false},
+    //            FF 0         FF 1    FF 2         FF 3      PF 0    PF 1       amount      box             size type
+    {plain,      {always,      always, always,      never},  {always, never},     formFeed0, Box::never,     "QnCutSize"},
+    {perforated, {never,       never,  always,      never},  {always, never},     never,     Box::never,     "QnPerforatedSize"},
+    {roll,       {perforated0, always, never,       never},  {always, formFeed1}, formFeed0, Box::byMemo,    "QnRollSize"},
+    {continuous, {always,      never,  never,       never},  {always, never},     always,    Box::never,     "QnInfiniteSize"},
+    {retract,    {never,       never,  never,       always}, {always, never},     formFeed0, Box::never,     "QnPerforatedRetractSize"},
+    {other,      {perforated0, always, perforated0, never},  {always, formFeed1}, formFeed0, Box::formFeed1, "QnCustomSize"},
     // clang-format on
 }};
+static_assert(hasARowForEachGroup(kAvailability));
 } // namespace rows
 
-constexpr const Correction &correction(Group group) { return rows::kCorrections[static_cast<std::size_t>(group)]; }
+constexpr const Availability &availability(Group group) { return rowOf(rows::kAvailability, group); }
+
+/// How selections move away from what the paper does not allow.
+struct Correction
+{
+    enum class If { is3, is2or3, isNot0, isNot2, isNot3 };
+    enum class Item { nothing, PF1 };
+
+    Group group;
+    If wrong;     // about the selected form-feed item
+    int formFeed; // the item selected instead
+    Item enables; // together with that move
+    Item clears;  // PF 1, where it is selected, becomes PF 0
+};
+
+constexpr bool holds(Correction::If condition, int formFeed)
+{
+    switch (condition) {
+    case Correction::If::is3: return formFeed == 3;
+    case Correction::If::is2or3: return formFeed == 2 || formFeed == 3;
+    case Correction::If::isNot0: return formFeed != 0;
+    case Correction::If::isNot2: return formFeed != 2;
+    case Correction::If::isNot3: return formFeed != 3;
+    }
+    return false;
+}
+
+namespace rows {
+using enum Correction::If;
+using enum Correction::Item;
+inline constexpr std::array<Correction, kGroups> kCorrections{{
+    // clang-format off
+    {.group = plain,      .wrong = is3,    .formFeed = 1, .enables = nothing, .clears = PF1},
+    {.group = perforated, .wrong = isNot2, .formFeed = 2, .enables = nothing, .clears = PF1},
+    {.group = roll,       .wrong = is2or3, .formFeed = 1, .enables = PF1,     .clears = nothing},
+    {.group = continuous, .wrong = isNot0, .formFeed = 0, .enables = nothing, .clears = PF1},
+    {.group = retract,    .wrong = isNot3, .formFeed = 3, .enables = PF1,     .clears = PF1}, // PF 1 is refused again when its menu opens
+    {.group = other,      .wrong = is3,    .formFeed = 1, .enables = nothing, .clears = nothing},
+    // clang-format on
+}};
+static_assert(hasARowForEachGroup(kCorrections));
+} // namespace rows
+
+constexpr const Correction &correction(Group group) { return rowOf(rows::kCorrections, group); }
 
 /// One step of validating a menu item. A refusal ends the steps when it names the item that is asked about; disabling
 /// is a side effect, whichever item that is.
@@ -145,40 +174,6 @@ struct MenuStep
     If condition = If::always;
 };
 
-namespace rows {
-constexpr MenuStep disableFF(int item, MenuStep::If condition = MenuStep::If::always)
-{
-    return {MenuStep::Verb::disable, MenuStep::Menu::formFeed, item, condition};
-}
-constexpr MenuStep refuseFF(int item) { return {MenuStep::Verb::refuse, MenuStep::Menu::formFeed, item}; }
-constexpr MenuStep refusePF1(MenuStep::If condition = MenuStep::If::always)
-{
-    return {MenuStep::Verb::refuse, MenuStep::Menu::perforated, 1, condition};
-}
-
-inline constexpr std::array kPlainSteps{refuseFF(3), refusePF1()};
-inline constexpr std::array kPerforatedSteps{disableFF(0), disableFF(1), refuseFF(3), refusePF1()};
-inline constexpr std::array kRollSteps{disableFF(2), refuseFF(3), refusePF1(MenuStep::If::formFeed0),
-                                       disableFF(0, MenuStep::If::perforated1)};
-inline constexpr std::array kContinuousSteps{disableFF(1), disableFF(2), refuseFF(3), refusePF1()};
-inline constexpr std::array kRetractSteps{disableFF(0), disableFF(1), disableFF(2), refusePF1()};
-inline constexpr std::array kOtherSteps{refusePF1(MenuStep::If::formFeed0or2), disableFF(0, MenuStep::If::perforated1),
-                                        disableFF(2, MenuStep::If::perforated1), refuseFF(3)};
-} // namespace rows
-
-constexpr std::span<const MenuStep> menuSteps(Group group)
-{
-    switch (group) {
-    case Group::plain: return rows::kPlainSteps;
-    case Group::perforated: return rows::kPerforatedSteps;
-    case Group::roll: return rows::kRollSteps;
-    case Group::continuous: return rows::kContinuousSteps;
-    case Group::retract: return rows::kRetractSteps;
-    case Group::other: return rows::kOtherSteps;
-    }
-    return {};
-}
-
 constexpr bool holds(MenuStep::If condition, int formFeed, int perforated)
 {
     switch (condition) {
@@ -189,6 +184,46 @@ constexpr bool holds(MenuStep::If condition, int formFeed, int perforated)
     }
     return false;
 }
+
+struct MenuSteps
+{
+    Group group;
+    std::span<const MenuStep> steps;
+};
+
+namespace rows {
+using If = MenuStep::If;
+constexpr MenuStep disableFF(int item, If condition = If::always)
+{
+    return {MenuStep::Verb::disable, MenuStep::Menu::formFeed, item, condition};
+}
+constexpr MenuStep refuseFF(int item) { return {MenuStep::Verb::refuse, MenuStep::Menu::formFeed, item}; }
+constexpr MenuStep refusePF1(If condition = If::always)
+{
+    return {MenuStep::Verb::refuse, MenuStep::Menu::perforated, 1, condition};
+}
+
+inline constexpr std::array kPlainSteps{refuseFF(3), refusePF1()};
+inline constexpr std::array kPerforatedSteps{disableFF(0), disableFF(1), refuseFF(3), refusePF1()};
+inline constexpr std::array kRollSteps{disableFF(2), refuseFF(3), refusePF1(If::formFeed0),
+                                       disableFF(0, If::perforated1)};
+inline constexpr std::array kContinuousSteps{disableFF(1), disableFF(2), refuseFF(3), refusePF1()};
+inline constexpr std::array kRetractSteps{disableFF(0), disableFF(1), disableFF(2), refusePF1()};
+inline constexpr std::array kOtherSteps{refusePF1(If::formFeed0or2), disableFF(0, If::perforated1),
+                                        disableFF(2, If::perforated1), refuseFF(3)};
+
+inline constexpr std::array<MenuSteps, kGroups> kMenuSteps{{
+    {plain, kPlainSteps},
+    {perforated, kPerforatedSteps},
+    {roll, kRollSteps},
+    {continuous, kContinuousSteps},
+    {retract, kRetractSteps},
+    {other, kOtherSteps},
+}};
+static_assert(hasARowForEachGroup(kMenuSteps));
+} // namespace rows
+
+constexpr std::span<const MenuStep> menuSteps(Group group) { return rowOf(rows::kMenuSteps, group).steps; }
 
 /// The form-feed item that a paper stands for where no menu says otherwise; nil: the marked one. The roll printer case
 /// is saved by the same table, which is intended.

@@ -101,16 +101,16 @@ void PrintSettingAdvancedPDE_v100_::saveSetting_BiDiPrint() { saveCheckBox(Optio
 void PrintSettingAdvancedPDE_v100_::saveSetting_Density() { savePopUp(OptionId::density, mDensityPopUp); }
 void PrintSettingAdvancedPDE_v100_::saveSetting_Speed() { savePopUp(OptionId::speed, mSpeedPopUp); }
 
+/// The memo is only read here; the basic panel writes it.
 bool PrintSettingAdvancedPDE_v100_::memoAllowsPerforated() { return perforatedMemo::value().value_or("YES") == "YES"; }
 
-void PrintSettingAdvancedPDE_v100_::adjustToPaper(const paper::Availability &rules, paper::Group, int formFeed,
-                                                  int perforated)
+void PrintSettingAdvancedPDE_v100_::adjustToPaper(const paper::Availability &rules, paper::Group, int formFeed, int)
 {
-    // The memo is only read here; the basic panel writes it.
-    const bool allowed = rules.perforatedBox == paper::When::byMemo
-                             ? memoAllowsPerforated()
-                             : paper::holds(rules.perforatedBox, formFeed, perforated);
-    mPerforatedChkBx.setEnabled(allowed);
+    switch (rules.perforatedBox) {
+    case paper::PerforatedBox::never: mPerforatedChkBx.setEnabled(false); break;
+    case paper::PerforatedBox::formFeed1: mPerforatedChkBx.setEnabled(formFeed == 1); break;
+    case paper::PerforatedBox::byMemo: mPerforatedChkBx.setEnabled(memoAllowsPerforated()); break;
+    }
 }
 
 void PrintSettingAdvancedPDE_v100_::adjustAfterSelection(paper::Group group, int)

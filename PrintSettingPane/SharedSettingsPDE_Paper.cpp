@@ -41,12 +41,12 @@ void SharedSettingsPDE::selectItem_Adjust()
     const int perforated = mPerforatedPopUp.indexOfSelectedItem();
     const paper::Group group = paperGroup();
     const paper::Correction &correction = paper::correction(group);
-    if (correction.isWrong(formFeed)) {
+    if (paper::holds(correction.wrong, formFeed)) {
         mFormFeedModePopUp.selectItemAtIndex(correction.formFeed);
-        if (correction.enablesPerforated1)
+        if (correction.enables == paper::Correction::Item::PF1)
             perforatedItem(1).setEnabled(true);
     }
-    if (correction.clearsPerforated1 && perforated == 1)
+    if (correction.clears == paper::Correction::Item::PF1 && perforated == 1)
         mPerforatedPopUp.selectItemAtIndex(0);
     adjustAfterSelection(group, formFeed);
 }

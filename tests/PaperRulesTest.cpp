@@ -45,12 +45,12 @@ TEST(Corrections, TakeIndexesThatNoTableNamesByTheWords)
 {
     // -1 for an empty menu, 4 and more for a PPD with many modes: "is not 2" holds for them, "is 3" does not.
     for (const int item : {-1, 4, 9}) {
-        EXPECT_FALSE(correction(Group::plain).isWrong(item)) << item;
-        EXPECT_TRUE(correction(Group::perforated).isWrong(item)) << item;
-        EXPECT_FALSE(correction(Group::roll).isWrong(item)) << item;
-        EXPECT_TRUE(correction(Group::continuous).isWrong(item)) << item;
-        EXPECT_TRUE(correction(Group::retract).isWrong(item)) << item;
-        EXPECT_FALSE(correction(Group::other).isWrong(item)) << item;
+        EXPECT_FALSE(holds(correction(Group::plain).wrong, item)) << item;
+        EXPECT_TRUE(holds(correction(Group::perforated).wrong, item)) << item;
+        EXPECT_FALSE(holds(correction(Group::roll).wrong, item)) << item;
+        EXPECT_TRUE(holds(correction(Group::continuous).wrong, item)) << item;
+        EXPECT_TRUE(holds(correction(Group::retract).wrong, item)) << item;
+        EXPECT_FALSE(holds(correction(Group::other).wrong, item)) << item;
     }
 }
 
