@@ -1,27 +1,27 @@
-// Basic panel: typing, stepping and checking the paper feed amount. Millimetres are whole numbers from 1 to 51, inches
-// have one decimal, from 0.1 to 2.0. The text of the unit label decides; anything but "mm" counts as inches.
+// Basic panel: typing, stepping and checking the paper feed amount. The text of the unit label decides which unit
+// counts; anything but "mm" is inches.
 #include "PrintSettingPDE.h"
+
+#include "FeedUnits.h"
 
 #include "Toolkit/Alert.h"
 
 using foundation::doubleValue;
+using paper::kInches;
+using paper::kMillimetres;
 
 namespace {
 
 constexpr qsizetype kLongestText = 3;
 
-constexpr double kSmallestMillimetres = 1.0;
-constexpr double kLargestMillimetres = 51.0;
-constexpr double kSmallestInches = 0.1;
-constexpr double kLargestInches = 2.0;
-constexpr auto kLargestInchesText = "2.0";
-
 QString first(const QString &text) { return text.left(1); }
 QString last(const QString &text) { return text.right(1); }
 
+QString inchText(double amount) { return QString::number(amount, 'f', paper::kInches.decimals); }
+
 } // namespace
 
-bool PrintSettingPDE_v100_::isInMillimetres() const { return mMetricSystemStr.stringValue() == "mm"; }
+bool PrintSettingPDE_v100_::isInMillimetres() const { return mMetricSystemStr.stringValue() == kMillimetres.label; }
 
 void PrintSettingPDE_v100_::setPaperFeedEntry(Entry state)
 {
@@ -108,10 +108,10 @@ void PrintSettingPDE_v100_::showNumberAndStepper(double value)
 
 void PrintSettingPDE_v100_::stepMillimetres(const QString &text, double stepped)
 {
-    if (isUnusableForStepping(text, kLargestMillimetres))
+    if (isUnusableForStepping(text, kMillimetres.largest))
         return showAlert();
     const double amount = mPaperFeedTxt.doubleValue();
-    mPaperFeedinteger += 1.0; // not what the new text is made from; kept so
+    mPaperFeedinteger += kMillimetres.increment; // not what the new text is made from; kept so
 
     if (stepped > kPaperFeedMax && !text.isEmpty())
         return showNumberAndStepper(kPaperFeedMax);
@@ -136,20 +136,19 @@ void PrintSettingPDE_v100_::stepMillimetres(const QString &text, double stepped)
 
 void PrintSettingPDE_v100_::stepInches(const QString &text, double stepped)
 {
-    if (isUnusableForStepping(text, kLargestInches))
+    if (isUnusableForStepping(text, kInches.largest))
         return showAlert();
-    inch += 0.1; // not what the new text is made from; kept so
+    inch += kInches.increment; // not what the new text is made from; kept so
 
-    if (stepped > kPaperFeedMax)
-        return showTextAndStepper(
-            kLargestInchesText); // not the PPD's maximum: in millimetres it is, here deliberately not
-    if (stepped != 0.1 && text.isEmpty() && stepped != 1.0)
+    if (stepped > kPaperFeedMax) // to the PPD's maximum in millimetres, here deliberately not
+        return showTextAndStepper(inchText(kInches.largest));
+    if (stepped != kInches.increment && text.isEmpty() && stepped != 1.0)
         return showTextAndStepper(QString());
-    if (stepped == 0.1 && !text.isEmpty())
-        return showTextAndStepper("0.1");
+    if (stepped == kInches.increment && !text.isEmpty())
+        return showTextAndStepper(inchText(kInches.increment));
     if (stepped == 0 && text == "0")
         return showTextAndStepper("0");
-    showTextAndStepper(QString::number(stepped, 'f', 1));
+    showTextAndStepper(inchText(stepped));
 }
 
 void PrintSettingPDE_v100_::showAlert() const
@@ -157,7 +156,7 @@ void PrintSettingPDE_v100_::showAlert() const
     toolkit::Alert alert;
     alert.addButtonWithTitle(localized("OK"));
     alert.setMessageText(localized("Unsupported Size Title"));
-    alert.setInformativeText(localized(isInMillimetres() ? "Unsupported Size MSG1" : "Unsupported Size MSG2"));
+    alert.setInformativeText(localized(paper::feedUnit(isInMillimetres()).outOfRangeKey));
     alert.setAlertStyle(toolkit::Alert::Style::warning);
     alert.runModal();
 }
@@ -170,15 +169,11 @@ bool PrintSettingPDE_v100_::shouldShowAlert() const
         return true;
     const QString text = mPaperFeedTxt.stringValue().value_or(QString());
     const double amount = mPaperFeedTxt.doubleValue();
+    const paper::FeedUnit &unit = paper::feedUnit(isInMillimetres());
     // The order of these tests is kept, and with it those that an earlier one makes needless.
-    const bool refused = isInMillimetres() ? amount < kSmallestMillimetres || last(text) == "." || first(text) == "0" ||
-                                                 (first(text) == "0" && amount >= 1.0) ||
-                                                 (first(text) == "0" && amount >= kLargestMillimetres) ||
-                                                 amount > kLargestMillimetres || amount < kSmallestMillimetres
-                                           : amount < kSmallestInches || last(text) == "." || first(text) == "." ||
-                                                 (first(text) == "0" && amount >= 1.0) ||
-                                                 (first(text) == "0" && amount >= kLargestInches) ||
-                                                 amount > kLargestInches || amount < kSmallestInches;
+    const bool refused = amount < unit.smallest || last(text) == "." || first(text) == unit.refusedStart ||
+                         (first(text) == "0" && amount >= 1.0) || (first(text) == "0" && amount >= unit.largest) ||
+                         amount > unit.largest || amount < unit.smallest;
     if (refused)
         showAlert();
     return !refused;

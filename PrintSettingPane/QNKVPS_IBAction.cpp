@@ -1,16 +1,10 @@
 // Basic panel, group QNKVPS_IBAction: what the controls do when a person uses them.
 #include "PrintSettingPDE.h"
 
+#include "FeedUnits.h"
 #include "PerforatedMemo.h"
 
 #include "Foundation/Locale.h"
-
-namespace {
-
-constexpr double kLargestMillimetres = 51.0;
-constexpr double kLargestInches = 2.0;
-
-} // namespace
 
 void PrintSettingPDE_v100_::changeDensity()
 {
@@ -65,7 +59,6 @@ void PrintSettingPDE_v100_::changePerforated()
 void PrintSettingPDE_v100_::changePaperFeed()
 {
     // Sets the text to itself and no more, on purpose: alerts and checks of the range are the entry's matter.
-    const double largest = foundation::Locale::current().usesMetricSystem() ? kLargestMillimetres : kLargestInches;
-    if (mPaperFeedTxt.doubleValue() > largest)
+    if (mPaperFeedTxt.doubleValue() > paper::feedUnit(foundation::IsMetric()).largest)
         mPaperFeedTxt.setStringValue(mPaperFeedTxt.stringValue().value_or(QString()));
 }

@@ -2,9 +2,11 @@
 // writing the controls back.
 #include "PrintSettingPDE.h"
 
+#include "FeedUnits.h"
 #include "PerforatedMemo.h"
 
 #include "Foundation/Locale.h"
+#include "Printing/Units.h"
 
 namespace {
 
@@ -16,12 +18,9 @@ constexpr auto kAmountParameter = "QnPaperFeed";
 
 /// 25.5, not 25.4, on purpose: it makes 51 mm exactly 2.0 inch, the limit of the check before printing.
 constexpr float kMillimetresPerInchInLimits = 25.5F;
-constexpr double kMillimetresPerInch = 25.4;
+static_assert(paper::kMillimetres.largest / kMillimetresPerInchInLimits == paper::kInches.largest);
 
-constexpr double kInchIncrement = 0.1;
-constexpr int kDecimals = 6;
-
-bool isMetric() { return foundation::Locale::current().usesMetricSystem(); }
+constexpr int kDecimals = 6; // of the amount in the PPD
 
 /// Null when the PPD lacks it or when it is not a real number.
 ppd_cparam_t *realParameter(ppd_file_t *ppd, const char *name)
@@ -31,9 +30,10 @@ ppd_cparam_t *realParameter(ppd_file_t *ppd, const char *name)
     return parameter && parameter->type == PPD_CUSTOM_REAL ? parameter : nullptr;
 }
 
+/// Divided in single precision.
 double limitInUnitShown(float millimetres)
 {
-    return isMetric() ? millimetres : millimetres / kMillimetresPerInchInLimits; // divided in single precision
+    return foundation::IsMetric() ? millimetres : millimetres / kMillimetresPerInchInLimits;
 }
 
 } // namespace
@@ -60,20 +60,21 @@ void PrintSettingPDE_v100_::saveOptions()
 
 void PrintSettingPDE_v100_::finishFirstDisplay()
 {
-    mPaperFeedinteger = 26.0;
-    inch = 1.0;
-    if (isMetric()) {
+    mPaperFeedinteger = paper::kMillimetres.initial;
+    inch = paper::kInches.initial;
+    if (foundation::IsMetric()) {
         mPaperFeedStepper.setIntegerValue(mPaperFeedTxt.integerValue());
     } else {
         mPaperFeedStepper.setDoubleValue(mPaperFeedTxt.doubleValue());
-        mPaperFeedStepper.setIncrement(kInchIncrement);
+        mPaperFeedStepper.setIncrement(paper::kInches.increment);
     }
 }
 
 void PrintSettingPDE_v100_::initializeUI_OtherStr()
 {
-    mPaperFeedTxt.setStringValue(isMetric() ? "26" : "1");
-    mMetricSystemStr.setStringValue(isMetric() ? "mm" : "inch");
+    const paper::FeedUnit &unit = paper::feedUnit(foundation::IsMetric());
+    mPaperFeedTxt.setDoubleValue(unit.initial);
+    mMetricSystemStr.setStringValue(unit.label);
 }
 
 void PrintSettingPDE_v100_::initializeUI_Density() { initializePopUp(OptionId::density, mDensityStr, mDensityPopUp); }
@@ -127,7 +128,7 @@ void PrintSettingPDE_v100_::saveSetting_PaperFeed()
         parameter->current.custom_real = static_cast<float>(amount); // in the unit shown, unconverted
     if (!mPaperFeed_Choices || !printSettings || !mPaperFeed_Option)
         return;
-    const double inches = isMetric() ? amount / kMillimetresPerInch : amount;
+    const double inches = foundation::IsMetric() ? amount / printing::kMillimetresPerInch : amount;
     pdePluginCallbackObject->willChangePPDOptionKeyValue(mPaperFeed_Option->keyword,
                                                          QString::number(inches, 'f', kDecimals));
 }
