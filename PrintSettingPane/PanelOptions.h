@@ -20,26 +20,32 @@ enum class OptionId {
     biDiPrint,
 };
 
+/// The panels that name an option among the supported ones. The basic panel names all.
+enum class ClaimedBy { basic, both };
+
 struct OptionRow
 {
     OptionId id;
     const char *keyword;
     PDEItemFlags mask; // flags under which the marked choice is read again
+    ClaimedBy claimedBy;
 };
 
 /// In the order in which the marked choices are read. Speed deliberately goes with media and roll printer case.
 inline constexpr std::array kOptionRows{
-    OptionRow{OptionId::density, "QnDensity", kPDEItem_Density},
-    OptionRow{OptionId::speed, "QnSpeed", kPDEItem_Media | kPDEItem_RollPrint},
-    OptionRow{OptionId::media, "QnMedia", kPDEItem_Media},
-    OptionRow{OptionId::formFeedMode, "QnFormFeedMode", kPDEItem_FormFeedMode},
-    OptionRow{OptionId::paperFeed, "QnPaperFeed", kPDEItem_PaperFeed},
-    OptionRow{OptionId::perforated, "QnPerforated", kPDEItem_Perforated},
-    OptionRow{OptionId::halftone, "QnHalftonePattern", kPDEItem_Halftone},
-    OptionRow{OptionId::reversal, "QnReversal", kPDEItem_Reversal},
-    OptionRow{OptionId::rollPrint, "QnRollPrinterCase", kPDEItem_RollPrint},
-    OptionRow{OptionId::mirror, "QnMirror", kPDEItem_Mirror},
-    OptionRow{OptionId::biDiPrint, "QnBiDiPrint", kPDEItem_BiDiPrint},
+    // clang-format off
+    OptionRow{OptionId::density,      "QnDensity",         kPDEItem_Density,                    ClaimedBy::both},
+    OptionRow{OptionId::speed,        "QnSpeed",           kPDEItem_Media | kPDEItem_RollPrint, ClaimedBy::both},
+    OptionRow{OptionId::media,        "QnMedia",           kPDEItem_Media,                      ClaimedBy::basic},
+    OptionRow{OptionId::formFeedMode, "QnFormFeedMode",    kPDEItem_FormFeedMode,               ClaimedBy::basic},
+    OptionRow{OptionId::paperFeed,    "QnPaperFeed",       kPDEItem_PaperFeed,                  ClaimedBy::basic},
+    OptionRow{OptionId::perforated,   "QnPerforated",      kPDEItem_Perforated,                 ClaimedBy::basic}, // though both save it
+    OptionRow{OptionId::halftone,     "QnHalftonePattern", kPDEItem_Halftone,                   ClaimedBy::both},
+    OptionRow{OptionId::reversal,     "QnReversal",        kPDEItem_Reversal,                   ClaimedBy::both},
+    OptionRow{OptionId::rollPrint,    "QnRollPrinterCase", kPDEItem_RollPrint,                  ClaimedBy::basic},
+    OptionRow{OptionId::mirror,       "QnMirror",          kPDEItem_Mirror,                     ClaimedBy::both},
+    OptionRow{OptionId::biDiPrint,    "QnBiDiPrint",       kPDEItem_BiDiPrint,                  ClaimedBy::both},
+    // clang-format on
 };
 
 constexpr const OptionRow &optionRow(OptionId id) { return kOptionRows[static_cast<std::size_t>(id)]; }
@@ -78,6 +84,12 @@ inline constexpr std::array kPopUpTexts{
 };
 
 constexpr const PopUpTexts &popUpTexts(OptionId id) { return *std::ranges::find(kPopUpTexts, id, &PopUpTexts::id); }
+
+/// The options whose pop-ups and check boxes a refresh brings in line with the selections, in the order of doing so.
+inline constexpr std::array kRefreshedPopUps{OptionId::density,      OptionId::speed,     OptionId::media,
+                                             OptionId::formFeedMode, OptionId::rollPrint, OptionId::paperFeed};
+inline constexpr std::array kRefreshedCheckBoxes{OptionId::reversal, OptionId::perforated, OptionId::mirror,
+                                                 OptionId::biDiPrint};
 
 /// When an option may appear in a summary, besides having a selection.
 enum class SummaryIf { always, paperFeedEnabled, mirrorOffered, biDiPrintOffered };

@@ -9,10 +9,6 @@ constexpr std::array<PDEItemFlags, 9> kRefreshOrder{kPDEItem_Density,   kPDEItem
                                                     kPDEItem_PaperFeed, kPDEItem_Perforated, kPDEItem_Halftone,
                                                     kPDEItem_Reversal,  kPDEItem_Mirror,     kPDEItem_BiDiPrint};
 
-/// The basic panel claims the others, although this one saves the perforated choice too.
-constexpr std::array kClaimed{OptionId::density,  OptionId::speed,  OptionId::halftone,
-                              OptionId::reversal, OptionId::mirror, OptionId::biDiPrint};
-
 } // namespace
 
 PrintSettingAdvancedPDE_v100_::PrintSettingAdvancedPDE_v100_()
@@ -44,7 +40,7 @@ toolkit::CheckBox *PrintSettingAdvancedPDE_v100_::checkBoxOf(OptionId id)
     return id == OptionId::perforated ? &mPerforatedChkBx : SharedSettingsPDE::checkBoxOf(id);
 }
 
-bool PrintSettingAdvancedPDE_v100_::claims(OptionId id) const { return std::ranges::count(kClaimed, id) > 0; }
+bool PrintSettingAdvancedPDE_v100_::claims(OptionId id) const { return optionRow(id).claimedBy == ClaimedBy::both; }
 
 std::span<const PDEItemFlags> PrintSettingAdvancedPDE_v100_::refreshOrder() const { return kRefreshOrder; }
 

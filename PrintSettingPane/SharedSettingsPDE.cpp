@@ -8,7 +8,9 @@
 #include "Foundation/NotificationCenter.h"
 #include "Foundation/SystemVersion.h"
 
+#include <algorithm>
 #include <array>
+#include <functional>
 
 using foundation::NotificationCenter;
 
@@ -16,28 +18,24 @@ namespace {
 
 constexpr std::array kUSBSchemes{"usb", "QNLRUSB"}; // exact, letter case included
 
-/// In the order in which a refresh selects their items.
-struct RefreshedControl
-{
-    OptionId id;
-    PDEItemFlags mask;
-};
-constexpr std::array kRefreshedPopUps{
-    RefreshedControl{OptionId::density, kPDEItem_Density},
-    RefreshedControl{OptionId::speed, kPDEItem_Media | kPDEItem_RollPrint},
-    RefreshedControl{OptionId::media, kPDEItem_Media},
-    RefreshedControl{OptionId::formFeedMode, kPDEItem_FormFeedMode},
-    RefreshedControl{OptionId::rollPrint, kPDEItem_RollPrint},
-    RefreshedControl{OptionId::paperFeed, kPDEItem_PaperFeed},
-};
-constexpr std::array kRefreshedCheckBoxes{
-    RefreshedControl{OptionId::reversal, kPDEItem_Reversal},
-    RefreshedControl{OptionId::perforated, kPDEItem_Perforated},
-    RefreshedControl{OptionId::mirror, kPDEItem_Mirror},
-    RefreshedControl{OptionId::biDiPrint, kPDEItem_BiDiPrint},
-};
-
 } // namespace
+
+using P = SharedSettingsPDE;
+
+constexpr std::array<P::OptionMembers, 10> P::kOptionMembers{{
+    // clang-format off
+    {OptionId::density,      "mDensity_Selection",      &P::mDensity_Option,      &P::mDensity_Choices,      &P::mDensity_Selection,      &P::mDensityPopUp},
+    {OptionId::speed,        "mSpeed_Selection",        &P::mSpeed_Option,        &P::mSpeed_Choices,        &P::mSpeed_Selection},
+    {OptionId::media,        "mMedia_Selection",        &P::mMedia_Option,        &P::mMedia_Choices,        &P::mMedia_Selection,        &P::mMediaPopUp},
+    {OptionId::formFeedMode, "mFormFeedMode_Selection", &P::mFormFeedMode_Option, &P::mFormFeedMode_Choices, &P::mFormFeedMode_Selection, &P::mFormFeedModePopUp},
+    {OptionId::paperFeed,    "mPaperFeed_Selection",    &P::mPaperFeed_Option,    &P::mPaperFeed_Choices,    &P::mPaperFeed_Selection,    &P::mPaperFeedPopUp},
+    {OptionId::perforated,   "mPerforated_Selection",   &P::mPerforated_Option,   &P::mPerforated_Choices,   &P::mPerforated_Selection},
+    {OptionId::halftone,     "mHalftone_Selection",     &P::mHalftone_Option,     &P::mHalftone_Choices,     &P::mHalftone_Selection},
+    {OptionId::reversal,     "mReversal_Selection",     &P::mReversal_Option,     &P::mReversal_Choices,     &P::mReversal_Selection,     nullptr, &P::mReversalChkBx},
+    {OptionId::mirror,       "mMirror_Selection",       &P::mMirror_Option,       &P::mMirror_Choices,       &P::mMirror_Selection,       nullptr, &P::mMirrorChkBx},
+    {OptionId::biDiPrint,    "mBiDiPrint_Selection",    &P::mBiDiPrint_Option,    &P::mBiDiPrint_Choices,    &P::mBiDiPrint_Selection,    nullptr, &P::mBiDiPrintChkBx},
+    // clang-format on
+}};
 
 SharedSettingsPDE::SharedSettingsPDE()
 {
@@ -114,44 +112,31 @@ void SharedSettingsPDE::PMPrintDestinationPaperDidChangeNotification()
     setValuesToKey();
 }
 
+const SharedSettingsPDE::OptionMembers *SharedSettingsPDE::membersOf(OptionId id)
+{
+    static_assert(std::ranges::adjacent_find(kOptionMembers, std::ranges::greater_equal(), &OptionMembers::id) ==
+                  kOptionMembers.end()); // each option once, in the order of OptionId
+    const auto row = std::ranges::find(kOptionMembers, id, &OptionMembers::id);
+    return row == kOptionMembers.end() ? nullptr : &*row;
+}
+
 std::optional<SharedSettingsPDE::OptionFields> SharedSettingsPDE::fieldsOf(OptionId id)
 {
-    switch (id) {
-    case OptionId::density: return OptionFields{mDensity_Option, mDensity_Choices, mDensity_Selection};
-    case OptionId::speed: return OptionFields{mSpeed_Option, mSpeed_Choices, mSpeed_Selection};
-    case OptionId::media: return OptionFields{mMedia_Option, mMedia_Choices, mMedia_Selection};
-    case OptionId::formFeedMode:
-        return OptionFields{mFormFeedMode_Option, mFormFeedMode_Choices, mFormFeedMode_Selection};
-    case OptionId::paperFeed: return OptionFields{mPaperFeed_Option, mPaperFeed_Choices, mPaperFeed_Selection};
-    case OptionId::perforated: return OptionFields{mPerforated_Option, mPerforated_Choices, mPerforated_Selection};
-    case OptionId::halftone: return OptionFields{mHalftone_Option, mHalftone_Choices, mHalftone_Selection};
-    case OptionId::reversal: return OptionFields{mReversal_Option, mReversal_Choices, mReversal_Selection};
-    case OptionId::mirror: return OptionFields{mMirror_Option, mMirror_Choices, mMirror_Selection};
-    case OptionId::biDiPrint: return OptionFields{mBiDiPrint_Option, mBiDiPrint_Choices, mBiDiPrint_Selection};
-    case OptionId::rollPrint: break;
-    }
-    return std::nullopt;
+    const OptionMembers *const row = membersOf(id);
+    return row ? std::optional(OptionFields{this->*row->option, this->*row->choices, this->*row->selection})
+               : std::nullopt;
 }
 
 toolkit::PopUpButton *SharedSettingsPDE::popUpOf(OptionId id)
 {
-    switch (id) {
-    case OptionId::density: return &mDensityPopUp;
-    case OptionId::media: return &mMediaPopUp;
-    case OptionId::formFeedMode: return &mFormFeedModePopUp;
-    case OptionId::paperFeed: return &mPaperFeedPopUp;
-    default: return nullptr;
-    }
+    const OptionMembers *const row = membersOf(id);
+    return row && row->popUp ? &(this->*row->popUp) : nullptr;
 }
 
 toolkit::CheckBox *SharedSettingsPDE::checkBoxOf(OptionId id)
 {
-    switch (id) {
-    case OptionId::reversal: return &mReversalChkBx;
-    case OptionId::mirror: return &mMirrorChkBx;
-    case OptionId::biDiPrint: return &mBiDiPrintChkBx;
-    default: return nullptr;
-    }
+    const OptionMembers *const row = membersOf(id);
+    return row && row->checkBox ? &(this->*row->checkBox) : nullptr;
 }
 
 void SharedSettingsPDE::initSetTitleTexts()
@@ -253,15 +238,15 @@ void SharedSettingsPDE::updateUIItem(PDEItemFlags flags)
 
 void SharedSettingsPDE::refreshPopUps(PDEItemFlags flags)
 {
-    for (const auto &[id, mask] : kRefreshedPopUps)
-        if (auto *popUp = flags & mask ? popUpOf(id) : nullptr)
+    for (const OptionId id : kRefreshedPopUps)
+        if (auto *popUp = flags & optionRow(id).mask ? popUpOf(id) : nullptr)
             popUp->selectItemAtIndex(indexOfSelection(id)); // -1, not found, selects nothing
 }
 
 void SharedSettingsPDE::refreshCheckBoxes(PDEItemFlags flags)
 {
-    for (const auto &[id, mask] : kRefreshedCheckBoxes) {
-        auto *const box = flags & mask ? checkBoxOf(id) : nullptr;
+    for (const OptionId id : kRefreshedCheckBoxes) {
+        auto *const box = flags & optionRow(id).mask ? checkBoxOf(id) : nullptr;
         const int index = indexOfSelection(id);
         if (box && index >= 0)
             box->setState(index); // so the PPD lists the off choice first
@@ -295,17 +280,11 @@ std::vector<PDEPanelInspection::Control> SharedSettingsPDE::controls() const
 std::vector<PDEPanelInspection::Selection> SharedSettingsPDE::selections() const
 {
     const auto keyword = [](const PDEChoice *choice) { return choice ? choice->ppdTitle() : std::nullopt; };
-    return {
-        {"mDensity_Selection", keyword(mDensity_Selection)},
-        {"mSpeed_Selection", keyword(mSpeed_Selection)},
-        {"mMedia_Selection", keyword(mMedia_Selection)},
-        {"mFormFeedMode_Selection", keyword(mFormFeedMode_Selection)},
-        {"mPaperFeed_Selection", keyword(mPaperFeed_Selection)},
-        {"mPerforated_Selection", keyword(mPerforated_Selection)},
-        {"mHalftone_Selection", keyword(mHalftone_Selection)},
-        {"mOption_Selection", keyword(mOption_Selection)},
-        {"mReversal_Selection", keyword(mReversal_Selection)},
-        {"mMirror_Selection", keyword(mMirror_Selection)},
-        {"mBiDiPrint_Selection", keyword(mBiDiPrint_Selection)},
-    };
+    std::vector<Selection> result;
+    for (const OptionMembers &row : kOptionMembers) {
+        if (row.id == OptionId::reversal) // the option group's own comes before those of its boxes
+            result.push_back({"mOption_Selection", keyword(mOption_Selection)});
+        result.push_back({row.selectionName, keyword(this->*row.selection)});
+    }
+    return result;
 }

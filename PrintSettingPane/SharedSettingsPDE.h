@@ -138,6 +138,21 @@ protected:
     bool isMetter = false;
 
 private:
+    /// What belongs to an option that both panels know. `popUp` or `checkBox` is what a refresh brings in line; null
+    /// where no panel has such a control, or only one of them: that one says so in `popUpOf` or `checkBoxOf`.
+    struct OptionMembers
+    {
+        OptionId id;
+        const char *selectionName;
+        ppd_option_t *SharedSettingsPDE::*option;
+        std::optional<ChoiceList> SharedSettingsPDE::*choices;
+        const PDEChoice *SharedSettingsPDE::*selection;
+        toolkit::PopUpButton SharedSettingsPDE::*popUp = nullptr;
+        toolkit::CheckBox SharedSettingsPDE::*checkBox = nullptr;
+    };
+    static const std::array<OptionMembers, 10> kOptionMembers; // in the order of OptionId
+    static const OptionMembers *membersOf(OptionId id);        // null for an option that one panel alone knows
+
     void findOptions();
     bool isInSummary(const SummaryRow &row);
     void addToSummary(PDESummary &summary, const SummaryRow &row, const OptionFields &fields);
