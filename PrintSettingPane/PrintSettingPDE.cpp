@@ -12,14 +12,6 @@ constexpr std::array<PDEItemFlags, 10> kRefreshOrder{
     kPDEItem_Density,    kPDEItem_Media,    kPDEItem_RollPrint, kPDEItem_FormFeedMode, kPDEItem_PaperFeed,
     kPDEItem_Perforated, kPDEItem_Halftone, kPDEItem_Reversal,  kPDEItem_Mirror,       kPDEItem_BiDiPrint};
 
-/// The panel's speed list is never given back, unlike every other: kept alive here, past the panel.
-void keepAlive(std::optional<ChoiceList> choices)
-{
-    static std::vector<std::optional<ChoiceList>> kept;
-    if (choices)
-        kept.push_back(std::move(choices));
-}
-
 } // namespace
 
 PrintSettingPDE_v100_::PrintSettingPDE_v100_()
@@ -31,8 +23,6 @@ PrintSettingPDE_v100_::PrintSettingPDE_v100_()
                                                  {"mRollPrintPopUp", &mRollPrintPopUp},
                                                  {"mRollPrintChkBx", &mRollPrintChkBx}});
 }
-
-PrintSettingPDE_v100_::~PrintSettingPDE_v100_() { keepAlive(std::move(mSpeed_Choices)); }
 
 std::optional<SharedSettingsPDE::OptionFields> PrintSettingPDE_v100_::fieldsOf(OptionId id)
 {

@@ -7,7 +7,6 @@ class PrintSettingPDE_v100_ final : public SharedSettingsPDE
 {
 public:
     PrintSettingPDE_v100_();
-    ~PrintSettingPDE_v100_() override;
 
     QString identifier() const override { return "basic"; }
     bool shouldPrint() override;
@@ -31,7 +30,7 @@ private:
     void saveOptions() override;
     void finishFirstDisplay() override;
     void initializeUI_OtherStr();
-    void initializeUI_Density();
+    void initializeUI_Density(); // without a caller; kept for the name, as is saveSetting_Density
     void initializeUI_Media();
     void initializeUI_FormFeedMode();
     void initializeUI_RollPrint();
