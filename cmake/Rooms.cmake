@@ -28,3 +28,10 @@ function(qn_add_room name)
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     qn_configure_room(${name})
 endfunction()
+
+# A room of the host. Includes from another room are written with that room's name.
+function(qn_add_host_room name)
+    add_library(${name} STATIC ${ARGN})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/Host)
+    qn_configure_room(${name})
+endfunction()

@@ -4,6 +4,7 @@
 #include "Foundation/Bundle.h"
 #include "PPDText.h"
 #include "Print.h"
+#include "Results.h"
 
 #include <QFile>
 
@@ -80,9 +81,7 @@ protected:
                           .option("QnMedia", "Media", "B", {{"A", "a"}, {"B", "b"}, {"C", "c"}})
                           .option("QnSpeed", "Speed", "", {{"A", "a"}})
                           .option("QnMirror", "Mirror", "", {}));
-        QString error;
-        m_bundle = foundation::Bundle::open(QN_BUNDLE_DIR, "en", &error);
-        ASSERT_TRUE(m_bundle) << error.toStdString();
+        m_bundle = support::value(foundation::Bundle::open(QN_BUNDLE_DIR, "en"));
     }
     void init()
     {
@@ -131,8 +130,7 @@ TEST_F(BasePanel, ReadsItsNameOnce)
 {
     init();
     EXPECT_EQ(m_panel.panelName(), "Print Settings");
-    QString error;
-    m_bundle = foundation::Bundle::open(QN_BUNDLE_DIR, "de", &error); // the language changes
+    m_bundle = support::value(foundation::Bundle::open(QN_BUNDLE_DIR, "de")); // the language changes
     EXPECT_EQ(m_panel.panelName(), "Print Settings");
 }
 

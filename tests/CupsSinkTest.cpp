@@ -1,15 +1,21 @@
 // One job on its way to a real CUPS server, stopped or broken off in the middle.
+#include "Cups/CupsSink.h"
 #include "CupsServer.h"
-#include "Jobs/Job.h"
 #include "Print.h"
+#include "Results.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 using namespace host;
 using support::CupsServer;
+using support::sentence;
+using support::value;
 
 namespace {
 
@@ -32,19 +38,25 @@ protected:
         for (int i = 0; i < kParts; ++i)
             file.write(QByteArray(kPart, 'x'));
         ASSERT_TRUE(file.flush());
-        QString error;
-        m_document = Document::open(file.fileName(), &error);
-        ASSERT_TRUE(m_document) << error.toStdString();
+        m_document = value(Document::open(file.fileName()));
     }
-    JobSink::Result send(const JobProgress &progress)
+    foundation::Or<QString> send(const JobProgress &progress = [](qint64, qint64) {})
     {
         CupsSink sink("counter", std::nullopt);
-        return sink.submit({*m_document, "large", 1, {}, {{"QnDensity", "D9"}}}, progress);
+        return sink.submit({m_document, "large", 1, {}, {{"QnDensity", "D9"}}}, progress, m_stop.get_token());
     }
-    static bool goOn(qint64, qint64) { return true; }
+    /// Does something once, when half of the document has gone.
+    static JobProgress atHalf(std::function<void()> act)
+    {
+        return [act, isDone = false](qint64 done, qint64 total) mutable {
+            if (done >= total / 2 && !std::exchange(isDone, true))
+                act();
+        };
+    }
 
     CupsServer m_server;
-    std::unique_ptr<Document> m_document;
+    std::shared_ptr<Document> m_document;
+    std::stop_source m_stop;
 };
 
 TEST_F(Sending, TellsHowFarItIs)
@@ -53,10 +65,8 @@ TEST_F(Sending, TellsHowFarItIs)
     const auto result = send([&](qint64 done, qint64 total) {
         EXPECT_EQ(total, m_document->size());
         steps.push_back(done);
-        return true;
     });
-    ASSERT_TRUE(result.done) << result.sentence.toStdString();
-    EXPECT_EQ(result.sentence, "counter-1");
+    EXPECT_EQ(value(result), "counter-1");
     EXPECT_GT(steps.size(), kParts);
     EXPECT_TRUE(std::is_sorted(steps.begin(), steps.end()));
     EXPECT_EQ(steps.back(), m_document->size());
@@ -65,49 +75,41 @@ TEST_F(Sending, TellsHowFarItIs)
 
 TEST_F(Sending, CancelsTheJobWhenItIsStoppedAndLeavesNothingInTheSpool)
 {
-    const auto result = send([](qint64 done, qint64 total) { return done < total / 2; });
-    EXPECT_FALSE(result.done);
-    EXPECT_EQ(result.sentence, "counter: stopped");
+    EXPECT_EQ(sentence(send(atHalf([this] { m_stop.request_stop(); }))), "counter: stopped");
     EXPECT_EQ(m_server.openJobs(), "");
     EXPECT_EQ(m_server.spooled(), QStringList());
     EXPECT_EQ(m_server.recordCount(), 0);
-    EXPECT_TRUE(send(goOn).done); // and the next one is none the worse for it
+    m_stop = {};
+    EXPECT_EQ(value(send()), "counter-2"); // and the next one is none the worse for it
     EXPECT_EQ(m_server.record(2)["title"], "large");
     EXPECT_EQ(m_server.recordCount(), 1);
 }
 
 TEST_F(Sending, StopsWhileTheServerKeepsSilent)
 {
-    bool isFrozen = false;
-    int asked = 0;
-    const auto result = send([&](qint64 done, qint64 total) {
-        if (done > total / 2 && !std::exchange(isFrozen, true))
-            m_server.freeze();
-        return !isFrozen || ++asked < 3;
-    });
-    EXPECT_FALSE(result.done);
-    EXPECT_TRUE(result.sentence.startsWith("counter: stopped")) << result.sentence.toStdString();
+    std::jthread person;
+    const QString problem = sentence(send(atHalf([&] {
+        m_server.freeze();
+        person = std::jthread([this] {
+            QThread::msleep(1500); // by then the sockets are full and the job waits for the server
+            m_stop.request_stop();
+        });
+    })));
+    EXPECT_TRUE(problem.startsWith("counter: stopped")) << problem.toStdString();
     m_server.thaw();
     EXPECT_EQ(m_server.recordCount(), 0);
 }
 
 TEST_F(Sending, SaysWhatMayBeLeftWhenTheServerDiesAndPrintsNothingTwice)
 {
-    bool isDead = false;
-    const auto result = send([&](qint64 done, qint64 total) {
-        if (done > total / 2 && !std::exchange(isDead, true))
-            m_server.kill();
-        return true;
-    });
-    EXPECT_FALSE(result.done);
-    EXPECT_TRUE(result.sentence.startsWith("counter: ")) << result.sentence.toStdString();
-    EXPECT_TRUE(result.sentence.endsWith("job counter-1 may still be there, so look before you print again"))
-        << result.sentence.toStdString();
+    const QString told = sentence(send(atHalf([this] { m_server.kill(); })));
+    EXPECT_TRUE(told.startsWith("counter: ")) << told.toStdString();
+    EXPECT_TRUE(told.endsWith("job counter-1 may still be there, so look before you print again"))
+        << told.toStdString();
     const auto problem = m_server.restart();
     ASSERT_FALSE(problem) << problem->toStdString();
-    const auto again = send(goOn);
-    ASSERT_TRUE(again.done) << again.sentence.toStdString();
-    EXPECT_FALSE(m_server.record(again.sentence.section('-', 1).toInt()).isEmpty());
+    const QString again = value(send());
+    EXPECT_FALSE(m_server.record(again.section('-', 1).toInt()).isEmpty());
     EXPECT_EQ(m_server.recordCount(), 1); // half a document is not printed, not even later
 }
 
@@ -119,10 +121,9 @@ protected:
 
 TEST_F(SendingToAFullSpool, SaysSoAndLeavesNothingThere)
 {
-    const auto result = send(goOn);
-    EXPECT_FALSE(result.done);
-    EXPECT_TRUE(result.sentence.startsWith("counter: ")) << result.sentence.toStdString();
-    EXPECT_FALSE(result.sentence.contains("may still be there")) << result.sentence.toStdString();
+    const QString told = sentence(send());
+    EXPECT_TRUE(told.startsWith("counter: ")) << told.toStdString();
+    EXPECT_FALSE(told.contains("may still be there")) << told.toStdString();
     EXPECT_EQ(m_server.openJobs(), "");
     EXPECT_EQ(m_server.spooled(), QStringList());
     EXPECT_EQ(m_server.recordCount(), 0);

@@ -2,6 +2,7 @@
 #include "Jobs/Document.h"
 
 #include "Print.h"
+#include "Results.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -12,6 +13,7 @@
 #include <unistd.h>
 
 using host::Document;
+using support::value;
 
 namespace {
 
@@ -27,9 +29,8 @@ protected:
     }
     QString refusal(const QString &path)
     {
-        QString error;
-        EXPECT_FALSE(Document::open(path, &error));
-        return error;
+        const auto document = Document::open(path);
+        return document ? QString("(opened)") : document.problem().sentence;
     }
     QTemporaryDir m_directory;
 };
@@ -48,11 +49,11 @@ class Formats : public Documents, public testing::WithParamInterface<Content>
 
 TEST_P(Formats, AreToldByTheContentNotByTheName)
 {
-    QString error;
-    const auto document = Document::open(file("misleading.doc", GetParam().bytes), &error);
-    ASSERT_EQ(document != nullptr, *GetParam().format != '\0') << error.toStdString();
-    if (!document)
+    const auto opened = Document::open(file("misleading.doc", GetParam().bytes));
+    ASSERT_EQ(bool(opened), *GetParam().format != '\0');
+    if (!opened)
         return;
+    const auto &document = *opened;
     EXPECT_EQ(document->format(), GetParam().format);
     EXPECT_EQ(document->extension(), GetParam().extension);
     EXPECT_EQ(document->read(), GetParam().bytes);
@@ -75,9 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Contents, Formats,
 
 TEST_F(Documents, AreNamedByTheirFile)
 {
-    QString error;
-    const auto document = Document::open(file("-o x.pdf", "%PDF-1.4"), &error);
-    ASSERT_TRUE(document) << error.toStdString();
+    const auto document = value(Document::open(file("-o x.pdf", "%PDF-1.4")));
     EXPECT_EQ(document->title(), "-o x.pdf");
     EXPECT_EQ(document->size(), 8);
 }
@@ -96,10 +95,8 @@ TEST_F(Documents, ThatCannotBePrintedAreNamedInOneSentence)
 
 TEST_F(Documents, AreReadByDescriptorOnceTheyAreOpen)
 {
-    QString error;
     const QString path = file("a.txt", "first");
-    const auto document = Document::open(path, &error);
-    ASSERT_TRUE(document);
+    const auto document = value(Document::open(path));
     ASSERT_TRUE(QFile::remove(path));
     file("a.txt", "another");
     EXPECT_EQ(document->read(), QByteArray("first"));
@@ -114,12 +111,11 @@ TEST_F(Documents, ComeFromStandardInputToo)
     const QByteArray text = "%PDF-1.4 from a pipe";
     ASSERT_EQ(::write(ends[1], text.constData(), static_cast<std::size_t>(text.size())), text.size());
     ::close(ends[1]);
-    QString error;
-    const auto document = Document::open("-", &error);
+    const auto opened = Document::open("-");
     ::dup2(before, STDIN_FILENO);
     ::close(before);
     ::close(ends[0]);
-    ASSERT_TRUE(document) << error.toStdString();
+    const auto document = value(opened);
     EXPECT_EQ(document->title(), "standard input");
     EXPECT_EQ(document->read(), text);
 }

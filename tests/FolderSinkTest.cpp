@@ -1,7 +1,8 @@
 // Jobs that go into a folder: whole, beside each other, or not at all.
-#include "Jobs/Job.h"
+#include "Jobs/FolderSink.h"
 
 #include "Print.h"
+#include "Results.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,6 +16,8 @@
 #include <sys/resource.h>
 
 using namespace host;
+using support::sentence;
+using support::value;
 
 namespace {
 
@@ -27,16 +30,14 @@ protected:
         QFile file(m_directory.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
         file.close();
-        QString error;
-        m_document = Document::open(file.fileName(), &error);
-        ASSERT_TRUE(m_document) << error.toStdString();
+        m_document = value(Document::open(file.fileName()));
     }
-    JobSink::Result submit(
-        const QString &title = "ticket.pdf", const JobProgress &progress = [](qint64, qint64) { return true; })
+    foundation::Or<QString> submit(const QString &title = "ticket.pdf", std::stop_token stop = {})
     {
         FolderSink sink(m_out);
-        return sink.submit({*m_document, title, 2, "1-3,5", {{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.023622"}}},
-                           progress);
+        return sink.submit(
+            {m_document, title, 2, "1-3,5", {{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.023622"}}},
+            [](qint64, qint64) {}, std::move(stop));
     }
     QStringList files() const { return QDir(m_out).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
     QByteArray content(const QString &name) const
@@ -47,14 +48,12 @@ protected:
 
     QTemporaryDir m_directory;
     QString m_out = m_directory.filePath("out/of/jobs");
-    std::unique_ptr<Document> m_document;
+    std::shared_ptr<Document> m_document;
 };
 
 TEST_F(Folder, ReceivesTheDocumentAndATicketWithEveryOption)
 {
-    const auto result = submit();
-    ASSERT_TRUE(result.done) << result.sentence.toStdString();
-    EXPECT_EQ(result.sentence, m_out + "/ticket.pdf");
+    EXPECT_EQ(value(submit()), m_out + "/ticket.pdf");
     EXPECT_EQ(files(), QStringList({"ticket.json", "ticket.pdf"}));
     EXPECT_EQ(content("ticket.pdf"), "%PDF-1.4 a ticket");
     QJsonObject ticket = QJsonDocument::fromJson(content("ticket.json")).object();
@@ -69,10 +68,10 @@ TEST_F(Folder, ReceivesTheDocumentAndATicketWithEveryOption)
 
 TEST_F(Folder, NeverLosesAnEarlierJob)
 {
-    ASSERT_TRUE(submit().done);
-    ASSERT_TRUE(submit().done);
+    ASSERT_TRUE(submit());
+    ASSERT_TRUE(submit());
     document("ticket.txt", "words");
-    ASSERT_TRUE(submit().done); // another extension, the same ticket name
+    ASSERT_TRUE(submit()); // another extension, the same ticket name
     EXPECT_EQ(files(), QStringList({"ticket-2.json", "ticket-2.pdf", "ticket-3.json", "ticket-3.txt", "ticket.json",
                                     "ticket.pdf"}));
     EXPECT_EQ(content("ticket.pdf"), "%PDF-1.4 a ticket");
@@ -80,18 +79,18 @@ TEST_F(Folder, NeverLosesAnEarlierJob)
 
 TEST_F(Folder, IsNotLeftByATitle)
 {
-    ASSERT_TRUE(submit("../../../escape.pdf").done);
-    ASSERT_TRUE(submit(".hidden").done);
-    ASSERT_TRUE(submit(QString(5000, 'x')).done);
+    ASSERT_TRUE(submit("../../../escape.pdf"));
+    ASSERT_TRUE(submit(".hidden"));
+    ASSERT_TRUE(submit(QString(5000, 'x')));
     EXPECT_EQ(files().size(), 6);
     EXPECT_TRUE(files().contains("escape.pdf"));
 }
 
 TEST_F(Folder, KeepsNothingOfAJobThatIsStopped)
 {
-    const auto result = submit("ticket.pdf", [](qint64, qint64) { return false; });
-    EXPECT_FALSE(result.done);
-    EXPECT_EQ(result.sentence, m_out + ": stopped");
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_EQ(sentence(submit("ticket.pdf", stop.get_token())), m_out + ": stopped");
     EXPECT_TRUE(files().isEmpty());
 }
 
@@ -106,17 +105,16 @@ TEST_F(Folder, KeepsNothingWhenTheDiskIsFull)
     const auto result = submit();
     ::setrlimit(RLIMIT_FSIZE, &limit);
     std::signal(SIGXFSZ, before);
-    EXPECT_FALSE(result.done);
-    EXPECT_TRUE(result.sentence.startsWith(m_out + ": ")) << result.sentence.toStdString();
+    EXPECT_TRUE(sentence(result).startsWith(m_out + ": ")) << sentence(result).toStdString();
     EXPECT_TRUE(files().isEmpty()) << files().join(' ').toStdString();
 }
 
 TEST_F(Folder, ThatCannotBeWrittenIsNamed)
 {
     m_out = "/proc/none";
-    EXPECT_EQ(submit().sentence, "/proc/none: can't be made");
+    EXPECT_EQ(sentence(submit()), "/proc/none: can't be made");
     m_out = m_directory.filePath("ticket.pdf"); // a file
-    EXPECT_FALSE(submit().done);
+    EXPECT_FALSE(submit());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "Foundation/Bundle.h"
 #include "Messages.h"
+#include "Results.h"
 
 #include <QAccessible>
 #include <QDir>
@@ -41,9 +42,7 @@ protected:
     }
     void load()
     {
-        QString error;
-        m_bundle = foundation::Bundle::open(m_directory.path(), "none", &error);
-        ASSERT_TRUE(m_bundle) << error.toStdString();
+        m_bundle = support::value(foundation::Bundle::open(m_directory.path(), "none"));
         ASSERT_TRUE(m_view.initWithFrame(QRect(0, 0, 20, 30), *m_bundle));
     }
     QImage drawn()

@@ -1,5 +1,5 @@
 // What a job says besides its options.
-#include "Jobs/Job.h"
+#include "Jobs/PageRanges.h"
 
 #include "Print.h"
 

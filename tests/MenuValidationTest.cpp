@@ -1,5 +1,6 @@
 // What the menus offer when they open.
 #include "Dialog.h"
+#include "Results.h"
 
 #include "Foundation/UserDefaults.h"
 #include "Session/DialogSession.h"
@@ -107,9 +108,7 @@ protected:
         host::DialogSession::Parameters parameters;
         parameters.ppdPath = PPDText().allOptions().file();
         parameters.paperName = paper;
-        QString error;
-        m_session = host::DialogSession::open(parameters, &error);
-        ASSERT_TRUE(m_session) << error.toStdString();
+        m_session = value(host::DialogSession::open(parameters));
         m_session->start(host::DialogSession::Prepare::everyPanel);
         PDEPanel &panel = *m_session->panel("basic");
         ASSERT_TRUE(m_session->show(panel));
@@ -117,7 +116,7 @@ protected:
         m_menu = panel.panelView()->findChild<QComboBox *>("mFormFeedModePopUp");
         ASSERT_TRUE(m_menu);
     }
-    QString marked() const { return m_session->ppd().marked()["QnFormFeedMode"]; }
+    QString marked() const { return m_session->marks().all()["QnFormFeedMode"]; }
     bool isEnabled(int index) const
     {
         return m_menu->model()->flags(m_menu->model()->index(index, 0)).testFlag(Qt::ItemIsEnabled);

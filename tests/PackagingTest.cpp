@@ -2,6 +2,7 @@
 #include "Jobs/Document.h"
 
 #include "Print.h"
+#include "Results.h"
 
 #include <QFile>
 #include <QStringList>
@@ -36,9 +37,7 @@ TEST_P(OfferedTypes, AreTypesThatArePrinted)
     QFile file(folder.filePath("document"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(GetParam().content) > 0);
     file.close();
-    QString error;
-    const auto document = host::Document::open(file.fileName(), &error);
-    ASSERT_TRUE(document) << error.toStdString();
+    const auto document = support::value(host::Document::open(file.fileName()));
     EXPECT_EQ(document->format(), GetParam().type);
     EXPECT_TRUE(entry("MimeType").split(';').contains(GetParam().type));
 }

@@ -5,6 +5,7 @@
 #include "Foundation/SystemVersion.h"
 #include "Foundation/UserDefaults.h"
 #include "Messages.h"
+#include "Results.h"
 
 #include <QTemporaryDir>
 
@@ -76,12 +77,7 @@ std::unique_ptr<PDEPanel> none(PDEPluginCallback_v100_ &, const foundation::Bund
 class Factory : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        QString error;
-        m_bundle = foundation::Bundle::open(QN_BUNDLE_DIR, "none", &error);
-        ASSERT_TRUE(m_bundle) << error.toStdString();
-    }
+    void SetUp() override { m_bundle = support::value(foundation::Bundle::open(QN_BUNDLE_DIR, "none")); }
     QTemporaryDir m_directory;
     foundation::ScopedDefaults m_scope{m_directory.filePath("defaults.ini")};
     foundation::UserDefaults &m_defaults = foundation::UserDefaults::standard();

@@ -1,33 +1,27 @@
 // The window on queues of a real CUPS server, also when that server fails at the worst moment.
 #include "CupsServer.h"
-#include "Dialog/PrinterFinder.h"
-#include "Foundation/Locale.h"
-#include "Foundation/UserDefaults.h"
-#include "Toolkit/Alert.h"
-#include "Toolkit/Controls.h"
 #include "WindowTest.h"
+
+#include "Cups/CupsSink.h"
+#include "Dialog/PrinterFinder.h"
+#include "Toolkit/Controls.h"
 
 #include <QElapsedTimer>
 #include <QInputDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
+#include <QMessageBox>
 #include <QProgressBar>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabBar>
-#include <QTest>
 #include <QTimer>
-
-#include <gtest/gtest.h>
 
 using namespace host;
 using support::CupsServer;
 
 namespace {
 
-constexpr auto kTicket = QN_SOURCE_DIR "/examples/documents/ticket.pdf";
+using support::kTicket;
+
 constexpr int kMilliseconds = 40000;
 
 class QueueWindow : public support::WindowTest
@@ -38,38 +32,26 @@ protected:
         startServer();
         ASSERT_TRUE(m_server.addQueue("counter", "usb://Qn/Thermal?serial=1"));
     }
-    void TearDown() override
-    {
-        m_window.reset();
-        toolkit::Alert::setPresenter({});
-    }
     void startServer(const CupsServer::Setup &setup = {})
     {
         const auto problem = m_server.start(setup);
         ASSERT_FALSE(problem) << problem->toStdString();
         m_server.adoptEnvironment();
-        foundation::Locale::current().set(QLocale("de_DE"));
-        foundation::UserDefaults::standard().useStore(
-            std::make_unique<QSettings>(m_server.path("defaults.ini"), QSettings::IniFormat));
-        toolkit::Alert::setPresenter([this](const toolkit::Alert &alert) { m_alerts.append(alert.messageText()); });
+        setUp(m_server.path("defaults.ini"));
     }
     void open(const QString &queue = "counter", const QString &file = kTicket)
     {
-        QString error;
-        CommandLine line;
-        line.queue = queue;
-        line.language = "en";
-        line.options = m_asked;
-        m_window = std::make_unique<DialogWindow>(Document::open(file, &error));
-        ASSERT_EQ(error, "");
-        new QueueSupply(line, *m_window); // the window's
-        m_window->show();
-        QApplication::setActiveWindow(m_window.get());
+        PrintRequest request;
+        request.queue = queue;
+        request.options = m_asked;
+        makeDialog(request, file);
+        ASSERT_TRUE(m_dialog->start());
+        showWindow();
     }
     void openAndWait(const QString &queue = "counter")
     {
         open(queue);
-        ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); })) << message().toStdString();
+        ASSERT_TRUE(waitFor([this] { return canPrint(); })) << message().toStdString();
     }
     template <class Condition>
     static bool waitFor(Condition condition)
@@ -80,21 +62,6 @@ protected:
     {
         return waitFor([&] { return message().contains(part); });
     }
-    /// The sentence under the panel.
-    QString message() const
-    {
-        for (const auto *label : m_window->findChildren<QLabel *>())
-            if (label->wordWrap() && label->parentWidget() == m_window.get())
-                return label->isVisible() ? label->text() : QString();
-        return "(no label for messages)";
-    }
-    QComboBox *field(const QString &label)
-    {
-        for (const auto *each : m_window->findChildren<QLabel *>())
-            if (each->text() == label)
-                return qobject_cast<QComboBox *>(each->buddy());
-        return nullptr;
-    }
     static QStringList items(const QComboBox &box)
     {
         QStringList texts;
@@ -102,27 +69,12 @@ protected:
             texts.append(box.itemText(i));
         return texts;
     }
-    static void choose(QComboBox &box, const QString &text)
-    {
-        box.setCurrentIndex(box.findText(text));
-        ASSERT_EQ(box.currentText(), text);
-        Q_EMIT box.activated(box.currentIndex());
-        QApplication::processEvents();
-    }
     /// Down from the item that is chosen, as a person does it.
     void moveDown(const QString &popUp)
     {
         auto *const control = find<toolkit::PopUpControl>(popUp);
         QTest::keyClick(control, Qt::Key_Down);
         QApplication::processEvents();
-    }
-    QString marked(const QString &keyword) const { return m_window->printer().session->ppd().choiceMarked(keyword); }
-    void trigger(const QString &action)
-    {
-        for (auto *each : button("Sa&ve")->menu()->actions())
-            if (each->text() == action)
-                return each->trigger();
-        FAIL() << "no action " << action.toStdString();
     }
     void savePreset(const QString &name)
     {
@@ -137,31 +89,32 @@ protected:
     /// Presses Print; whether the window then went with its job.
     bool print()
     {
-        QSignalSpy printed(m_window.get(), &DialogWindow::printed);
+        QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
         button("&Print")->click();
-        waitFor([&] { return printed.size() == 1 || (button("&Print")->isEnabled() && !message().isEmpty()); });
+        waitFor([&] { return printed.size() == 1 || (canPrint() && !message().isEmpty()); });
         return printed.size() == 1;
     }
 
     CupsServer m_server;
-    QStringList m_alerts;
     OptionValues m_asked; // on the command line
 };
 
 TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
 {
     ASSERT_TRUE(m_server.addQueue("second", "usb://Qn/Thermal?serial=2"));
+    m_server.freeze();
     open();
     EXPECT_TRUE(m_window->isVisible());
     EXPECT_EQ(message(), "Looking for the printer…");
-    EXPECT_FALSE(button("&Print")->isEnabled());
-    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled() && field("P&rinter:")->count() == 2; }));
+    EXPECT_FALSE(canPrint());
+    m_server.thaw();
+    ASSERT_TRUE(waitFor([this] { return canPrint() && printers()->count() == 2; }));
     EXPECT_EQ(message(), "");
-    EXPECT_EQ(field("P&rinter:")->currentText(), "counter");
+    EXPECT_EQ(printers()->currentText(), "counter");
     find<QSpinBox>()->setValue(4);
-    choose(*field("P&rinter:"), "second");
-    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
-    EXPECT_EQ(m_window->printer().name, "second");
+    choose(*printers(), "second");
+    ASSERT_TRUE(waitFor([this] { return canPrint(); }));
+    EXPECT_EQ(m_dialog->target()->name(), "second");
     EXPECT_TRUE(print());
     const auto job = m_server.record(1);
     EXPECT_EQ(job["PRINTER"], "second");
@@ -173,11 +126,11 @@ TEST_F(QueueWindow, OffersThePrintersWithoutChoosingOneWhenThereIsNoDefault)
 {
     open("");
     ASSERT_TRUE(waitForMessage("there is no default queue"));
-    ASSERT_TRUE(waitFor([this] { return field("P&rinter:")->count() == 1; }));
-    EXPECT_EQ(field("P&rinter:")->currentIndex(), -1);
-    EXPECT_FALSE(button("&Print")->isEnabled());
-    choose(*field("P&rinter:"), "counter");
-    EXPECT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
+    ASSERT_TRUE(waitFor([this] { return printers()->count() == 1; }));
+    EXPECT_EQ(printers()->currentIndex(), -1);
+    EXPECT_FALSE(canPrint());
+    choose(*printers(), "counter");
+    EXPECT_TRUE(waitFor([this] { return canPrint(); }));
 }
 
 TEST_F(QueueWindow, PrintsWhatWasChosenInIt)
@@ -188,9 +141,7 @@ TEST_F(QueueWindow, PrintsWhatWasChosenInIt)
     auto *const amount = find<toolkit::FieldControl>("mPaperFeedTxt");
     amount->paste("40");
     find<QSpinBox>()->setValue(3);
-    for (auto *each : m_window->findChildren<QLineEdit *>())
-        if (each->placeholderText() == "all")
-            each->setText("2-3");
+    pages()->setText("2-3");
     ASSERT_TRUE(print()) << message().toStdString();
     const auto job = m_server.record(1);
     EXPECT_EQ(job["QnMedia"], "ThermalCopy");
@@ -204,7 +155,7 @@ TEST_F(QueueWindow, OffersPrintingInBothDirectionsOverUSBOnly)
 {
     ASSERT_TRUE(m_server.addQueue("far", "socket://127.0.0.1:9"));
     const auto isOffered = [this] {
-        const QWidget *view = m_window->printer().session->panel("advanced")->panelView();
+        const QWidget *view = session().panel("advanced")->panelView();
         return view->findChild<toolkit::CheckControl *>("mBiDiPrintChkBx")->isEnabled();
     };
     openAndWait("counter");
@@ -216,9 +167,7 @@ TEST_F(QueueWindow, OffersPrintingInBothDirectionsOverUSBOnly)
 TEST_F(QueueWindow, SaysWhichPagesAreNone)
 {
     openAndWait();
-    for (auto *each : m_window->findChildren<QLineEdit *>())
-        if (each->placeholderText() == "all")
-            each->setText("3-1");
+    pages()->setText("3-1");
     EXPECT_FALSE(print());
     EXPECT_EQ(message(), "“3-1” are no pages. Write single pages and ranges, such as 1-3,5.");
     EXPECT_EQ(m_server.openJobs(), "");
@@ -258,7 +207,7 @@ TEST_F(QueueWindow, SavesDefaultsThatEveryProgramFinds)
     EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
     openAndWait();
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
-    EXPECT_EQ(m_window->printer().session->paper().name, QString("RollA4"));
+    EXPECT_EQ(session().paper().name, QString("RollA4"));
 }
 
 TEST_F(QueueWindow, SavesAndRestoresPresetsThroughThePanels)
@@ -268,20 +217,20 @@ TEST_F(QueueWindow, SavesAndRestoresPresetsThroughThePanels)
     moveDown("mMediaPopUp");
     savePreset("express");
     EXPECT_EQ(message(), "Saved as “express” for counter.");
-    EXPECT_EQ(items(*field("Pre&set:")), QStringList({"Defaults", "express"}));
-    EXPECT_EQ(field("Pre&set:")->currentText(), "express");
+    EXPECT_EQ(items(*presets()), QStringList({"Defaults", "express"}));
+    EXPECT_EQ(presets()->currentText(), "express");
 
-    choose(*field("Pre&set:"), "Defaults");
+    choose(*presets(), "Defaults");
     EXPECT_EQ(marked("QnMedia"), "Thermal");
-    EXPECT_EQ(m_window->printer().session->paper().name, QString("A4"));
+    EXPECT_EQ(session().paper().name, QString("A4"));
     EXPECT_EQ(find<toolkit::PopUpControl>("mMediaPopUp")->currentIndex(), 0);
 
-    choose(*field("Pre&set:"), "express");
+    choose(*presets(), "express");
     EXPECT_EQ(message(), ""); // all is as it was saved
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
     EXPECT_EQ(marked("PageSize"), "RollA4");
     EXPECT_EQ(find<toolkit::PopUpControl>("mMediaPopUp")->currentIndex(), 1);
-    EXPECT_EQ(find<PaperChooser>()->menu()->currentData(), "RollA4");
+    EXPECT_EQ(papers()->currentData(), "RollA4");
 
     ASSERT_EQ(m_server.run("lp", {"-d", "counter/express", kTicket}), 0);
     EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");
@@ -290,11 +239,11 @@ TEST_F(QueueWindow, SavesAndRestoresPresetsThroughThePanels)
     EXPECT_TRUE(options.contains("QnMedia=ThermalCopy")) << options.toStdString();
 
     openAndWait("counter/express");
-    EXPECT_EQ(field("Pre&set:")->currentText(), "express");
+    EXPECT_EQ(presets()->currentText(), "express");
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
 
     trigger("De&lete Preset");
-    EXPECT_EQ(items(*field("Pre&set:")), QStringList("Defaults"));
+    EXPECT_EQ(items(*presets()), QStringList("Defaults"));
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy"); // what is set stays as it is
 }
 
@@ -306,15 +255,15 @@ TEST_F(QueueWindow, KeepsAPresetFromWhatOthersSavedAsDefaults)
     find<toolkit::PopUpControl>("mDensityPopUp")->setFocus();
     QTest::keyClick(find<toolkit::PopUpControl>("mDensityPopUp"), Qt::Key_Home);
     QApplication::processEvents();
-    ASSERT_EQ(marked("QnDensity"), m_window->printer().session->ppd().defaultOf("QnDensity"));
+    ASSERT_EQ(marked("QnDensity"), "DHome");
     savePreset("plain");
     // The PPD's own default has to be saved as well: without it the user's own one would come back.
     const OptionValues saved = SavedOptions("counter").options("plain");
-    EXPECT_EQ(saved["QnDensity"], m_window->printer().session->ppd().defaultOf("QnDensity"));
+    EXPECT_EQ(saved["QnDensity"], "DHome");
     EXPECT_EQ(saved["number-up"], "2");
-    choose(*field("Pre&set:"), "Defaults");
+    choose(*presets(), "Defaults");
     EXPECT_EQ(marked("QnDensity"), "D4");
-    choose(*field("Pre&set:"), "plain");
+    choose(*presets(), "plain");
     EXPECT_NE(marked("QnDensity"), "D4");
 }
 
@@ -324,16 +273,16 @@ TEST_F(QueueWindow, TellsWhatOfAPresetThePanelsDecideAnew)
     ASSERT_EQ(
         m_server.run("lpoptions", {"-p", "counter/long", "-o", "PageSize=RollA4", "-o", "QnPaperFeed=Custom.1.5"}), 0);
     openAndWait();
-    choose(*field("Pre&set:"), "long");
+    choose(*presets(), "long");
     EXPECT_EQ(message(), "Paper Feed is not as it was saved: the rules for the paper decide it.");
-    EXPECT_EQ(m_window->printer().session->ppd().marked()["QnPaperFeed"], "Custom.1.02362");
+    EXPECT_EQ(session().marks().all()["QnPaperFeed"], "Custom.1.02362");
 }
 
 TEST_F(QueueWindow, TellsWhatOfAPresetThePrinterNoLongerHas)
 {
     ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter/old", "-o", "QnDensity=D99"}), 0);
     openAndWait();
-    choose(*field("Pre&set:"), "old");
+    choose(*presets(), "old");
     EXPECT_EQ(message(), "Print Density is not as it was saved: the printer has no such choice any more.");
 }
 
@@ -343,7 +292,7 @@ TEST_F(QueueWindow, TakesCopiesAndPagesOfAPresetIntoTheirFields)
                            {"-p", "counter/three", "-o", "copies=3", "-o", "page-ranges=1-2", "-o", "number-up=2"}),
               0);
     openAndWait();
-    choose(*field("Pre&set:"), "three");
+    choose(*presets(), "three");
     EXPECT_EQ(find<QSpinBox>()->value(), 3);
     find<QSpinBox>()->setValue(2);
     ASSERT_TRUE(print()) << message().toStdString();
@@ -369,11 +318,11 @@ TEST_F(QueueWindow, OffersGeneralSettingsForAQueueWithoutAPPD)
     EXPECT_EQ(message(), "No driver describes this printer: it has general settings only.");
     EXPECT_EQ(find<QTabBar>()->count(), 0);
     EXPECT_FALSE(button("Sa&ve")->isVisible());
-    EXPECT_EQ(find<PaperChooser>()->menu()->isVisible(), find<PaperChooser>()->menu()->count() > 0);
+    EXPECT_EQ(papers()->isVisible(), papers()->count() > 0);
     find<QSpinBox>()->setValue(2);
     EXPECT_TRUE(print());
     EXPECT_TRUE(waitFor([this] { return m_server.openJobs().isEmpty(); }));
-    choose(*field("P&rinter:"), "counter"); // and back to one that has panels
+    choose(*printers(), "counter"); // and back to one that has panels
     ASSERT_TRUE(waitFor([this] { return find<QTabBar>()->count() == 2; }));
 }
 
@@ -398,10 +347,10 @@ TEST_F(QueueWindow, OffersToLookAgainWhenTheServerDiesMeanwhile)
     m_server.kill();
     ASSERT_TRUE(waitFor([this] { return button("Try A&gain")->isVisible(); })) << message().toStdString();
     EXPECT_TRUE(message().startsWith("counter: ")) << message().toStdString();
-    EXPECT_FALSE(button("&Print")->isEnabled());
+    EXPECT_FALSE(canPrint());
     ASSERT_FALSE(m_server.restart());
     button("Try A&gain")->click();
-    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); })) << message().toStdString();
+    ASSERT_TRUE(waitFor([this] { return canPrint(); })) << message().toStdString();
     EXPECT_FALSE(button("Try A&gain")->isVisible());
     EXPECT_TRUE(print());
 }
@@ -447,7 +396,7 @@ TEST_F(QueueWindow, StopsAJobWithCancelAndStaysForTheNext)
     openAndWait();
     m_server.freeze();
     button("&Print")->click();
-    EXPECT_FALSE(button("&Print")->isEnabled());
+    EXPECT_FALSE(canPrint());
     EXPECT_TRUE(find<QProgressBar>()->isVisible());
     button("Cancel")->click();
     ASSERT_TRUE(waitForMessage("counter: stopped"));
@@ -467,16 +416,17 @@ public:
         : m_server(server)
         , m_share(share)
     {}
-    Result submit(const Job &job, const JobProgress &progress) override
+    foundation::Or<QString> submit(const Job &job, const JobProgress &progress, std::stop_token stop) override
     {
         if (m_share == 0) // the panels have agreed, nothing has gone yet
             m_server.kill();
         CupsSink sink("counter", std::nullopt);
-        return sink.submit(job, [&](qint64 done, qint64 total) {
+        const auto tell = [&](qint64 done, qint64 total) {
             if (static_cast<double>(done) > m_share * static_cast<double>(total))
                 m_server.kill();
-            return progress(done, total);
-        });
+            progress(done, total);
+        };
+        return sink.submit(job, tell, std::move(stop));
     }
 
 private:
@@ -498,19 +448,13 @@ TEST_P(EndsOfTheServer, AreToldAndLeaveTheWindowAsItIs)
     QFile large(m_server.path("tmp/large.txt"));
     ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.write(QByteArray(8 << 20, 'x')) && large.flush());
     open("counter", large.fileName());
-    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
-    QString error;
-    const auto queue = findQueue({"counter", {}}, &error);
-    ASSERT_TRUE(queue) << error.toStdString();
-    auto printer = printerOfQueue({}, *queue, {}, &error);
-    ASSERT_TRUE(printer) << error.toStdString();
-    printer->sink = std::make_unique<FatefulSink>(m_server, GetParam().share);
-    m_window->usePrinter(*std::move(printer));
+    ASSERT_TRUE(waitFor([this] { return canPrint(); }));
+    m_dialog->target()->setSink(std::make_shared<FatefulSink>(m_server, GetParam().share));
     moveDown("mMediaPopUp");
     EXPECT_FALSE(print());
     EXPECT_TRUE(message().contains(GetParam().message)) << message().toStdString();
     EXPECT_TRUE(m_window->isVisible());
-    EXPECT_TRUE(button("&Print")->isEnabled());
+    EXPECT_TRUE(canPrint());
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
     EXPECT_EQ(m_server.recordCount(), 0);
 }
@@ -535,8 +479,8 @@ TEST_F(QueueWindow, DoesNotPrintByAPPDThatChangedMeanwhile)
     EXPECT_EQ(m_server.recordCount(), 0);
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy"); // the person's own choice stays, also above the command line
     EXPECT_EQ(marked("QnSpeed"), "S1");
-    EXPECT_EQ(field("Pre&set:")->currentText(), "express");
-    ASSERT_TRUE(waitFor([this] { return button("&Print")->isEnabled(); }));
+    EXPECT_EQ(presets()->currentText(), "express");
+    ASSERT_TRUE(waitFor([this] { return canPrint(); }));
     EXPECT_TRUE(print());
     EXPECT_EQ(m_server.record(1)["QnMedia"], "ThermalCopy");
 }

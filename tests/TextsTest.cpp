@@ -1,5 +1,6 @@
 // The texts of the bundle: every key has one in every language, and every one has room.
 #include "Print.h"
+#include "Results.h"
 #include "Session/DialogSession.h"
 
 #include "Foundation/UserDefaults.h"
@@ -88,9 +89,7 @@ TEST_P(Texts, HaveTheSameKeysInEveryLanguage) { EXPECT_EQ(table(GetParam()).keys
 TEST_P(Texts, ExistForEveryTextOfTheFullExample)
 {
     const auto texts = table(GetParam());
-    QString error;
-    const auto ppd = host::PPDDocument::open(QN_SOURCE_DIR "/examples/ppd/full.ppd", &error);
-    ASSERT_TRUE(ppd) << error.toStdString();
+    const auto ppd = support::value(host::PPDDocument::open(QN_SOURCE_DIR "/examples/ppd/full.ppd"));
     for (int i = 0; i < ppd->file()->num_groups; ++i) {
         const ppd_group_t &group = ppd->file()->groups[i];
         for (int j = 0; j < group.num_options; ++j) {
@@ -130,9 +129,7 @@ protected:
         parameters.ppdPath = ppd;
         parameters.localization = language;
         parameters.uri = "usb://Qn/Printer";
-        QString error;
-        auto session = host::DialogSession::open(parameters, &error);
-        EXPECT_TRUE(session) << error.toStdString();
+        auto session = support::value(host::DialogSession::open(parameters));
         session->start(host::DialogSession::Prepare::everyPanel);
         return session;
     }

@@ -1,5 +1,6 @@
 // A person at random: thousands of events over papers and printers, and after each what must always hold.
 #include "Dialog.h"
+#include "Results.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -68,9 +69,7 @@ protected:
 
 void WalkTest::readChoices(const QString &path)
 {
-    QString error;
-    const auto ppd = host::PPDDocument::open(path, &error);
-    ASSERT_TRUE(ppd) << error.toStdString();
+    const auto ppd = value(host::PPDDocument::open(path));
     for (int i = 0; i < ppd->file()->num_groups; ++i)
         for (int j = 0; j < ppd->file()->groups[i].num_options; ++j) {
             const ppd_option_t &option = ppd->file()->groups[i].options[j];

@@ -71,7 +71,8 @@ TEST_P(WindowTexts, AreAllThereWithTheirPlaces)
 TEST_P(WindowTexts, HaveAMnemonicOfItsOwnForEachControl)
 {
     useWindowTexts(GetParam());
-    const DialogWindow window(nullptr);
+    PrintDialog dialog({}, nullptr);
+    const DialogWindow window(dialog);
     QStringList mnemonics;
     for (const auto *label : window.findChildren<QLabel *>())
         if (label->buddy())
@@ -86,7 +87,8 @@ TEST_P(WindowTexts, HaveAMnemonicOfItsOwnForEachControl)
 TEST_P(WindowTexts, AreShownInTheWindow)
 {
     useWindowTexts(QString(GetParam()) + "_XX"); // of whatever country
-    const DialogWindow window(nullptr);
+    PrintDialog dialog({}, nullptr);
+    const DialogWindow window(dialog);
     EXPECT_EQ(window.windowTitle(), textsOf(GetParam())["host::DialogWindow/Print"]);
 }
 
@@ -97,7 +99,8 @@ TEST(WindowTextsInOtherLanguages, AreEnglish)
 {
     useWindowTexts("de");
     useWindowTexts("it_IT");
-    EXPECT_EQ(DialogWindow(nullptr).windowTitle(), "Print");
+    PrintDialog dialog({}, nullptr);
+    EXPECT_EQ(DialogWindow(dialog).windowTitle(), "Print");
 }
 
 } // namespace

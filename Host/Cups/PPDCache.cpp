@@ -1,14 +1,21 @@
 // PPDs of queues, kept on disk between dialogs.
 #include "PPDCache.h"
 
+#include "ServerConnection.h"
+
+#include "Printing/ppd_api.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
 
 namespace host {
+
+using foundation::Or;
 
 namespace {
 
@@ -22,15 +29,20 @@ QString cachePath(const QString &queue)
     return folder + '/' + QCryptographicHash::hash(owner.toUtf8(), QCryptographicHash::Sha1).toHex() + ".ppd";
 }
 
-/// Asks the server for a PPD that changed after `asOf`; what came is in `file`.
-http_status_t ask(http_t *http, const QString &queue, std::time_t &asOf, std::shared_ptr<FileToRemove> &file)
+struct Fetched
 {
-    char buffer[kPathLength] = "";
-    const http_status_t status = cupsGetPPD3(http, queue.toUtf8().constData(), &asOf, buffer, sizeof(buffer));
-    if (*buffer)
-        file = std::make_shared<FileToRemove>(QFile::decodeName(buffer));
-    --asOf; // times are in seconds: in the one of the answer the PPD may have changed once more
-    return status;
+    http_status_t status;
+    std::time_t asOf; // when the server said so
+    std::shared_ptr<FileToRemove> file;
+};
+
+/// Asks the server for a PPD that changed after a time.
+Fetched fetchAfter(const ServerConnection &server, const QString &queue, std::time_t asOf)
+{
+    char path[kPathLength] = "";
+    const http_status_t status = cupsGetPPD3(server.get(), queue.toUtf8().constData(), &asOf, path, sizeof(path));
+    auto file = *path ? std::make_shared<FileToRemove>(QFile::decodeName(path)) : nullptr;
+    return {status, asOf - 1, file}; // times are in seconds: in the one of the answer the PPD may change once more
 }
 
 QByteArray contentOf(const QString &path)
@@ -56,30 +68,32 @@ bool keep(const QByteArray &content, const QString &path, std::time_t asOf)
 
 } // namespace
 
-std::optional<CachedPPD> fetchPPD(http_t *http, const QString &queue)
+FileToRemove::~FileToRemove() { QFile::remove(m_path); }
+
+Or<std::optional<CachedPPD>> fetchPPD(const ServerConnection &server, const QString &queue)
 {
     const QString path = cachePath(queue);
     const QFileInfo kept(path);
-    std::time_t asOf = kept.isFile() ? kept.lastModified().toSecsSinceEpoch() : 0;
-    const std::time_t before = asOf;
-    std::shared_ptr<FileToRemove> fetched;
-    const http_status_t status = ask(http, queue, asOf, fetched);
-    if (status == HTTP_STATUS_NOT_MODIFIED)
-        return CachedPPD{path, before, digestOf(contentOf(path)), nullptr};
-    if (status != HTTP_STATUS_OK || !fetched)
-        return std::nullopt;
-    const QByteArray content = contentOf(fetched->path());
-    if (keep(content, path, asOf))
-        return CachedPPD{path, asOf, digestOf(content), nullptr};
-    return CachedPPD{fetched->path(), asOf, digestOf(content), fetched};
+    const std::time_t before = kept.isFile() ? kept.lastModified().toSecsSinceEpoch() : 0;
+    const Fetched fetched = fetchAfter(server, queue, before);
+    if (fetched.status == HTTP_STATUS_NOT_MODIFIED)
+        return std::optional(CachedPPD{path, before, digestOf(contentOf(path)), nullptr});
+    if (fetched.status != HTTP_STATUS_OK || !fetched.file) {
+        if (answerTo() == Answer::notFound)
+            return std::optional<CachedPPD>();
+        return server.problem();
+    }
+    const QByteArray content = contentOf(fetched.file->path());
+    if (keep(content, path, fetched.asOf))
+        return std::optional(CachedPPD{path, fetched.asOf, digestOf(content), nullptr});
+    return std::optional(CachedPPD{fetched.file->path(), fetched.asOf, digestOf(content), fetched.file});
 }
 
-bool hasPPDChanged(http_t *http, const QString &queue, const CachedPPD &known)
+bool hasPPDChanged(const ServerConnection &server, const QString &queue, const CachedPPD &known)
 {
-    std::time_t asOf = known.asOf;
-    std::shared_ptr<FileToRemove> fetched;
-    return ask(http, queue, asOf, fetched) == HTTP_STATUS_OK && fetched &&
-           digestOf(contentOf(fetched->path())) != known.digest;
+    const Fetched fetched = fetchAfter(server, queue, known.asOf);
+    return fetched.status == HTTP_STATUS_OK && fetched.file &&
+           digestOf(contentOf(fetched.file->path())) != known.digest;
 }
 
 } // namespace host

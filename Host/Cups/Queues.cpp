@@ -3,17 +3,20 @@
 
 #include "ServerConnection.h"
 
+#include "Printing/Units.h"
+
 namespace host {
+
+using foundation::Or;
+using foundation::Problem;
+using printing::kPointsPerHundredthOfMillimetre;
 
 namespace {
 
-constexpr double kPointsPerHundredthOfMillimetre = 72 / 2540.0;
-
-/// The papers that a queue without PPD tells of. Their names are those that a job may ask for.
-std::vector<PPDDocument::PageSize> papersOf(http_t *http, cups_dest_t *destination)
+std::vector<PaperEntry> papersOf(http_t *http, cups_dest_t *destination)
 {
-    std::vector<PPDDocument::PageSize> papers;
-    const CupsDestinationInfo info(cupsCopyDestInfo(http, destination));
+    std::vector<PaperEntry> papers;
+    const DestinationInfo info(cupsCopyDestInfo(http, destination));
     const int count = info ? cupsGetDestMediaCount(http, destination, info.get(), 0) : 0;
     for (int i = 0; i < count; ++i) {
         cups_size_t size = {};
@@ -28,84 +31,98 @@ std::vector<PPDDocument::PageSize> papersOf(http_t *http, cups_dest_t *destinati
     return papers;
 }
 
+const char *optionOf(const cups_dest_t &destination, const char *name)
+{
+    return cupsGetOption(name, destination.num_options, destination.options);
+}
+
 QString noteOn(const cups_dest_t &destination)
 {
-    const auto is = [&](const char *name, const char *value) {
-        return qstrcmp(cupsGetOption(name, destination.num_options, destination.options), value) == 0;
-    };
-    if (is("printer-is-accepting-jobs", "false"))
-        return ServerConnection::tr("%1: the queue does not take jobs now").arg(QString::fromUtf8(destination.name));
-    if (is("printer-state", "5"))
-        return ServerConnection::tr("%1: the queue is stopped; jobs wait until it is started")
-            .arg(QString::fromUtf8(destination.name));
+    const QString name = QString::fromUtf8(destination.name);
+    if (qstrcmp(optionOf(destination, "printer-is-accepting-jobs"), "false") == 0)
+        return ServerConnection::tr("%1: the queue does not take jobs now").arg(name);
+    if (qstrcmp(optionOf(destination, "printer-state"), "5") == 0)
+        return ServerConnection::tr("%1: the queue is stopped; jobs wait until it is started").arg(name);
     return {};
 }
 
-CupsDestination findDestination(const ServerConnection &server, const QueueName &name, QString *error)
+const char *orNull(const QByteArray &text) { return text.isEmpty() ? nullptr : text.constData(); }
+
+Or<Destination> findDestination(const ServerConnection &server, const QueueName &name)
 {
-    const QByteArray queue = name.queue.toUtf8();
-    const QByteArray preset = name.preset.toUtf8();
-    CupsDestination found(!server ? nullptr
-                                  : cupsGetNamedDest(server.get(), queue.isEmpty() ? nullptr : queue.constData(),
-                                                     preset.isEmpty() ? nullptr : preset.constData()));
+    const auto owner = [&] { return name.queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue; };
+    if (!server)
+        return Problem{owner() + ": " + server.problem().sentence};
+    Destination found(cupsGetNamedDest(server.get(), orNull(name.queue.toUtf8()), orNull(name.preset.toUtf8())));
     if (found)
         return found;
-    const bool answered =
-        server && (cupsLastError() <= IPP_STATUS_OK_CONFLICTING || cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND);
-    if (!answered)
-        *error = (queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue) + ": " + server.problem();
-    else
-        *error = queue.isEmpty() ? ServerConnection::tr("there is no default queue")
-                                 : ServerConnection::tr("%1: no such queue").arg(name.queue);
-    return nullptr;
+    if (answerTo() == Answer::refused)
+        return Problem{owner() + ": " + server.problem().sentence};
+    return Problem{name.queue.isEmpty() ? ServerConnection::tr("there is no default queue")
+                                        : ServerConnection::tr("%1: no such queue").arg(name.queue)};
 }
+
+/// What the library answers to `cupsGetDests2`.
+class Destinations
+{
+public:
+    explicit Destinations(http_t *http)
+        : m_count(cupsGetDests2(http, &m_list))
+    {}
+    ~Destinations() { cupsFreeDests(m_count, m_list); }
+    Destinations(const Destinations &) = delete;
+    Destinations &operator=(const Destinations &) = delete;
+
+    const cups_dest_t *begin() const { return m_list; }
+    const cups_dest_t *end() const { return m_list + m_count; }
+    bool isEmpty() const { return m_count == 0; }
+
+private:
+    cups_dest_t *m_list = nullptr;
+    int m_count;
+};
 
 } // namespace
 
 QueueName QueueName::fromText(const QString &text) { return {text.section('/', 0, 0), text.section('/', 1)}; }
 
-std::optional<QueueNames> queueNames()
+Or<QueueNames> queueNames()
 {
     const ServerConnection server;
-    cups_dest_t *destinations = nullptr;
-    const int count = server ? cupsGetDests2(server.get(), &destinations) : 0;
+    if (!server)
+        return server.problem();
+    const Destinations destinations(server.get());
+    if (destinations.isEmpty() && answerTo() != Answer::granted)
+        return server.problem();
     QueueNames found;
-    for (const cups_dest_t *each = destinations; each != destinations + count; ++each) {
-        const QString name = QString::fromUtf8(each->name);
-        if (each->is_default)
+    for (const cups_dest_t &each : destinations) {
+        const QString name = QString::fromUtf8(each.name);
+        if (each.is_default)
             found.standard = name;
-        if (!each->instance) // presets share the name of their queue
+        if (!each.instance) // presets share the name of their queue
             found.names.append(name);
     }
-    cupsFreeDests(count, destinations);
-    if (count == 0 && (!server || cupsLastError() > IPP_STATUS_OK_CONFLICTING))
-        return std::nullopt;
     found.names.sort(Qt::CaseInsensitive);
     return found;
 }
 
-std::optional<Queue> findQueue(const QueueName &name, QString *error)
+Or<Queue> findQueue(const QueueName &name)
 {
     const ServerConnection server;
-    const CupsDestination destination = findDestination(server, name, error);
-    if (!destination)
-        return std::nullopt;
-    Queue queue{QString::fromUtf8(destination->name),
-                QString::fromUtf8(destination->instance),
-                {},
-                {},
-                {},
-                noteOn(*destination)};
-    if (const char *uri = cupsGetOption("device-uri", destination->num_options, destination->options))
+    const auto found = findDestination(server, name);
+    if (!found)
+        return found.problem();
+    cups_dest_t &destination = **found;
+    Queue queue{
+        QString::fromUtf8(destination.name), QString::fromUtf8(destination.instance), {}, {}, {}, noteOn(destination)};
+    if (const char *uri = optionOf(destination, "device-uri"))
         queue.uri = QString::fromUtf8(uri);
-    queue.ppd = fetchPPD(server.get(), queue.name);
-    if (queue.ppd)
-        return queue;
-    if (cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) { // "it has none" is one thing, "who knows" another
-        *error = queue.name + ": " + server.problem();
-        return std::nullopt;
-    }
-    queue.papers = papersOf(server.get(), destination.get());
+    auto ppd = fetchPPD(server, queue.name);
+    if (!ppd)
+        return Problem{queue.name + ": " + ppd.problem().sentence};
+    queue.ppd = *std::move(ppd);
+    if (!queue.ppd)
+        queue.papers = papersOf(server.get(), &destination);
     return queue;
 }
 

@@ -2,12 +2,11 @@
 // and so belongs on a thread of its own.
 #pragma once
 
-#include "PPD/PPDDocument.h"
 #include "PPDCache.h"
 
-#include <QStringList>
+#include "PPD/PPDDocument.h"
 
-#include <functional>
+#include <QStringList>
 
 namespace host {
 
@@ -17,7 +16,7 @@ struct QueueName
     static QueueName fromText(const QString &text);
 
     QString queue; // empty: the default queue
-    QString preset;
+    QString preset = {};
 };
 
 struct Queue
@@ -25,10 +24,9 @@ struct Queue
     QString name;
     QString preset; // that was asked for, or that goes with the default queue
     std::optional<QString> uri;
-    /// Nil when the queue has no PPD.
-    std::optional<CachedPPD> ppd;
-    std::vector<PPDDocument::PageSize> papers; // of a queue without PPD
-    QString note;                              // one sentence on its state; empty when it just prints
+    std::optional<CachedPPD> ppd;   // nil: it has none
+    std::vector<PaperEntry> papers; // of a queue without PPD; their names are those that a job may ask for
+    QString note;                   // one clause on its state; empty when it just prints
 };
 
 struct QueueNames
@@ -37,10 +35,9 @@ struct QueueNames
     QString standard; // the default queue; empty when there is none
 };
 
-/// Nil when the server can't tell.
-std::optional<QueueNames> queueNames();
+foundation::Or<QueueNames> queueNames();
 
-/// Nil, with one sentence that names the queue, when it can't be had.
-std::optional<Queue> findQueue(const QueueName &name, QString *error);
+/// A problem names the queue.
+foundation::Or<Queue> findQueue(const QueueName &name);
 
 } // namespace host

@@ -1,6 +1,8 @@
 // What the user has saved for queues.
 #include "SavedOptions.h"
 
+#include "Printing/cups_api.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -8,6 +10,9 @@
 #include <QSaveFile>
 
 namespace host {
+
+using foundation::Or;
+using foundation::Problem;
 
 namespace {
 
@@ -22,6 +27,9 @@ struct Line
     QByteArray options;
 };
 
+/// Names of queues, presets and kinds of line do not mind letter case.
+bool isSame(const QString &one, const QString &other) { return one.compare(other, Qt::CaseInsensitive) == 0; }
+
 /// Nil for what is no line about a queue.
 std::optional<Line> readLine(const QByteArray &text)
 {
@@ -34,18 +42,17 @@ std::optional<Line> readLine(const QByteArray &text)
     return Line{match.captured(1), match.captured(2), match.captured(3), line.mid(match.capturedEnd()).toUtf8()};
 }
 
-OptionValues parsed(const QByteArray &text)
+OptionValues parsedOptions(const QByteArray &text)
 {
-    cups_option_t *options = nullptr;
-    const int count = cupsParseOptions(text.constData(), 0, &options);
+    printing::CupsOptions options;
+    options.addParsed(text.constData());
     OptionValues values;
-    for (int i = 0; i < count; ++i)
-        values.insert(QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value));
-    cupsFreeOptions(count, options);
+    for (const cups_option_t &each : options)
+        values.insert(QString::fromUtf8(each.name), QString::fromUtf8(each.value));
     return values;
 }
 
-QByteArray quoted(const QString &value)
+QByteArray quotedValue(const QString &value)
 {
     static const QRegularExpression plain("^[A-Za-z0-9_.,:+%@/-]+$");
     if (plain.match(value).hasMatch())
@@ -55,13 +62,13 @@ QByteArray quoted(const QString &value)
     return '"' + escaped.toUtf8() + '"';
 }
 
-QByteArray written(const Line &line, const OptionValues &options)
+QByteArray lineText(const Line &line, const OptionValues &options)
 {
     QByteArray text = line.kind.toUtf8() + ' ' + line.queue.toUtf8();
     if (!line.preset.isEmpty())
         text += '/' + line.preset.toUtf8();
     for (const auto &[keyword, value] : options.asKeyValueRange())
-        text += ' ' + keyword.toUtf8() + '=' + quoted(value);
+        text += ' ' + keyword.toUtf8() + '=' + quotedValue(value);
     return text;
 }
 
@@ -88,12 +95,10 @@ std::vector<Line> linesAbout(const QString &queue)
     std::vector<Line> found;
     for (const QString &path : {systemFile(), userFile()})
         for (const QByteArray &text : linesOf(path).value_or(QByteArrayList()))
-            if (auto line = readLine(text); line && line->queue.compare(queue, Qt::CaseInsensitive) == 0)
+            if (auto line = readLine(text); line && isSame(line->queue, queue))
                 found.push_back(*std::move(line));
     return found;
 }
-
-bool isSame(const QString &one, const QString &other) { return one.compare(other, Qt::CaseInsensitive) == 0; }
 
 } // namespace
 
@@ -112,26 +117,26 @@ OptionValues SavedOptions::options(const QString &preset) const
     OptionValues values;
     for (const Line &line : linesAbout(m_queue))
         if (isSame(line.preset, preset))
-            values.insert(parsed(line.options));
+            values.insert(parsedOptions(line.options));
     return values;
 }
 
-std::optional<QString> SavedOptions::problemOf(const QString &preset)
+Or<void> SavedOptions::checkName(const QString &preset)
 {
     static const QRegularExpression form(R"(^[^\s/\\"'#\x00-\x1f]+$)");
     if (preset.toUtf8().size() <= kLongestName && form.match(preset).hasMatch())
-        return std::nullopt;
-    return tr("“%1”: a name is one word without slashes and quotation marks").arg(preset.left(kLongestName));
+        return {};
+    return Problem{tr("“%1”: a name is one word without slashes and quotation marks").arg(preset.left(kLongestName))};
 }
 
-std::optional<QString> SavedOptions::save(const QString &preset, const OptionValues &options) const
+Or<void> SavedOptions::save(const QString &preset, const OptionValues &options) const
 {
     return replace(preset, options);
 }
 
-std::optional<QString> SavedOptions::remove(const QString &preset) const { return replace(preset, std::nullopt); }
+Or<void> SavedOptions::remove(const QString &preset) const { return replace(preset, std::nullopt); }
 
-std::optional<QString> SavedOptions::replace(const QString &preset, const std::optional<OptionValues> &options) const
+Or<void> SavedOptions::replace(const QString &preset, const std::optional<OptionValues> &options) const
 {
     const QString path = userFile();
     const QString folder = QFileInfo(path).path();
@@ -140,34 +145,42 @@ std::optional<QString> SavedOptions::replace(const QString &preset, const std::o
     // From reading to writing nobody else may write: what another dialog saves meanwhile would be lost.
     QLockFile lock(path + ".lock");
     if (!lock.tryLock(kMillisecondsToLock))
-        return tr("%1: can't be written just now").arg(path);
+        return Problem{tr("%1: can't be written just now").arg(path)};
     const auto lines = linesOf(path);
     if (!lines)
-        return tr("%1: can't be read").arg(path);
+        return Problem{tr("%1: can't be read").arg(path)};
 
+    QSaveFile file(path); // the old file stands until the new one is complete
+    file.open(QIODevice::WriteOnly);
+    for (const QByteArray &line : replaced(*lines, preset, options))
+        file.write(line + '\n');
+    if (!file.commit())
+        return Problem{QString("%1: %2").arg(path, file.errorString())};
+    return {};
+}
+
+/// The lines of the file with the preset's own replaced, or left out without options.
+QByteArrayList SavedOptions::replaced(const QByteArrayList &lines, const QString &preset,
+                                      const std::optional<OptionValues> &options) const
+{
     QByteArrayList result;
     Line mine{"Dest", m_queue, preset, {}};
     bool placed = !options;
-    for (const QByteArray &text : *lines) {
+    for (const QByteArray &text : lines) {
         const auto line = readLine(text);
         if (!line || !isSame(line->queue, m_queue) || !isSame(line->preset, preset)) {
             result.append(text);
         } else if (!placed) {
             mine.kind = line->kind;
-            result.append(written(mine, *options));
+            result.append(lineText(mine, *options));
             placed = true;
         } else if (isSame(line->kind, "Default")) {
             result.append("Default " + m_queue.toUtf8()); // stays the default queue without the preset
         }
     }
     if (!placed)
-        result.append(written(mine, *options));
-
-    QSaveFile file(path); // the old file stands until the new one is complete
-    file.open(QIODevice::WriteOnly);
-    for (const QByteArray &line : result)
-        file.write(line + '\n');
-    return file.commit() ? std::nullopt : std::optional(QString("%1: %2").arg(path, file.errorString()));
+        result.append(lineText(mine, *options));
+    return result;
 }
 
 } // namespace host

@@ -2,8 +2,11 @@
 // reads it, one line a queue or preset (`lp -d queue/preset`).
 #pragma once
 
-#include "PPD/PPDDocument.h"
+#include "PPD/OptionValues.h"
 
+#include "Foundation/Or.h"
+
+#include <QByteArrayList>
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -21,23 +24,23 @@ public:
         : m_queue(std::move(queue))
     {}
 
-    const QString &queue() const { return m_queue; }
-
     /// Sorted.
     QStringList presets() const;
     /// What is saved under a preset's name; under no name, the user's own defaults.
     OptionValues options(const QString &preset = {}) const;
 
-    /// Puts options in place of what was saved under the name, and nothing else. Nil when they are on disk; otherwise
-    /// one sentence, and the file is as it was.
-    std::optional<QString> save(const QString &preset, const OptionValues &options) const;
-    std::optional<QString> remove(const QString &preset) const;
+    /// Puts options in place of what was saved under the name, and nothing else. They are on disk then, or there is a
+    /// problem and the file is as it was.
+    foundation::Or<void> save(const QString &preset, const OptionValues &options) const;
+    foundation::Or<void> remove(const QString &preset) const;
 
-    /// Nil when a preset can go by the name; otherwise a sentence that says what is wrong with it.
-    static std::optional<QString> problemOf(const QString &preset);
+    /// Whether a preset can go by the name, so that other programs can read it.
+    static foundation::Or<void> checkName(const QString &preset);
 
 private:
-    std::optional<QString> replace(const QString &preset, const std::optional<OptionValues> &options) const;
+    foundation::Or<void> replace(const QString &preset, const std::optional<OptionValues> &options) const;
+    QByteArrayList replaced(const QByteArrayList &lines, const QString &preset,
+                            const std::optional<OptionValues> &options) const;
 
     QString m_queue;
 };

@@ -1,60 +1,53 @@
-// Talking to the CUPS server with an end: whatever the server does or leaves undone, every call comes back.
+// A connection to the CUPS server on which every call returns, even if the server hangs.
 #pragma once
 
-#include "Printing/ppd_api.h"
+#include "Handles.h"
+
+#include "Foundation/Or.h"
 
 #include <QCoreApplication>
 
-#include <functional>
-#include <memory>
+#include <stop_token>
 
 namespace host {
 
-/// One connection. The thread that makes it is not asked for passwords from then on.
+/// How the server answered the last request of this thread. To be asked right after the call.
+enum class Answer { granted, notFound, refused };
+Answer answerTo(ipp_status_t status = cupsLastError());
+
 class ServerConnection
 {
     Q_DECLARE_TR_FUNCTIONS(host::ServerConnection)
 
 public:
-    /// Connects and asks a first question, within a few seconds. While the server keeps silent later, `goOn` is asked
-    /// about once a second; when it answers false, or the silence lasts, the call that waits fails.
-    explicit ServerConnection(std::function<bool()> goOn = {}, int secondsOfSilence = 10);
+    /// Connects and asks a first question, within a few seconds. A call that waits fails when `stop` is requested,
+    /// which is looked at about once a second, or when the server keeps silent for so long.
+    explicit ServerConnection(std::stop_token stop = {}, int secondsOfSilence = 10);
     ~ServerConnection();
     ServerConnection(const ServerConnection &) = delete;
     ServerConnection &operator=(const ServerConnection &) = delete;
 
     /// Whether the server was reached and answers.
     explicit operator bool() const { return m_answers; }
-    http_t *get() const { return m_http; }
+    http_t *get() const { return m_http.get(); }
 
     /// The server has moved: its silence counts from here.
-    void heard() { m_silence = 0; }
+    void restartSilence() { m_silence = 0; }
 
-    bool asksForPassword() const;
-    bool keepsSilent() const { return m_silence >= m_patience; }
-    /// One clause that says why the last call of this thread failed.
-    QString problem() const;
+    /// Why the last call of this thread failed, in one clause. To be asked right after the call.
+    foundation::Problem problem() const;
 
 private:
     static int waitOn(http_t *, void *self);
+    static const char *refusePassword(const char *, http_t *, const char *, const char *, void *);
     bool ask();
 
-    std::function<bool()> m_goOn;
+    std::stop_token m_stop;
     int m_patience;
     int m_silence = 0;
-    http_t *m_http = nullptr;
+    bool m_askedForPassword = false;
+    HttpConnection m_http;
     bool m_answers = false;
 };
-
-struct DestinationFree
-{
-    void operator()(cups_dest_t *destination) const { cupsFreeDests(1, destination); }
-};
-struct DestinationInfoFree
-{
-    void operator()(cups_dinfo_t *info) const { cupsFreeDestInfo(info); }
-};
-using CupsDestination = std::unique_ptr<cups_dest_t, DestinationFree>;
-using CupsDestinationInfo = std::unique_ptr<cups_dinfo_t, DestinationInfoFree>;
 
 } // namespace host

@@ -1,120 +1,187 @@
-// What the window, or a batch, prints on.
+// A printer to set up and to print on. Of the same option, a choice made in the dialog counts for most, then the
+// request, then what is saved.
 #include "PrintTarget.h"
 
-#include "Cups/Queues.h"
-#include "Program/CommandLine.h"
+#include "Cups/CupsSink.h"
+#include "Jobs/FolderSink.h"
+#include "Jobs/PageRanges.h"
 
 namespace host {
 
+using foundation::Or;
+using foundation::Problem;
+
+void PrintTarget::setServerOptions(OptionValues options)
+{
+    m_amount.copies = readCopies(options.take("copies")).value_or(1);
+    m_amount.pages = readPageRanges(options.take("page-ranges")).value_or(QString());
+    m_serverOptions = std::move(options);
+}
+
+void PrintTarget::setAmount(const PrintRequest &request)
+{
+    m_amount.copies = request.copies.value_or(m_amount.copies);
+    if (!request.pages.isEmpty())
+        m_amount.pages = request.pages;
+}
+
+OptionValues PrintTarget::restore(const QString &) { return {}; }
+
+Or<void> PrintTarget::save(const QString &) { return {}; }
+
+Or<void> PrintTarget::removePreset()
+{
+    auto removed = m_saved->remove(m_preset);
+    if (removed)
+        m_preset.clear(); // what is set stays as it is
+    return removed;
+}
+
 namespace {
 
-constexpr auto kPageSize = "PageSize";
-constexpr auto kMedia = "media"; // the same, in the words of programs that know no PPD
-
-/// What is asked for on the command line must be had, or the job would be another than the one asked for.
-bool canBeHad(const OptionValues &asked, const PPDDocument &ppd, QString *error)
+/// What is asked for must be had, or the job would be another than the one asked for.
+Or<void> checkChoices(const OptionValues &asked, const PPDDocument &ppd, const QString &form)
 {
     for (const auto &[keyword, value] : asked.asKeyValueRange()) {
-        const OptionValues meant = inWordsOfPPDs({{keyword, value}});
-        if (ppd.hasOption(meant.firstKey()) && !ppd.canTake(meant.firstKey(), meant.first())) {
-            *error = QString("-o %1=%2: the printer has no such choice").arg(keyword, value);
-            return false;
-        }
+        const OptionValues meant = withMediaAsPageSize({{keyword, value}});
+        if (ppd.hasOption(meant.firstKey()) && !ppd.accepts(meant.firstKey(), meant.first()))
+            return Problem{form.arg(keyword, value)};
     }
-    return true;
-}
-
-/// Fills in what a PPD gives.
-bool addSession(Printer &printer, const CommandLine &line, const OptionValues &carried,
-                DialogSession::Parameters parameters, QString *error)
-{
-    parameters.localization = line.language;
-    parameters.defaults = inWordsOfPPDs(parameters.defaults);
-    parameters.defaults.insert(inWordsOfPPDs(line.options));
-    parameters.defaults.insert(carried);
-    printer.session = DialogSession::open(parameters, error);
-    if (!printer.session || !canBeHad(line.options, printer.session->ppd(), error))
-        return false;
-    printer.setGeneralOptions(printer.session->ppd().generalAmong(parameters.defaults));
-    return true;
-}
-
-/// The command line counts for more than what is saved.
-void takeCopiesAndPages(Printer &printer, const CommandLine &line)
-{
-    printer.copies = line.copies.value_or(printer.copies);
-    if (!line.pages.isEmpty())
-        printer.pages = line.pages;
+    return {};
 }
 
 } // namespace
 
-OptionValues inWordsOfPPDs(OptionValues options)
+Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues &carried,
+                                DialogSession::Parameters parameters)
 {
-    if (const auto paper = options.constFind(kMedia); paper != options.cend()) {
-        const QString name = paper->section(',', 0, 0); // tray and kind may follow
-        options.remove(kMedia);
-        if (!options.contains(kPageSize))
-            options.insert(kPageSize, name);
-    }
-    return options;
+    parameters.localization = request.language;
+    parameters.defaults = withMediaAsPageSize(parameters.defaults);
+    parameters.defaults.insert(withMediaAsPageSize(request.options));
+    parameters.defaults.insert(carried);
+    auto session = DialogSession::open(parameters);
+    if (!session)
+        return session.problem();
+    m_session = *std::move(session);
+    if (auto checked = checkChoices(request.options, m_session->ppd(), tr("-o %1=%2: the printer has no such choice"));
+        !checked)
+        return checked;
+    setServerOptions(m_session->ppd().unknownAmong(parameters.defaults));
+    setAmount(request);
+    return {};
 }
 
-void Printer::setGeneralOptions(OptionValues options)
+Or<std::unique_ptr<PrintTarget>> PPDTarget::ofFile(const PrintRequest &request)
 {
-    copies = readCopies(options.take("copies")).value_or(1);
-    pages = readPageRanges(options.take("page-ranges")).value_or(QString());
-    generalOptions = std::move(options);
-}
-
-OptionValues Printer::jobOptions() const
-{
-    OptionValues options = generalOptions;
-    if (session)
-        options.insert(session->ppd().jobOptions());
-    return options;
-}
-
-std::optional<Printer> printerOfPPD(const CommandLine &line, QString *error)
-{
-    Printer printer;
+    auto target = std::make_unique<PPDTarget>();
     DialogSession::Parameters parameters;
-    parameters.ppdPath = line.ppd;
-    if (!addSession(printer, line, {}, parameters, error))
-        return std::nullopt;
-    printer.name = printer.session->ppd().attribute("NickName").value_or(line.ppd);
-    takeCopiesAndPages(printer, line);
-    printer.sink = std::make_unique<FolderSink>(line.output);
-    return printer;
+    parameters.ppdPath = request.ppd;
+    if (const auto opened = target->openSession(request, {}, parameters); !opened)
+        return opened.problem();
+    target->m_name = target->m_session->ppd().attribute("NickName").value_or(request.ppd);
+    target->m_sink = std::make_shared<FolderSink>(request.output);
+    return std::unique_ptr<PrintTarget>(std::move(target));
 }
 
-std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queue, const OptionValues &carried,
-                                      QString *error)
+Or<std::unique_ptr<PrintTarget>> PPDTarget::ofQueue(const PrintRequest &request, const Queue &queue,
+                                                    const OptionValues &carried)
 {
-    Printer printer;
-    printer.name = queue.name;
-    printer.preset = queue.preset;
-    printer.note = queue.note;
-    printer.papers = queue.papers;
-    const SavedOptions saved(queue.name);
-    OptionValues defaults = saved.options(queue.preset);
-    if (queue.ppd) {
-        DialogSession::Parameters parameters;
-        parameters.ppdPath = queue.ppd->path;
-        parameters.uri = queue.uri;
-        parameters.defaults = defaults;
-        if (!addSession(printer, line, carried, parameters, error)) {
-            *error = queue.name + ": " + *error;
-            return std::nullopt;
-        }
-        printer.saved = saved;
-    } else {
-        defaults.insert(line.options);
-        printer.setGeneralOptions(defaults);
-    }
-    takeCopiesAndPages(printer, line);
-    printer.sink = std::make_unique<CupsSink>(queue.name, queue.ppd);
-    return printer;
+    auto target = std::make_unique<PPDTarget>();
+    target->m_name = queue.name;
+    target->m_note = queue.note;
+    target->m_preset = queue.preset;
+    target->m_saved = SavedOptions(queue.name);
+    DialogSession::Parameters parameters;
+    parameters.ppdPath = queue.ppd->path;
+    parameters.uri = queue.uri;
+    parameters.defaults = target->m_saved->options(queue.preset);
+    if (const auto opened = target->openSession(request, carried, parameters); !opened)
+        return Problem{queue.name + ": " + opened.problem().sentence};
+    target->m_sink = std::make_shared<CupsSink>(queue.name, queue.ppd);
+    return std::unique_ptr<PrintTarget>(std::move(target));
+}
+
+QString PPDTarget::remark() const
+{
+    return panels().empty()
+               ? tr("The plug-in has no settings for this printer. It is printed with the driver's defaults.")
+               : QString();
+}
+
+void PPDTarget::start(std::function<void()> changed)
+{
+    m_session->setListener(
+        {.panelMarks = {}, .changed = [changed = std::move(changed)](const QString &, const QString &) { changed(); }});
+    m_session->start(DialogSession::Prepare::firstPanel);
+}
+
+OptionValues PPDTarget::restore(const QString &preset)
+{
+    const OptionValues values = withMediaAsPageSize(m_saved->options(preset));
+    m_preset = preset;
+    m_session->restore(values);
+    setServerOptions(m_session->ppd().unknownAmong(values));
+    return values;
+}
+
+Or<void> PPDTarget::save(const QString &preset)
+{
+    OptionValues options =
+        m_session->ppd().unknownAmong(withMediaAsPageSize(m_saved->options(preset))); // not ours to drop
+    options.insert(m_serverOptions);
+    options.insert(m_session->settings(m_saved->options()));
+    auto saved = m_saved->save(preset, options);
+    if (saved)
+        m_preset = preset;
+    return saved;
+}
+
+OptionValues PPDTarget::jobOptions() const
+{
+    OptionValues options = PrintTarget::jobOptions();
+    options.insert(m_session->marks().forJob());
+    return options;
+}
+
+PlainTarget::PlainTarget(const PrintRequest &request, const Queue &queue)
+    : m_papers(queue.papers)
+{
+    m_name = queue.name;
+    m_note = queue.note;
+    m_preset = queue.preset;
+    OptionValues options = SavedOptions(queue.name).options(queue.preset);
+    options.insert(request.options);
+    setServerOptions(std::move(options));
+    setAmount(request);
+    m_sink = std::make_shared<CupsSink>(queue.name, std::nullopt);
+}
+
+QString PlainTarget::remark() const { return tr("No driver describes this printer: it has general settings only."); }
+
+ChosenPaper PlainTarget::paper() const
+{
+    const QString name = m_serverOptions.value(kMedia);
+    return name.isEmpty() ? ChosenPaper() : ChosenPaper{name, std::nullopt};
+}
+
+void PlainTarget::choosePaper(const ChosenPaper &paper)
+{
+    if (paper.name)
+        m_serverOptions[kMedia] = *paper.name;
+}
+
+const PDEPanels &PlainTarget::panels() const
+{
+    static const PDEPanels kNone;
+    return kNone;
+}
+
+Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, const Queue &queue,
+                                               const OptionValues &carried)
+{
+    if (queue.ppd)
+        return PPDTarget::ofQueue(request, queue, carried);
+    return std::unique_ptr<PrintTarget>(std::make_unique<PlainTarget>(request, queue));
 }
 
 } // namespace host

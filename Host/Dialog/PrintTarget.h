@@ -1,47 +1,149 @@
-// What the window, or a batch, prints on.
+// A printer to set up and to print on: one that a PPD describes, and one that only the server knows.
 #pragma once
 
+#include "PrintRequest.h"
+
+#include "Cups/Queues.h"
 #include "Cups/SavedOptions.h"
 #include "Jobs/Job.h"
 #include "Session/DialogSession.h"
 
 namespace host {
 
-struct CommandLine;
-struct Queue;
-
-struct Printer
+/// How often and how much of a document is printed.
+struct Amount
 {
-    QString name;
-    /// Null when no PPD describes the printer: only its papers and what every printer has are offered then.
-    std::unique_ptr<DialogSession> session;
-    std::vector<PPDDocument::PageSize> papers; // when there is no session
-    /// Options that the PPD does not know. They go with the job as they are.
-    OptionValues generalOptions;
     int copies = 1;
-    QString pages;
-    std::unique_ptr<JobSink> sink;
-    std::optional<SavedOptions> saved; // nil: there is no queue to save for
-    QString preset;                    // whose options are the session's defaults; empty: the user's own
-    QString note;                      // one sentence on what to expect of the printer now; mostly empty
-
-    /// Takes options that the PPD does not know. Copies and pages have places of their own; what is no number of copies
-    /// or no pages is passed over, as other saved options are that nothing fits any more.
-    void setGeneralOptions(OptionValues options);
-
-    /// What a job has to say, after the session has agreed to it.
-    OptionValues jobOptions() const;
+    QString pages; // as a person writes them; empty: all
 };
 
-/// Options for a printer with a PPD: programs that know no PPD ask for the paper as "media", which there is the page
-/// size.
-OptionValues inWordsOfPPDs(OptionValues options);
+class PrintTarget
+{
+public:
+    virtual ~PrintTarget() = default;
+    PrintTarget(const PrintTarget &) = delete;
+    PrintTarget &operator=(const PrintTarget &) = delete;
 
-/// The printer that a PPD file describes, with a folder in place of a queue. Nil, with one sentence, when there can be
-/// none: the file is no PPD, no plug-in loads, or the command line asks for a choice that the PPD lacks.
-std::optional<Printer> printerOfPPD(const CommandLine &line, QString *error);
-/// `carried`: choices that a person has made before; they count for more than what is saved or asked for.
-std::optional<Printer> printerOfQueue(const CommandLine &line, const Queue &queue, const OptionValues &carried,
-                                      QString *error);
+    const QString &name() const { return m_name; }
+    /// One clause on what to expect of the printer now; mostly empty.
+    const QString &note() const { return m_note; }
+    /// What is known of the printer's settings besides that, in sentences for people.
+    virtual QString remark() const = 0;
+    /// As the saved options and the request say.
+    const Amount &amount() const { return m_amount; }
+    /// Where jobs go: the target's own queue or folder, unless another was set.
+    const std::shared_ptr<JobSink> &sink() const { return m_sink; }
+    void setSink(std::shared_ptr<JobSink> sink) { m_sink = std::move(sink); }
+
+    /// Whose options are the defaults; empty: the user's own.
+    const QString &preset() const { return m_preset; }
+    /// Null when there is nothing to save settings for.
+    const SavedOptions *savedOptions() const { return m_saved ? &*m_saved : nullptr; }
+
+    /// Begins to serve; `changed` is called after each choice that is another than before. Only one target may have
+    /// been started at a time.
+    virtual void start(std::function<void()> changed) = 0;
+
+    virtual std::vector<PaperEntry> papers() const = 0;
+    virtual ChosenPaper paper() const = 0;
+    /// Nil when the printer takes no paper of the user's own size.
+    virtual std::optional<CustomSizeLimits> customSizeLimits() const { return std::nullopt; }
+    virtual void choosePaper(const ChosenPaper &paper) = 0;
+
+    virtual const PDEPanels &panels() const = 0;
+    /// Puts a panel on display. False when it has no view.
+    virtual bool show(PDEPanel &) { return false; }
+    /// Readies the panels that have not been shown yet, so that showing one never undoes a choice.
+    virtual void prepareAll() {}
+
+    // Presets, where there are saved options. Restoring answers what the preset says of copies and pages.
+    virtual OptionValues restore(const QString &preset);
+    virtual foundation::Or<void> save(const QString &preset);
+    foundation::Or<void> removePreset();
+
+    /// What a person is to know of choices that did not stay as they were made, one sentence each, told once.
+    virtual QStringList takeRemarks() { return {}; }
+
+    /// Whether all panels agree to print; one that does not has told the user why.
+    virtual bool agrees() { return true; }
+    /// What a job has to say, after the panels have agreed.
+    virtual OptionValues jobOptions() const { return m_serverOptions; }
+
+protected:
+    PrintTarget() = default;
+
+    /// Takes options that no PPD knows. Copies and pages have places of their own; invalid ones are ignored, like every
+    /// saved option that the printer no longer has.
+    void setServerOptions(OptionValues options);
+    /// A request counts for more than what is saved.
+    void setAmount(const PrintRequest &request);
+
+    QString m_name;
+    QString m_note;
+    Amount m_amount;
+    OptionValues m_serverOptions;
+    std::shared_ptr<JobSink> m_sink;
+    std::optional<SavedOptions> m_saved;
+    QString m_preset;
+};
+
+/// A printer with a PPD and a session of its panels.
+class PPDTarget final : public PrintTarget
+{
+    Q_DECLARE_TR_FUNCTIONS(host::PPDTarget)
+
+public:
+    /// The printer that the PPD file of a request describes, with a folder in place of a queue.
+    static foundation::Or<std::unique_ptr<PrintTarget>> ofFile(const PrintRequest &request);
+    /// `carried`: choices that a person has made before; they count for more than what is saved or asked for.
+    static foundation::Or<std::unique_ptr<PrintTarget>> ofQueue(const PrintRequest &request, const Queue &queue,
+                                                                const OptionValues &carried);
+
+    const DialogSession &session() const { return *m_session; }
+
+    QString remark() const override;
+    void start(std::function<void()> changed) override;
+    std::vector<PaperEntry> papers() const override { return m_session->papers(); }
+    ChosenPaper paper() const override { return m_session->paper(); }
+    std::optional<CustomSizeLimits> customSizeLimits() const override { return m_session->ppd().customSizeLimits(); }
+    void choosePaper(const ChosenPaper &paper) override { m_session->changePaper(paper); }
+    const PDEPanels &panels() const override { return m_session->panels(); }
+    bool show(PDEPanel &panel) override { return m_session->show(panel); }
+    void prepareAll() override { m_session->prepareAll(); }
+    OptionValues restore(const QString &preset) override;
+    foundation::Or<void> save(const QString &preset) override;
+    QStringList takeRemarks() override { return m_session->takeRemarks(); }
+    bool agrees() override { return m_session->shouldPrint(); }
+    OptionValues jobOptions() const override;
+
+private:
+    foundation::Or<void> openSession(const PrintRequest &request, const OptionValues &carried,
+                                     DialogSession::Parameters parameters);
+
+    std::unique_ptr<DialogSession> m_session;
+};
+
+/// A queue without a PPD: it has papers and what every printer has.
+class PlainTarget final : public PrintTarget
+{
+    Q_DECLARE_TR_FUNCTIONS(host::PlainTarget)
+
+public:
+    PlainTarget(const PrintRequest &request, const Queue &queue);
+
+    QString remark() const override;
+    void start(std::function<void()>) override {}
+    std::vector<PaperEntry> papers() const override { return m_papers; }
+    ChosenPaper paper() const override;
+    void choosePaper(const ChosenPaper &paper) override;
+    const PDEPanels &panels() const override;
+
+private:
+    std::vector<PaperEntry> m_papers;
+};
+
+/// The kind of target that a queue needs.
+foundation::Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, const Queue &queue,
+                                                           const OptionValues &carried = {});
 
 } // namespace host

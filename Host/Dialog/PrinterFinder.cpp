@@ -1,14 +1,10 @@
-// Keeps a window supplied with printers of the CUPS server.
+// Looks for printers of the CUPS server.
 #include "PrinterFinder.h"
 
-#include "Background.h"
-#include "Window/DialogWindow.h"
-
-#include <QTimer>
-
-#include <utility>
-
 namespace host {
+
+using foundation::Or;
+using foundation::Problem;
 
 namespace {
 
@@ -16,88 +12,44 @@ constexpr int kMillisecondsToWait = 25000; // longer than connecting and the sil
 
 } // namespace
 
-QueueSupply::QueueSupply(CommandLine line, DialogWindow &window)
-    : QObject(&window)
-    , m_line(std::move(line))
-    , m_window(window)
-    , m_wanted(QueueName::fromText(m_line.queue))
+PrinterFinder::PrinterFinder(QObject *parent)
+    : QObject(parent)
 {
-    connect(&window, &DialogWindow::printerChosen, this, [this](const QString &name) { fetch({name, {}}); });
-    connect(&window, &DialogWindow::retryWanted, this, [this] { fetch(m_wanted); });
-    // What was chosen is kept, as far as the printer still has it.
-    connect(&window, &DialogWindow::printerOutdated, this, [this] {
-        fetch({m_shown, m_window.printer().preset}, m_window.printer().jobOptions());
-    });
-    if (!m_wanted.queue.isEmpty())
-        m_window.showPrinterName(m_wanted.queue);
-    fetch(m_wanted);
+    // A search has an end of its own; should the library be held up all the same, the person is not.
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(kMillisecondsToWait);
+    connect(&m_patience, &QTimer::timeout, this, [this] { answer(Problem{tr("The CUPS server does not answer.")}); });
 }
 
-void QueueSupply::fetch(const QueueName &name, const OptionValues &carried)
+void PrinterFinder::find(const QueueName &name)
 {
-    m_wanted = name;
-    m_window.wait(tr("Looking for the printer…"));
-    inBackground(
-        *this,
-        [name] {
-            Fetched fetched;
-            fetched.queue = findQueue(name, &fetched.error);
-            return fetched;
-        },
-        [this, carried, turn = ++m_turn](const Fetched &fetched) {
-            if (turn == m_turn)
-                use(fetched, carried);
+    m_patience.start();
+    m_search = BackgroundWork(
+        BackgroundWork::AtEnd::abandon, *this, [name](const std::stop_token &) { return findQueue(name); },
+        [this, request = ++m_request](const Or<Queue> &queue) {
+            if (request == m_request)
+                answer(queue);
         });
-    // Looking has an end of its own; should the library be held up all the same, the person is not.
-    QTimer::singleShot(kMillisecondsToWait, this, [this, turn = m_turn] {
-        if (turn == m_turn)
-            use({std::nullopt, tr("The CUPS server does not answer.")}, {});
-    });
 }
 
-void QueueSupply::use(const Fetched &fetched, const OptionValues &carried)
+void PrinterFinder::answer(const Or<Queue> &queue)
 {
-    ++m_turn; // what comes later is late
-    QString error = fetched.error;
-    auto printer = fetched.queue ? printerOfQueue(m_line, *fetched.queue, carried, &error) : std::nullopt;
-    if (!printer) {
-        m_window.offerRetry(error);
-    } else {
-        show(*std::move(printer));
-        if (!carried.isEmpty())
-            m_window.say(tr("The printer's description has changed on the server. Please look over the settings."));
-    }
-    if (!m_hasNames) // only now: a server is busy with many queues for a while, and nobody shall wait for that
-        findNames();
+    ++m_request; // ignore answers that arrive after this one
+    m_patience.stop();
+    if (queue)
+        Q_EMIT found(*queue);
+    else
+        Q_EMIT failed(queue.problem());
 }
 
-void QueueSupply::show(Printer printer)
+void PrinterFinder::findNames()
 {
-    m_shown = printer.name;
-    if (!m_names.contains(m_shown))
-        m_names.append(m_shown);
-    m_window.offerPrinters(m_names, m_shown);
-    m_window.usePrinter(std::move(printer));
-    const QString panel = std::exchange(m_line.panel, {}); // to show first, and not after every change of the printer
-    if (!panel.isEmpty() && !m_window.showPanel(panel))
-        m_window.say(tr("There is no panel “%1”.").arg(panel));
-}
-
-void QueueSupply::findNames()
-{
-    inBackground(
-        *this, [] { return queueNames(); }, [this](const std::optional<QueueNames> &found) { offer(found); });
-}
-
-/// Without names the printer that was asked for may still come; when it does not, that is told.
-void QueueSupply::offer(const std::optional<QueueNames> &found)
-{
-    if (!found)
-        return;
-    m_hasNames = true;
-    m_names = found->names;
-    const QString wanted = m_wanted.queue.isEmpty() ? found->standard : m_wanted.queue;
-    m_window.offerPrinters(m_names, m_shown.isEmpty() ? wanted : m_shown);
+    m_naming = BackgroundWork(
+        BackgroundWork::AtEnd::abandon, *this, [](const std::stop_token &) { return queueNames(); },
+        [this](const Or<QueueNames> &names) {
+            if (names)
+                Q_EMIT named(*names);
+        });
 }
 
 } // namespace host

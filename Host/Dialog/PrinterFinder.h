@@ -1,45 +1,38 @@
-// Keeps a window supplied with printers of the CUPS server: which there are, and the one that is chosen.
-// Everything that asks the server is done in the background.
+// Looks for printers of the CUPS server without holding up the dialog.
 #pragma once
 
-#include "Cups/Queues.h"
-#include "Program/CommandLine.h"
+#include "BackgroundWork.h"
 
-#include <QObject>
+#include "Cups/Queues.h"
+
+#include <QTimer>
 
 namespace host {
 
-class DialogWindow;
-struct Printer;
-
-class QueueSupply : public QObject
+class PrinterFinder : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The window owns it. Starts with the queue of the command line.
-    QueueSupply(CommandLine line, DialogWindow &window);
+    explicit PrinterFinder(QObject *parent);
+
+    /// Answers once, with `found` or with `failed`. Drops what an earlier call has not found yet.
+    void find(const QueueName &name);
+    /// Answers with `named`, or not at all: without names a printer that is known by its name still serves.
+    void findNames();
+
+Q_SIGNALS:
+    void found(const host::Queue &queue);
+    void failed(const foundation::Problem &problem);
+    void named(const host::QueueNames &names);
 
 private:
-    struct Fetched
-    {
-        std::optional<Queue> queue;
-        QString error;
-    };
+    void answer(const foundation::Or<Queue> &queue);
 
-    void fetch(const QueueName &name, const OptionValues &carried = {});
-    void use(const Fetched &fetched, const OptionValues &carried);
-    void show(Printer printer);
-    void findNames();
-    void offer(const std::optional<QueueNames> &found);
-
-    CommandLine m_line;
-    DialogWindow &m_window;
-    QueueName m_wanted;
-    QStringList m_names;
-    bool m_hasNames = false; // all of them
-    QString m_shown;         // the queue in the window; empty before there is one
-    int m_turn = 0;          // of fetching: only the last one counts, and only once
+    BackgroundWork m_search;
+    BackgroundWork m_naming;
+    QTimer m_patience;
+    int m_request = 0; // number of the latest search; answers to earlier ones are dropped
 };
 
 } // namespace host

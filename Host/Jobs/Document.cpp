@@ -1,23 +1,24 @@
 // Documents to print.
 #include "Document.h"
 
+#include "Foundation/RegularFile.h"
+
 #include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace host {
 
+using foundation::Or;
+using foundation::Problem;
+
 namespace {
 
-constexpr qint64 kPart = 64 * 1024;
-constexpr qint64 kSample = 4096;
+constexpr qint64 kChunkBytes = 65536;
+constexpr qint64 kSniffBytes = 4096;
 
 struct Format
 {
@@ -33,70 +34,46 @@ constexpr std::array kFormats{
 };
 constexpr Format kText{"", "text/plain", "txt"};
 
-/// Opened without waiting and without following into anything but a regular file.
-int openRegular(const QString &path, QString *error)
+bool copyAll(QFile &from, QFile &to)
 {
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    struct stat status = {};
-    if (fd >= 0 && ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode))
-        return fd;
-    *error = QString("%1: %2").arg(path, fd < 0 ? QString::fromLocal8Bit(std::strerror(errno)) : "not a file");
-    if (fd >= 0)
-        ::close(fd);
-    return -1;
-}
-
-std::unique_ptr<QFile> copyOfStandardInput(QString *error)
-{
-    auto copy = std::make_unique<QTemporaryFile>(); // readable by its owner only
-    QFile input;
-    if (!copy->open() || !input.open(STDIN_FILENO, QIODevice::ReadOnly)) {
-        *error = QString("standard input: %1").arg(copy->errorString());
-        return nullptr;
-    }
     for (;;) {
-        const QByteArray part = input.read(kPart);
+        const QByteArray part = from.read(kChunkBytes);
         if (part.isEmpty())
-            break;
-        if (copy->write(part) != part.size()) {
-            *error = QString("standard input: %1").arg(copy->errorString());
-            return nullptr;
-        }
+            return to.seek(0);
+        if (to.write(part) != part.size())
+            return false;
     }
-    copy->seek(0);
-    return copy;
 }
 
 } // namespace
 
-std::unique_ptr<Document> Document::open(const QString &path, QString *error)
+Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
 {
-    std::unique_ptr<QFile> file;
-    if (path == "-") {
-        file = copyOfStandardInput(error);
-        if (!file)
-            return nullptr;
-    } else {
-        const int fd = openRegular(path, error);
-        if (fd < 0)
-            return nullptr;
-        file = std::make_unique<QFile>();
-        file->open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    }
-    const QString title = path == "-" ? QString("standard input") : QFileInfo(path).fileName();
-    std::unique_ptr<Document> document(new Document(title, std::move(file)));
+    auto copy = std::make_unique<QTemporaryFile>(); // readable by its owner only
+    QFile input;
+    if (!copy->open() || !input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, *copy))
+        return Problem{tr("standard input: %1").arg(copy->errorString())};
+    return std::unique_ptr<QFile>(std::move(copy));
+}
+
+Or<std::shared_ptr<Document>> Document::open(const QString &path)
+{
+    const bool isStandardInput = path == "-";
+    auto file = isStandardInput ? copyOfStandardInput() : foundation::openRegularFile(path);
+    if (!file)
+        return file.problem();
+    const QString title = isStandardInput ? tr("standard input") : QFileInfo(path).fileName();
+    std::shared_ptr<Document> document(new Document(title, *std::move(file)));
     if (document->size() == 0)
-        *error = QString("%1: the document is empty").arg(document->title());
-    else if (!document->recognise())
-        *error = QString("%1: neither a PDF nor an image nor a text").arg(document->title());
-    else
-        return document;
-    return nullptr;
+        return Problem{tr("%1: the document is empty").arg(title)};
+    if (!document->recognise())
+        return Problem{tr("%1: neither a PDF nor an image nor a text").arg(title)};
+    return document;
 }
 
 bool Document::recognise()
 {
-    const QByteArray sample = m_file->read(kSample);
+    const QByteArray sample = m_file->read(kSniffBytes);
     rewind();
     const auto *format = std::ranges::find_if(kFormats, [&](const Format &f) { return sample.startsWith(f.magic); });
     if (format == kFormats.end() && sample.contains('\0'))
@@ -109,7 +86,7 @@ bool Document::recognise()
 
 std::optional<QByteArray> Document::read()
 {
-    const QByteArray part = m_file->read(kPart);
+    const QByteArray part = m_file->read(kChunkBytes);
     return part.isEmpty() && m_file->error() != QFileDevice::NoError ? std::nullopt : std::optional(part);
 }
 

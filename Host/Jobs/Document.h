@@ -1,8 +1,10 @@
 // The document to print: opened once, read by descriptor from then on.
 #pragma once
 
+#include "Foundation/Or.h"
+
+#include <QCoreApplication>
 #include <QFile>
-#include <QString>
 
 #include <memory>
 #include <optional>
@@ -11,10 +13,12 @@ namespace host {
 
 class Document
 {
+    Q_DECLARE_TR_FUNCTIONS(host::Document)
+
 public:
     /// Opens a PDF, an image or a text; "-" is standard input, which is first copied into a private temporary file.
-    /// Null, with one sentence that names the file, when it can't be printed.
-    static std::unique_ptr<Document> open(const QString &path, QString *error);
+    /// A problem when it can't be printed.
+    static foundation::Or<std::shared_ptr<Document>> open(const QString &path);
 
     /// The file's name without its folder; "standard input" for that.
     const QString &title() const { return m_title; }
@@ -34,6 +38,7 @@ private:
         : m_title(std::move(title))
         , m_file(std::move(file))
     {}
+    static foundation::Or<std::unique_ptr<QFile>> copyOfStandardInput();
     bool recognise();
 
     QString m_title;

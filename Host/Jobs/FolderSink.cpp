@@ -1,5 +1,8 @@
-// Jobs that go into a folder.
-#include "Job.h"
+// Jobs that go into a folder. Both files are complete under temporary names before either gets its own, so that nobody
+// who watches the folder meets half a job.
+#include "FolderSink.h"
+
+#include "Foundation/RegularFile.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -9,16 +12,18 @@
 #include <QTemporaryFile>
 
 #include <cerrno>
-#include <cstring>
 #include <unistd.h>
 
 namespace host {
 
+using foundation::Or;
+using foundation::Problem;
+using foundation::systemErrorText;
+
 namespace {
 
 constexpr int kMostNames = 10000;
-
-QString systemError() { return QString::fromLocal8Bit(std::strerror(errno)); }
+constexpr qsizetype kLongestBaseName = 100;
 
 /// A file under a temporary name in the folder, gone again unless it is given its final one.
 std::unique_ptr<QTemporaryFile> temporaryFile(const QString &folder)
@@ -29,21 +34,22 @@ std::unique_ptr<QTemporaryFile> temporaryFile(const QString &folder)
 
 bool complete(QTemporaryFile &file) { return file.flush() && ::fsync(file.handle()) == 0; }
 
-/// Gives the file its final name; false when there is a file of that name already. A link, unlike a rename, never
-/// replaces another file, whoever else writes into the folder at the same time.
-bool nameIt(const QTemporaryFile &file, const QString &path)
+/// Gives the file its final name; 0, or the system's error number. A link, unlike a rename, never replaces another
+/// file, whoever else writes into the folder at the same time.
+int linkAs(const QTemporaryFile &file, const QString &path)
 {
-    return ::link(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) == 0;
+    const int result = ::link(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData());
+    return result == 0 ? 0 : errno;
 }
 
-QByteArray ticket(const Job &job, const QString &documentName)
+QByteArray ticketText(const Job &job, const QString &documentName)
 {
     QJsonObject options;
     for (const auto &[key, value] : job.options.asKeyValueRange())
         options[key] = value;
     QJsonObject members{{"title", job.title},
                         {"document", documentName},
-                        {"format", QString::fromLatin1(job.document.format())},
+                        {"format", QString::fromLatin1(job.document->format())},
                         {"copies", job.copies},
                         {"created", QDateTime::currentDateTimeUtc().toString(Qt::ISODate)},
                         {"options", options}};
@@ -52,61 +58,64 @@ QByteArray ticket(const Job &job, const QString &documentName)
     return QJsonDocument(members).toJson();
 }
 
+bool writeTicket(QTemporaryFile &ticket, const QByteArray &text)
+{
+    return ticket.resize(0) && ticket.seek(0) && ticket.write(text) == text.size() && complete(ticket);
+}
+
 /// A file name from a title: nothing that leaves the folder or hides in it.
 QString baseName(const QString &title)
 {
     QString base = QFileInfo(title).completeBaseName().replace('/', '_');
     while (base.startsWith('.'))
         base.remove(0, 1);
-    return base.isEmpty() ? QString("document") : base.left(100);
+    return base.isEmpty() ? QString("document") : base.left(kLongestBaseName);
 }
 
-/// Nil when all went well; otherwise what went wrong.
-std::optional<QString> copyDocument(Document &document, QTemporaryFile &copy, const JobProgress &progress)
+Or<void> copyDocument(Document &document, QTemporaryFile &copy, const JobProgress &progress,
+                      const std::stop_token &stop)
 {
-    const auto reason = passOn(document, progress, [&copy](const QByteArray &part) {
-        return copy.write(part) == part.size() ? std::nullopt : std::optional(copy.errorString());
+    auto streamed = streamDocument(document, progress, stop, [&copy](const QByteArray &part) -> Or<void> {
+        if (copy.write(part) != part.size())
+            return Problem{copy.errorString()};
+        return {};
     });
-    if (reason || complete(copy))
-        return reason;
-    return copy.error() ? copy.errorString() : systemError();
+    if (!streamed || complete(copy))
+        return streamed;
+    return Problem{copy.error() ? copy.errorString() : systemErrorText(errno)};
 }
 
 } // namespace
 
-JobSink::Result FolderSink::submit(const Job &job, const JobProgress &progress)
+Problem FolderSink::failed(const QString &reason) const { return {m_folder + ": " + reason}; }
+
+Or<QString> FolderSink::submit(const Job &job, const JobProgress &progress, std::stop_token stop)
 {
-    const auto failed = [this](const QString &reason) { return Result{false, m_folder + ": " + reason}; };
     if (!QDir().mkpath(m_folder))
-        return failed(JobSink::tr("can't be made"));
+        return failed(tr("can't be made"));
     const auto copy = temporaryFile(m_folder);
-    const auto note = temporaryFile(m_folder);
-    if (!copy || !note)
-        return failed(JobSink::tr("can't be written"));
-    if (const auto reason = copyDocument(job.document, *copy, progress))
-        return failed(*reason);
+    const auto ticket = temporaryFile(m_folder);
+    if (!copy || !ticket)
+        return failed(tr("can't be written"));
+    if (const auto copied = copyDocument(*job.document, *copy, progress, stop); !copied)
+        return failed(copied.problem().sentence);
 
     for (int i = 1; i < kMostNames; ++i) {
         const QString base = baseName(job.title) + (i == 1 ? QString() : '-' + QString::number(i));
-        const QString name = base + '.' + job.document.extension();
-        const QByteArray text = ticket(job, name);
-        note->resize(0);
-        note->seek(0);
-        if (note->write(text) != text.size() || !complete(*note))
-            return failed(note->errorString());
-        if (!nameIt(*copy, m_folder + '/' + name)) {
-            if (errno == EEXIST)
-                continue;
-            return failed(systemError());
+        const QString name = base + '.' + job.document->extension();
+        if (!writeTicket(*ticket, ticketText(job, name)))
+            return failed(ticket->errorString());
+        int error = linkAs(*copy, path(name));
+        if (error == 0) {
+            error = linkAs(*ticket, path(base + ".json"));
+            if (error == 0)
+                return path(name);
+            QFile::remove(path(name));
         }
-        if (nameIt(*note, m_folder + '/' + base + ".json"))
-            return {true, m_folder + '/' + name};
-        const int error = errno;
-        QFile::remove(m_folder + '/' + name);
         if (error != EEXIST)
-            return failed(QString::fromLocal8Bit(std::strerror(error)));
+            return failed(systemErrorText(error));
     }
-    return failed(JobSink::tr("too many jobs of this name"));
+    return failed(tr("too many jobs of this name"));
 }
 
 } // namespace host

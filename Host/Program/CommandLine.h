@@ -1,7 +1,10 @@
 // What the command line of `qnprint` asks for.
 #pragma once
 
-#include "PPD/PPDDocument.h"
+#include "Dialog/PrintRequest.h"
+#include "Session/Environment.h"
+
+#include "Foundation/Or.h"
 
 #include <QStringList>
 
@@ -11,24 +14,25 @@ inline constexpr int kDone = 0;
 inline constexpr int kRefused = 1; // or cancelled, or failed
 inline constexpr int kWrongUse = 2;
 
+/// What the program becomes. Only the window needs a display.
+enum class Face { window, batch, script, shot, help, version };
+
+/// The face that a command line asks for, whatever else may be wrong with it.
+Face faceOf(const QStringList &arguments);
+
 struct CommandLine
 {
-    QStringList files;
-    QString queue;  // empty: the default queue; a preset may follow behind a slash
-    QString ppd;    // a PPD file instead of a queue
-    QString output; // the folder that goes with it
-    QString title;
-    QString panel;
-    QString language;
-    OptionValues options;
-    std::optional<int> copies;
-    QString pages; // empty: all
-    bool noDialog = false;
+    QStringList files; // documents, or the picture of a shot
+    PrintRequest request;
+    QString panel; // to show first; empty: the first one
+    Environment environment;
 };
 
-/// Reads arguments and applies what they set for the whole process (locale, system version). Nil when the program is to
-/// end now with `status`; what there is to say has been said.
-std::optional<CommandLine> readCommandLine(const QStringList &arguments, const QString &usage, int *status);
+/// Without the word that stands for a face.
+foundation::Or<CommandLine> readCommandLine(const QStringList &arguments);
+
+/// Needs an application, whose name it says.
+QString helpText();
 
 /// One line on standard error, in the manner of `lp`.
 void complain(const QString &sentence);

@@ -1,21 +1,17 @@
 // `qnprint`: which face of the dialog the command line asks for.
-#include "RunDialog.h"
+#include "OpenDialog.h"
+
+#include "Dialog/BackgroundWork.h"
 #include "Script/Script.h"
 
 #include <QApplication>
 
-#include <algorithm>
-#include <string_view>
+#include <cstdlib>
+#include <iostream>
 
 namespace {
 
-bool worksWithoutDisplay(int argc, char *argv[])
-{
-    const std::string_view command = argc > 1 ? argv[1] : "";
-    return command == "script" || command == "shot" || std::any_of(argv, argv + argc, [](const char *argument) {
-               return std::string_view("--no-dialog") == argument;
-           });
-}
+using host::Face;
 
 QtMessageHandler usualHandler = nullptr;
 
@@ -26,26 +22,71 @@ void withoutPlatformRemarks(QtMsgType type, const QMessageLogContext &context, c
         usualHandler(type, context, message);
 }
 
+void doWithoutDisplay()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    usualHandler = qInstallMessageHandler(withoutPlatformRemarks);
+}
+
+QStringList rawArguments(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+int tell(const QString &text)
+{
+    std::cout << text.toStdString() << std::flush;
+    return host::kDone;
+}
+
+int run(Face face, QStringList arguments)
+{
+    if (face == Face::script)
+        return host::runScript();
+    if (face == Face::shot)
+        arguments.removeFirst();
+    const auto line = host::readCommandLine(arguments);
+    if (!line) {
+        host::complain(line.problem().sentence);
+        return host::kWrongUse;
+    }
+    line->environment.apply();
+    if (face == Face::shot)
+        return host::takeShot(*line);
+    return face == Face::batch ? host::printWithoutWindow(*line) : host::openDialog(*line);
+}
+
+int runApplication(Face face, int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    return run(face, QCoreApplication::arguments().mid(1)); // Qt has taken its own
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    if (worksWithoutDisplay(argc, argv)) {
-        if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        usualHandler = qInstallMessageHandler(withoutPlatformRemarks);
-    }
-    QApplication application(argc, argv);
     QCoreApplication::setOrganizationName("qnprint");
     QCoreApplication::setOrganizationDomain("qnprint.org");
     QCoreApplication::setApplicationName("qnprint");
     QCoreApplication::setApplicationVersion(QN_VERSION);
 
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
-    const QString command = arguments.value(0);
-    if (command == "script")
-        return host::runScript();
-    if (command == "shot")
-        return host::runShot(arguments.mid(1));
-    return host::runDialog(arguments);
+    const Face face = host::faceOf(rawArguments(argc, argv));
+    if (face == Face::version)
+        return tell("qnprint " QN_VERSION "\n");
+    if (face == Face::help) {
+        const QCoreApplication application(argc, argv);
+        return tell(host::helpText());
+    }
+    if (face != Face::window)
+        doWithoutDisplay();
+    const int status = runApplication(face, argc, argv);
+    // Nobody waits for a question that the server may take its time to answer, and nothing is cleaned up beneath it.
+    if (host::BackgroundWork::isAbandonedWorkRunning())
+        std::quick_exit(status);
+    return status;
 }

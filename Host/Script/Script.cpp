@@ -2,8 +2,9 @@
 #include "Script.h"
 
 #include "ControlState.h"
-#include "Foundation/Locale.h"
-#include "Foundation/SystemVersion.h"
+
+#include "Session/Environment.h"
+
 #include "Foundation/UserDefaults.h"
 #include "Toolkit/Controls.h"
 
@@ -53,31 +54,22 @@ std::optional<printing::Paper> paperSize(const ScriptRequest &request)
 }
 
 /// What `open` sets for the whole process.
-struct Surroundings
+Environment environment(const ScriptRequest &request)
 {
-    std::optional<foundation::SystemVersion> system;
-    QLocale locale;
-
-    void apply() const
-    {
-        foundation::setSystemVersion(system);
-        foundation::Locale::current().set(locale);
-    }
-};
-
-Surroundings surroundings(const ScriptRequest &request)
-{
-    Surroundings result;
-    if (!request.isNull("system")) {
+    Environment result;
+    if (request.isNull("system")) {
+        result.system = std::nullopt;
+    } else {
         const QString version = request.stringOr("system", kDefaultSystem);
         result.system = foundation::systemVersionFromString(version);
         if (!result.system)
             throw ScriptRefusal(QString("\"%1\" is not a system version of the form 11.0.0").arg(version));
     }
     const QString name = request.stringOr("locale", kDefaultLocale);
-    result.locale = QLocale(name);
-    if (result.locale == QLocale::c() && name != "C")
+    const auto locale = knownLocale(name);
+    if (!locale)
         throw ScriptRefusal(QString("\"%1\" is not a known locale").arg(name));
+    result.locale = *locale;
     return result;
 }
 
@@ -104,13 +96,29 @@ DialogSession::Parameters parameters(const ScriptRequest &request)
 
 // `job` and `state` only tell what the host knows; every other request may run the panels' code.
 const std::array<Script::Verb, 21> Script::kVerbs{{
-    {"open", &Script::open, true},       {"show", &Script::show, true},       {"hide", &Script::hide, true},
-    {"menu", &Script::menu, true},       {"pick", &Script::pick, true},       {"click", &Script::click, true},
-    {"row", &Script::row, true},         {"type", &Script::type, true},       {"enter", &Script::enter, true},
-    {"step", &Script::step, true},       {"paper", &Script::paper, true},     {"mark", &Script::mark, true},
-    {"keys", &Script::keys, true},       {"name", &Script::name, true},       {"save", &Script::save, true},
-    {"restore", &Script::restore, true}, {"summary", &Script::summary, true}, {"print", &Script::print, true},
-    {"job", &Script::job, false},        {"state", &Script::state, false},    {"close", &Script::close, true},
+    // clang-format off
+    {"open",     &Script::open,     Runs::panels},
+    {"show",     &Script::show,     Runs::panels},
+    {"hide",     &Script::hide,     Runs::panels},
+    {"menu",     &Script::menu,     Runs::panels},
+    {"pick",     &Script::pick,     Runs::panels},
+    {"click",    &Script::click,    Runs::panels},
+    {"row",      &Script::row,      Runs::panels},
+    {"type",     &Script::type,     Runs::panels},
+    {"enter",    &Script::enter,    Runs::panels},
+    {"step",     &Script::step,     Runs::panels},
+    {"paper",    &Script::paper,    Runs::panels},
+    {"mark",     &Script::mark,     Runs::panels},
+    {"keys",     &Script::keys,     Runs::panels},
+    {"name",     &Script::name,     Runs::panels},
+    {"save",     &Script::save,     Runs::panels},
+    {"restore",  &Script::restore,  Runs::panels},
+    {"summary",  &Script::summary,  Runs::panels},
+    {"print",    &Script::print,    Runs::panels},
+    {"job",      &Script::job,      Runs::nothing},
+    {"state",    &Script::state,    Runs::nothing},
+    {"close",    &Script::close,    Runs::panels},
+    // clang-format on
 }};
 
 Script::Script()
@@ -153,17 +161,22 @@ QJsonObject Script::perform(const QByteArray &line)
     m_marks = {};
     m_alerts = {};
     QJsonObject reply = (this->*verb->perform)(ScriptRequest(document.object()));
-    if (verb->runsPanels) {
+    if (verb->runs == Runs::panels) {
         reply["marks"] = m_marks;
         reply["alerts"] = m_alerts;
     }
     return reply;
 }
 
-DialogSession &Script::session() const
+void Script::requireSession() const
 {
     if (!m_session)
         throw ScriptRefusal("no dialog is open");
+}
+
+DialogSession &Script::session() const
+{
+    requireSession();
     return *m_session;
 }
 
@@ -199,7 +212,7 @@ C &Script::control(const ScriptRequest &request) const
 QJsonArray Script::panelIdentifiers() const
 {
     QJsonArray identifiers;
-    for (const auto &panel : *m_session->panels())
+    for (const auto &panel : m_session->panels())
         identifiers.append(panel->identifier());
     return identifiers;
 }
@@ -207,24 +220,25 @@ QJsonArray Script::panelIdentifiers() const
 QJsonObject Script::open(const ScriptRequest &request)
 {
     const auto wanted = parameters(request);
-    const Surroundings around = surroundings(request);
+    const Environment around = environment(request);
     const bool prepare = !request.has("prepare") || request.boolean("prepare");
 
-    QString error;
-    auto next = DialogSession::open(wanted, &error);
+    auto next = DialogSession::open(wanted);
     if (!next)
-        throw ScriptRefusal(error);
+        throw ScriptRefusal(next.problem().sentence);
     m_session.reset();
     around.apply();
-    m_session = std::move(next);
-    m_session->onPanelMark = [this](const QString &key, const QString &choice) {
-        m_marks.append(QJsonArray{key, choice});
-    };
+    m_session = *std::move(next);
+    m_session->setListener({.panelMarks =
+                                [this](const QString &key, const QString &choice) {
+                                    m_marks.append(QJsonArray{key, choice});
+                                },
+                            .changed = {}});
     m_session->start(prepare ? DialogSession::Prepare::everyPanel : DialogSession::Prepare::nothing);
 
     QJsonObject reply{{"accepted", m_session->isAccepted()}, {"panels", QJsonArray()}};
     if (m_session->isAccepted())
-        reply["panels"] = m_session->panels() ? QJsonValue(panelIdentifiers()) : QJsonValue();
+        reply["panels"] = m_session->madePanels() ? QJsonValue(panelIdentifiers()) : QJsonValue();
     return reply;
 }
 
@@ -358,11 +372,11 @@ QJsonObject Script::print(const ScriptRequest &request)
     return {{"result", request.has("panel") ? panel(request).shouldPrint() : session().shouldPrint()}};
 }
 
-QJsonObject Script::job(const ScriptRequest &) { return {{"options", toObject(session().ppd().jobOptions())}}; }
+QJsonObject Script::job(const ScriptRequest &) { return {{"options", toObject(session().marks().forJob())}}; }
 
 QJsonObject Script::close(const ScriptRequest &)
 {
-    session();
+    requireSession();
     m_session.reset();
     return {};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ScriptRequest.h"
+
 #include "Session/DialogSession.h"
 
 #include "Toolkit/Alert.h"
@@ -21,12 +22,13 @@ public:
     bool allLinesKnown() const { return m_allLinesKnown; }
 
 private:
-    /// What a request does, and whether panel code may run in it.
+    /// Whether code of panels may run in a request: only then its reply tells of marks and alerts.
+    enum class Runs { nothing, panels };
     struct Verb
     {
         const char *name;
         QJsonObject (Script::*perform)(const ScriptRequest &);
-        bool runsPanels;
+        Runs runs;
     };
     static const std::array<Verb, 21> kVerbs;
 
@@ -53,6 +55,7 @@ private:
     QJsonObject close(const ScriptRequest &);
 
     QJsonObject perform(const QByteArray &line);
+    void requireSession() const;
     DialogSession &session() const;
     PDEPanel &panel(const ScriptRequest &request) const;
     template <class C>

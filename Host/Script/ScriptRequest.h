@@ -1,7 +1,7 @@
 // One request of `qnprint script`: a JSON object whose members are asked for by name and type.
 #pragma once
 
-#include "PPD/PPDDocument.h"
+#include "PPD/OptionValues.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

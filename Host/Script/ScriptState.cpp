@@ -31,12 +31,12 @@ QJsonObject Script::state(const ScriptRequest &request)
     const auto add = [&](const PDEPanel &shown) { panels[shown.identifier()] = panelState(shown.inspection()); };
     if (request.has("panel"))
         add(panel(request));
-    else if (session().panels())
-        for (const auto &each : *session().panels())
+    else
+        for (const auto &each : session().panels())
             add(*each);
 
     QJsonObject marked;
-    for (const auto &[key, value] : session().ppd().marked().asKeyValueRange())
+    for (const auto &[key, value] : session().marks().all().asKeyValueRange())
         marked[key] = value;
     QJsonObject remembered;
     for (const auto &[name, value] : session().remembered())

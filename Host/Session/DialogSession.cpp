@@ -3,72 +3,105 @@
 
 #include "Foundation/Bundle.h"
 #include "Foundation/NotificationCenter.h"
-#include "Foundation/Text.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace host {
 
+using foundation::NotificationCenter;
+using foundation::Or;
+using foundation::Problem;
+
 namespace {
 
-/// Numbers may be written in more than one way.
-bool isSameValue(const QString &one, const QString &other)
-{
-    constexpr auto kCustom = QStringView(u"Custom.");
-    constexpr double kSmallest = 1e-4; // of inches or millimetres
-    if (one == other || !one.startsWith(kCustom) || !other.startsWith(kCustom))
-        return one == other;
-    return std::abs(foundation::doubleValue(QStringView(one).mid(kCustom.size())) -
-                    foundation::doubleValue(QStringView(other).mid(kCustom.size()))) < kSmallest;
-}
+const PDEPanels kNoPanels;
+
+int startedSessions = 0;
 
 } // namespace
 
-std::unique_ptr<DialogSession> DialogSession::open(const Parameters &parameters, QString *error)
+/// What panels may ask, and what they ask about.
+class DialogSession::Callback final : public PDEPluginCallback_v100_
 {
-    auto ppd = PPDDocument::open(parameters.ppdPath, error);
-    if (!ppd)
-        return nullptr;
-    const auto bundle = parameters.bundlePath ? parameters.bundlePath : findBundle(ppd->attribute("APDialogExtension"));
-    if (!bundle) {
-        *error = QString("no plug-in bundle in %1").arg(plugInDirectories().join(", "));
-        return nullptr;
+public:
+    explicit Callback(DialogSession &session)
+        : m_session(session)
+    {}
+
+    const printing::Session *printSession() const override { return &m_printSession; }
+    const printing::Settings *printSettings() const override { return &settings; }
+    const printing::PageFormat *pageFormat() const override { return &format; }
+    const printing::Printer *PMPrinter() const override { return &printer; }
+    ppd_file_t *ppdFile() const override { return m_session.ppd().file(); }
+    bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) override
+    {
+        if (m_session.m_listener.panelMarks)
+            m_session.m_listener.panelMarks(key, choice);
+        return m_session.mark(key, choice);
     }
-    auto plugIn = loadBundle(*bundle, parameters.localization, error);
+
+    printing::Settings settings;
+    printing::PageFormat format;
+    printing::Printer printer;
+
+private:
+    DialogSession &m_session;
+    printing::Session m_printSession;
+};
+
+Or<std::unique_ptr<DialogSession>> DialogSession::open(const Parameters &parameters)
+{
+    auto ppd = PPDDocument::open(parameters.ppdPath);
+    if (!ppd)
+        return ppd.problem();
+    const auto bundle =
+        parameters.bundlePath ? parameters.bundlePath : findBundle((*ppd)->attribute("APDialogExtension"));
+    if (!bundle)
+        return Problem{tr("no plug-in bundle in %1").arg(plugInDirectories().join(", "))};
+    auto plugIn = PlugIn::load(*bundle, parameters.localization);
     if (!plugIn)
-        return nullptr;
-    return std::unique_ptr<DialogSession>(new DialogSession(parameters, std::move(ppd), std::move(*plugIn)));
+        return plugIn.problem();
+    return std::unique_ptr<DialogSession>(new DialogSession(parameters, *std::move(ppd), *std::move(plugIn)));
 }
 
 DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, PlugIn plugIn)
     : m_ppd(std::move(ppd))
+    , m_marks(*m_ppd)
     , m_plugIn(std::move(plugIn))
     , m_panelType(parameters.panelType)
     , m_language(parameters.localization)
+    , m_callback(std::make_unique<Callback>(*this))
+    , m_remarks(*m_ppd, m_marks, *m_plugIn.bundle, m_language)
+    , m_panels(&kNoPanels)
 {
-    m_ppd->adoptDefaults(parameters.defaults);
-    m_printer.setDeviceURI(parameters.uri);
+    m_marks.adoptDefaults(parameters.defaults);
+    m_callback->printer.setDeviceURI(parameters.uri);
     setPaper(parameters.paperName ? paperNamed(*parameters.paperName, parameters.paperSize) : markedPaper());
     markPageSize();
 }
 
 DialogSession::~DialogSession()
 {
-    m_panels = nullptr; // the panels' last words are reported to nobody
+    if (!m_principal)
+        return;
+    m_panels = &kNoPanels; // the panels' last words are reported to nobody
     m_principal.reset();
+    --startedSessions;
 }
 
 void DialogSession::start(Prepare what)
 {
+    Q_ASSERT(startedSessions == 0);
     m_principal = m_plugIn.entry->principalObject(m_plugIn.bundle->info().principalClass);
-    m_accepted = m_principal && m_principal->initWithBundle(*m_plugIn.bundle);
+    if (!m_principal)
+        return;
+    ++startedSessions;
+    m_accepted = m_principal->initWithBundle(*m_plugIn.bundle);
     if (!m_accepted)
         return;
-    m_panels = m_principal->PDEPanelsForType(m_panelType, *this);
-    if (!m_panels)
-        return;
+    if (const PDEPanels *made = m_principal->PDEPanelsForType(m_panelType, *m_callback))
+        m_panels = made;
     for (const auto &panel : *m_panels) {
         panel->panelName();
         panel->panelKind();
@@ -84,8 +117,6 @@ void DialogSession::start(Prepare what)
 
 void DialogSession::prepareAll()
 {
-    if (!m_panels)
-        return;
     for (const auto &panel : *m_panels)
         if (!hasBeenShown(*panel))
             prepare(*panel);
@@ -101,10 +132,10 @@ void DialogSession::prepare(PDEPanel &panel)
 
 bool DialogSession::hasBeenShown(const PDEPanel &panel) const { return std::ranges::count(m_shown, &panel) > 0; }
 
+bool DialogSession::madePanels() const { return m_panels != &kNoPanels; }
+
 PDEPanel *DialogSession::panel(const QString &identifier) const
 {
-    if (!m_panels)
-        return nullptr;
     const auto found =
         std::ranges::find_if(*m_panels, [&](const auto &panel) { return panel->identifier() == identifier; });
     return found == m_panels->end() ? nullptr : found->get();
@@ -144,8 +175,8 @@ ChosenPaper DialogSession::paperNamed(const std::optional<QString> &name, std::o
 void DialogSession::setPaper(const ChosenPaper &paper)
 {
     m_paper = paper;
-    m_settings.setValue(printing::kPaperNameKey, paper.name);
-    m_pageFormat.paper = paper.size;
+    m_callback->settings.setValue(printing::kPaperNameKey, paper.name);
+    m_callback->format.paper = paper.size;
 }
 
 void DialogSession::markPageSize()
@@ -153,35 +184,34 @@ void DialogSession::markPageSize()
     if (!m_paper.name)
         return;
     if (m_ppd->pageSize(*m_paper.name))
-        report(m_ppd->mark("PageSize", *m_paper.name));
-    else if (*m_paper.name == kUserDefinedPaper && m_paper.size)
-        report(m_ppd->markCustomPageSize(*m_paper.size));
+        report(m_marks.mark(kPageSize, *m_paper.name));
+    else if (*m_paper.name == printing::kUserDefinedPaper && m_paper.size)
+        report(m_marks.markCustomPageSize(*m_paper.size));
 }
 
 void DialogSession::changePaper(const ChosenPaper &paper)
 {
     setPaper(paper);
     markPageSize();
-    if (m_panels)
-        for (const auto &panel : *m_panels)
-            if (panel.get() != m_onDisplay && hasBeenShown(*panel))
-                panel->restoreValuesAndReturnError(nullptr);
-    foundation::NotificationCenter::defaultCenter().post(printing::kPaperDidChangeNotification);
+    for (const auto &panel : *m_panels)
+        if (panel.get() != m_onDisplay && hasBeenShown(*panel))
+            panel->restoreValuesAndReturnError(nullptr);
+    NotificationCenter::defaultCenter().post(printing::kPaperDidChangeNotification);
 }
 
 ChosenPaper DialogSession::markedPaper() const
 {
-    if (const auto size = m_ppd->customPageSize())
-        return {kUserDefinedPaper, size};
-    return paperNamed(m_ppd->pageSizeName());
+    if (const auto size = m_marks.customPageSize())
+        return {printing::kUserDefinedPaper, size};
+    return paperNamed(m_marks.pageSizeName());
 }
 
 OptionValues DialogSession::settings(const OptionValues &ownDefaults)
 {
     if (m_onDisplay)
         m_onDisplay->saveValuesAndReturnError(nullptr);
-    OptionValues values = m_ppd->jobOptions();
-    const OptionValues marked = m_ppd->marked();
+    OptionValues values = m_marks.forJob();
+    const OptionValues marked = m_marks.all();
     for (const QString &keyword : ownDefaults.keys())
         if (!values.contains(keyword) && marked.contains(keyword))
             values.insert(keyword, marked.value(keyword));
@@ -190,91 +220,43 @@ OptionValues DialogSession::settings(const OptionValues &ownDefaults)
 
 void DialogSession::restore(const OptionValues &values)
 {
-    report(m_ppd->restore(values));
+    report(m_marks.restore(values));
     setPaper(markedPaper());
-    if (m_panels)
-        for (const auto &panel : *m_panels)
-            panel->restoreValuesAndReturnError(nullptr);
+    for (const auto &panel : *m_panels)
+        panel->restoreValuesAndReturnError(nullptr);
     // Also when the paper is the same: the panels' rules bring in line what was saved under another paper, and what
     // they decide is marked now and not only when the job goes out.
-    foundation::NotificationCenter::defaultCenter().post(printing::kPaperDidChangeNotification);
-    m_restoring = values;
+    NotificationCenter::defaultCenter().post(printing::kPaperDidChangeNotification);
+    m_remarks.expect(values);
 }
 
 bool DialogSession::mark(const QString &key, const QString &choice)
 {
-    const auto changes = m_ppd->mark(key, choice);
-    report(changes);
-    return changes.has_value();
+    const auto effect = m_marks.mark(key, choice);
+    report(effect);
+    return effect.has_value();
 }
 
-bool DialogSession::willChangePPDOptionKeyValue(const QString &key, const QString &choice)
+void DialogSession::report(const std::optional<PPDMarks::Effect> &effect)
 {
-    if (onPanelMark)
-        onPanelMark(key, choice);
-    return mark(key, choice);
-}
-
-void DialogSession::report(const std::optional<PPDDocument::Changes> &changes)
-{
-    if (!changes)
+    if (!effect)
         return;
-    for (const auto &[key, choice] : *changes) {
-        if (m_panels)
-            for (const auto &panel : *m_panels)
-                panel->PPDOptionKeyValueDidChange(key, choice);
-        if (onChange)
-            onChange(key, choice);
+    m_remarks.add(effect->moved);
+    for (const auto &[key, choice] : effect->changed) {
+        for (const auto &panel : *m_panels)
+            panel->PPDOptionKeyValueDidChange(key, choice);
+        if (m_listener.changed)
+            m_listener.changed(key, choice);
     }
 }
 
-QString DialogSession::optionText(const QString &keyword) const
-{
-    return m_plugIn.bundle->localizedString(m_ppd->optionText(keyword));
-}
-
-/// In the words of the panels where they have some, else in those of the PPD.
-QString DialogSession::choiceText(const PPDDocument::Change &choice) const
-{
-    const QString key = m_ppd->choiceText(choice.keyword, choice.choice);
-    const QString text = m_plugIn.bundle->localizedString(key);
-    return text == key ? m_ppd->choiceText(choice.keyword, choice.choice, m_language) : text;
-}
-
-QString DialogSession::inWords(const PPDDocument::Change &choice) const
-{
-    return QString("%1 “%2”").arg(optionText(choice.keyword), choiceText(choice));
-}
-
-QStringList DialogSession::takeRemarks()
-{
-    QStringList remarks;
-    for (const auto &[from, to, cause] : m_ppd->takeMoves()) {
-        if (m_ppd->choiceMarked(from.keyword) == from.choice)
-            continue; // it is back where it was
-        const QString sentence = tr("%1 instead of “%2”, to go with %3.")
-                                     .arg(inWords({from.keyword, m_ppd->choiceMarked(from.keyword)}), choiceText(from),
-                                          cause.keyword.isEmpty() ? tr("the other choices") : inWords(cause));
-        if (!remarks.contains(sentence))
-            remarks.append(sentence);
-    }
-    const OptionValues wanted = std::exchange(m_restoring, {});
-    const OptionValues marked = m_ppd->marked();
-    for (const auto &[keyword, value] : wanted.asKeyValueRange())
-        if (keyword != "PageSize" && m_ppd->hasOption(keyword) && !isSameValue(marked.value(keyword), value))
-            remarks.append((m_ppd->canTake(keyword, value)
-                                ? tr("%1 is not as it was saved: the rules for the paper decide it.")
-                                : tr("%1 is not as it was saved: the printer has no such choice any more."))
-                               .arg(optionText(keyword)));
-    return remarks;
-}
+QStringList DialogSession::takeRemarks() { return m_remarks.take(); }
 
 bool DialogSession::shouldPrint()
 {
-    if (m_panels)
-        for (const auto &panel : *m_panels)
-            if (!panel->shouldPrint())
-                return false;
+    for (const auto &panel : *m_panels)
+        if (!panel->shouldPrint())
+            return false;
     if (m_onDisplay)
         m_onDisplay->saveValuesAndReturnError(nullptr);
     return true;

@@ -1,18 +1,15 @@
-// One print dialog from opening to the end, without a window: the PPD, the plug-in, its panels, the paper, the marks.
-// The window, `script` and `shot` are faces of it.
+// One print dialog on a PPD from opening to the end, without a window: the plug-in, its panels, the paper, the marks,
+// and who is called when.
 #pragma once
 
-#include "PDEPlugInInterface.h"
-#include "PPD/PPDDocument.h"
 #include "PlugIn.h"
+#include "Remarks.h"
 
-#include <QCoreApplication>
+#include "PPD/PPDMarks.h"
 
 #include <functional>
 
 namespace host {
-
-using printing::kUserDefinedPaper;
 
 /// A paper of the dialog. `name` is nil when the print settings hold none; `size` nil when it is not known.
 struct ChosenPaper
@@ -21,7 +18,7 @@ struct ChosenPaper
     std::optional<printing::Paper> size;
 };
 
-class DialogSession final : private PDEPluginCallback_v100_
+class DialogSession
 {
     Q_DECLARE_TR_FUNCTIONS(host::DialogSession)
 
@@ -43,26 +40,40 @@ public:
     /// declared defaults, never undoes a choice made since.
     enum class Prepare { nothing, firstPanel, everyPanel };
 
-    /// Does all that can fail: opens the PPD and loads the bundle. Null, with one sentence, when one of them can't
-    /// serve. Nothing of an earlier session is touched.
-    static std::unique_ptr<DialogSession> open(const Parameters &parameters, QString *error);
+    /// Whoever wants to know of choices as they are made.
+    struct Listener
+    {
+        std::function<void(const QString &key, const QString &choice)> panelMarks; // a panel asks for a choice
+        std::function<void(const QString &key, const QString &choice)> changed;    // another choice is marked now
+    };
 
-    /// Creates the principal object and its panels. No other session may be alive any more.
+    /// Does all that can fail: opens the PPD and loads the bundle. Nothing of an earlier session is touched.
+    static foundation::Or<std::unique_ptr<DialogSession>> open(const Parameters &parameters);
+    ~DialogSession();
+    DialogSession(const DialogSession &) = delete;
+    DialogSession &operator=(const DialogSession &) = delete;
+
+    void setListener(Listener listener) { m_listener = std::move(listener); }
+    /// Creates the principal object and its panels. Only one session may be started at a time: panels of two would
+    /// answer the same notifications.
     void start(Prepare prepare);
-    ~DialogSession() override;
 
     /// Whether the plug-in serves on this system; without it there are no panels.
     bool isAccepted() const { return m_accepted; }
-    /// Null when the plug-in could make none.
-    const PDEPanels *panels() const { return m_panels; }
+    /// Empty when there are none, be it that the plug-in has none of this type or that it could make none.
+    const PDEPanels &panels() const { return *m_panels; }
+    /// False when the plug-in could make no panels.
+    bool madePanels() const;
+    /// Null when there is no panel of that identifier.
     PDEPanel *panel(const QString &identifier) const;
     PDEPanel *panelOnDisplay() const { return m_onDisplay; }
     /// What the panels remember for this dialog.
     std::vector<PDERemembered> remembered() const { return m_plugIn.entry->remembered(); }
-    PPDDocument &ppd() const { return *m_ppd; }
+    const PPDDocument &ppd() const { return *m_ppd; }
+    const PPDMarks &marks() const { return m_marks; }
     const ChosenPaper &paper() const { return m_paper; }
     /// The PPD's papers, in the language of the dialog where the PPD has it.
-    std::vector<PPDDocument::PageSize> papers() const { return m_ppd->pageSizes(m_language); }
+    std::vector<PaperEntry> papers() const { return m_ppd->papers(m_language); }
 
     /// Prepares every panel that has not been shown yet.
     void prepareAll();
@@ -76,7 +87,7 @@ public:
     /// The size that belongs to a name: the one given, else the PPD's, else none.
     ChosenPaper paperNamed(const std::optional<QString> &name, std::optional<printing::Paper> size = {}) const;
 
-    /// Another part of the dialog marks a choice.
+    /// Another part of the dialog marks a choice. False when nothing could be marked.
     bool mark(const QString &key, const QString &choice);
 
     /// What makes this dialog another than a fresh one, to be saved under a name: every choice that is not the PPD's
@@ -91,47 +102,33 @@ public:
     /// Asks each panel, in order, up to the first that refuses; when all agree, the panel on display saves its values.
     bool shouldPrint();
 
-    /// Told of every choice that a panel asks for, and of every option whose marked choice has changed.
-    std::function<void(const QString &key, const QString &choice)> onPanelMark;
-    std::function<void(const QString &key, const QString &choice)> onChange;
-
 private:
-    DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, PlugIn plugIn);
+    class Callback;
 
-    // What panels may ask.
-    const printing::Session *printSession() const override { return &m_session; }
-    const printing::Settings *printSettings() const override { return &m_settings; }
-    const printing::PageFormat *pageFormat() const override { return &m_pageFormat; }
-    const printing::Printer *PMPrinter() const override { return &m_printer; }
-    ppd_file_t *ppdFile() const override { return m_ppd->file(); }
-    bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) override;
+    DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, PlugIn plugIn);
 
     void setPaper(const ChosenPaper &paper);
     ChosenPaper markedPaper() const;
-    QString optionText(const QString &keyword) const;
-    QString choiceText(const PPDDocument::Change &choice) const;
-    QString inWords(const PPDDocument::Change &choice) const;
     void markPageSize();
-    void report(const std::optional<PPDDocument::Changes> &changes);
+    void report(const std::optional<PPDMarks::Effect> &effect);
     void prepare(PDEPanel &panel);
     bool hasBeenShown(const PDEPanel &panel) const;
 
     std::unique_ptr<PPDDocument> m_ppd; // outlives the panels, which borrow its choices
+    PPDMarks m_marks;
     PlugIn m_plugIn;
     QString m_panelType;
     QString m_language;
-    printing::Session m_session;
-    printing::Settings m_settings;
-    printing::PageFormat m_pageFormat;
-    printing::Printer m_printer;
+    std::unique_ptr<Callback> m_callback;
     ChosenPaper m_paper;
+    Remarks m_remarks;
+    Listener m_listener;
 
     std::unique_ptr<PDEPlugIn> m_principal;
     bool m_accepted = false;
-    const PDEPanels *m_panels = nullptr;
+    const PDEPanels *m_panels; // never null
     PDEPanel *m_onDisplay = nullptr;
     std::vector<const PDEPanel *> m_shown;
-    OptionValues m_restoring; // what was asked for and is not yet told of
 };
 
 } // namespace host

@@ -1,14 +1,15 @@
 // Finding and loading plug-in bundles.
 #include "PlugIn.h"
 
-#include "Foundation/Bundle.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPluginLoader>
 
 namespace host {
+
+using foundation::Or;
+using foundation::Problem;
 
 namespace {
 
@@ -40,32 +41,25 @@ std::optional<QString> findBundle(const std::optional<QString> &dialogExtension)
     return first;
 }
 
-std::optional<PlugIn> loadBundle(const QString &path, const QString &localization, QString *error)
+Or<PlugIn> PlugIn::load(const QString &path, const QString &localization)
 {
-    PlugIn plugIn;
-    plugIn.bundle = foundation::Bundle::open(path, localization, error);
-    if (!plugIn.bundle)
-        return std::nullopt;
-    const auto &info = plugIn.bundle->info();
-    if (info.abiVersion != kPDEInterfaceVersion) {
-        *error = QString("%1: made for interface version %2, this dialog has %3")
-                     .arg(path)
-                     .arg(info.abiVersion)
-                     .arg(kPDEInterfaceVersion);
-        return std::nullopt;
-    }
-    QPluginLoader loader(plugIn.bundle->path() + '/' + info.executable);
+    auto bundle = foundation::Bundle::open(path, localization);
+    if (!bundle)
+        return bundle.problem();
+    const auto &info = (*bundle)->info();
+    if (info.abiVersion != kPDEInterfaceVersion)
+        return Problem{tr("%1: made for interface version %2, this dialog has %3")
+                           .arg(path)
+                           .arg(info.abiVersion)
+                           .arg(kPDEInterfaceVersion)};
+    QPluginLoader loader((*bundle)->path() + '/' + info.executable);
     QObject *const root = loader.instance();
-    if (!root) {
-        *error = QString("%1: %2").arg(path, loader.errorString());
-        return std::nullopt;
-    }
-    plugIn.entry = qobject_cast<PDEPlugInEntry *>(root);
-    if (!plugIn.entry) {
-        *error = QString("%1: %2 is not the code of a panel plug-in").arg(path, info.executable);
-        return std::nullopt;
-    }
-    return plugIn;
+    if (!root)
+        return Problem{QString("%1: %2").arg(path, loader.errorString())};
+    auto *const entry = qobject_cast<PDEPlugInEntry *>(root);
+    if (!entry)
+        return Problem{tr("%1: %2 is not the code of a panel plug-in").arg(path, info.executable)};
+    return PlugIn{*std::move(bundle), entry};
 }
 
 } // namespace host

@@ -3,14 +3,24 @@
 
 #include "PDEPlugInInterface.h"
 
+#include "Foundation/Bundle.h"
+
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace host {
 
+/// A loaded bundle.
 struct PlugIn
 {
+    Q_DECLARE_TR_FUNCTIONS(host::PlugIn)
+
+public:
+    /// A problem when the bundle can't serve this host. `localization`: the language of its texts.
+    static foundation::Or<PlugIn> load(const QString &path, const QString &localization);
+
     std::unique_ptr<foundation::Bundle> bundle;
-    PDEPlugInEntry *entry = nullptr; // stays loaded until the process ends
+    PDEPlugInEntry *entry; // stays loaded until the process ends
 };
 
 /// Directories that hold plug-in bundles, the user's choice first.
@@ -20,8 +30,5 @@ QStringList plugInDirectories();
 /// name; else the first bundle of the directories; nil when there is none. Only the name counts, never the path: a PPD
 /// must not be able to have code loaded from elsewhere.
 std::optional<QString> findBundle(const std::optional<QString> &dialogExtension);
-
-/// Null, with one sentence that names the bundle, when it can't serve this host.
-std::optional<PlugIn> loadBundle(const QString &path, const QString &localization, QString *error);
 
 } // namespace host

@@ -1,48 +1,46 @@
-// The paper of the dialog: the PPD's sizes, and a size of the user's own within the PPD's limits.
+// The paper of the dialog: the printer's papers, and a size of the user's own within the printer's limits.
 #pragma once
 
-#include "Session/DialogSession.h"
+#include "Dialog/PrintTarget.h"
 
-#include <QHBoxLayout>
+#include <QObject>
 
 class QComboBox;
 class QDoubleSpinBox;
+class QWidget;
 
 namespace host {
 
-/// A row for a form. It is a layout and no widget of its own, so that assistive technology finds the label beside the
-/// menu.
-class PaperChooser : public QHBoxLayout
+class PaperChooser : public QObject
 {
     Q_OBJECT
 
 public:
-    PaperChooser();
+    /// The widgets are the window's. `ownSize` holds the two sides and shows for a size of the user's own only.
+    struct Parts
+    {
+        QComboBox *papers;
+        QWidget *ownSize;
+        QDoubleSpinBox *width;
+        QDoubleSpinBox *height;
+    };
+    PaperChooser(const Parts &parts, QObject *parent);
 
-    /// What a label of the paper belongs to.
-    QComboBox *menu() const { return m_names; }
-    /// Whether a person may choose.
-    void setChoosable(bool choosable);
-
-    /// Shows the papers of a session, with its own selected; nothing is reported.
-    void offer(const DialogSession &session);
-    /// Shows papers of a printer without a session; one is selected when it has that name, else none.
-    void offer(const std::vector<PPDDocument::PageSize> &papers, const QString &name);
-    /// Nil before anything was offered.
-    std::optional<ChosenPaper> chosen() const;
+    /// Shows the papers of a printer with the chosen one selected; nothing is reported.
+    void offer(const PrintTarget &target);
+    bool isEmpty() const;
 
 Q_SIGNALS:
-    void chose(); // a person did
+    void chose(const host::ChosenPaper &paper); // a person did
 
 private:
+    void offerOwnSize(const CustomSizeLimits &limits);
+    void showSides();
     void choose();
 
-    QComboBox *m_names;
-    QWidget *m_ownSize;
-    QDoubleSpinBox *m_width;
-    QDoubleSpinBox *m_height;
+    Parts m_parts;
     double m_pointsPerUnit;
-    std::vector<PPDDocument::PageSize> m_sizes;
+    std::vector<PaperEntry> m_papers;
 };
 
 } // namespace host

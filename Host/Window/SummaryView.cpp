@@ -26,12 +26,10 @@ SummaryView::SummaryView(QWidget *parent)
     header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
 }
 
-void SummaryView::show(const PDEPanels *panels)
+void SummaryView::show(const PDEPanels &panels)
 {
     clear();
-    if (!panels)
-        return;
-    for (const auto &panel : *panels) {
+    for (const auto &panel : panels) {
         const auto summary = panel->summaryInfo();
         if (!summary || summary->displayOrder.isEmpty())
             continue;
@@ -41,14 +39,18 @@ void SummaryView::show(const PDEPanels *panels)
         heading->setFont(0, bold);
         heading->setFirstColumnSpanned(true);
         heading->setSizeHint(0, QSize(0, fontMetrics().height() + 2 * kRowPadding));
-        for (const QString &title : summary->displayOrder) {
-            auto *row = new QTreeWidgetItem(heading, {title, summary->values.value(title)});
-            row->setToolTip(1, summary->values.value(title));
-            row->setSizeHint(0, QSize(fontMetrics().horizontalAdvance(title) + 2 * kRowPadding,
-                                      fontMetrics().height() + kRowPadding));
-        }
+        for (const QString &title : summary->displayOrder)
+            addRow(*heading, title, summary->values.value(title));
     }
     expandAll();
+}
+
+void SummaryView::addRow(QTreeWidgetItem &heading, const QString &title, const QString &value)
+{
+    auto *row = new QTreeWidgetItem(&heading, {title, value});
+    row->setToolTip(1, value);
+    row->setSizeHint(
+        0, QSize(fontMetrics().horizontalAdvance(title) + 2 * kRowPadding, fontMetrics().height() + kRowPadding));
 }
 
 } // namespace host

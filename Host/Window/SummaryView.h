@@ -14,8 +14,11 @@ class SummaryView : public QTreeWidget
 public:
     explicit SummaryView(QWidget *parent = nullptr);
 
-    /// Asks every panel anew; a panel without a summary is left out. Null empties the view.
-    void show(const PDEPanels *panels);
+    /// Asks every panel anew; a panel without a summary is left out.
+    void show(const PDEPanels &panels);
+
+private:
+    void addRow(QTreeWidgetItem &heading, const QString &title, const QString &value);
 };
 
 } // namespace host

@@ -17,40 +17,32 @@ constexpr auto kNoLocalization = "none";
 constexpr auto kTableContext = "Localizable";
 constexpr qint64 kLargestInfoFile = 64 * 1024;
 
-std::optional<Bundle::Info> readInfo(const QString &path, QString *error)
+} // namespace
+
+Or<Bundle::Info> Bundle::readInfo(const QString &path)
 {
     QFile file(path + "/Info.json");
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = QString("%1: not a plug-in bundle (Info.json: %2)").arg(path, file.errorString());
-        return std::nullopt;
-    }
+    if (!file.open(QIODevice::ReadOnly))
+        return Problem{tr("%1: not a plug-in bundle (Info.json: %2)").arg(path, file.errorString())};
     QJsonParseError parse;
     const QJsonObject object = QJsonDocument::fromJson(file.read(kLargestInfoFile), &parse).object();
-    if (parse.error != QJsonParseError::NoError) {
-        *error = QString("%1/Info.json: %2").arg(path, parse.errorString());
-        return std::nullopt;
-    }
-    Bundle::Info info{object["identifier"].toString(), object["executable"].toString(),
-                      object["principalClass"].toString(), object["abiVersion"].toInt()};
-    if (info.executable.isEmpty() || info.principalClass.isEmpty()) {
-        *error = QString("%1/Info.json: names no executable or no principal class").arg(path);
-        return std::nullopt;
-    }
+    if (parse.error != QJsonParseError::NoError)
+        return Problem{QString("%1/Info.json: %2").arg(path, parse.errorString())};
+    Info info{object["identifier"].toString(), object["executable"].toString(), object["principalClass"].toString(),
+              object["abiVersion"].toInt()};
+    if (info.executable.isEmpty() || info.principalClass.isEmpty())
+        return Problem{tr("%1/Info.json: names no executable or no principal class").arg(path)};
     return info;
 }
 
-} // namespace
-
-std::unique_ptr<Bundle> Bundle::open(const QString &path, const QString &localization, QString *error)
+Or<std::unique_ptr<Bundle>> Bundle::open(const QString &path, const QString &localization)
 {
-    if (!QFileInfo(path).isDir()) {
-        *error = QString("%1: no such plug-in bundle").arg(path);
-        return nullptr;
-    }
-    auto info = readInfo(path, error);
+    if (!QFileInfo(path).isDir())
+        return Problem{tr("%1: no such plug-in bundle").arg(path)};
+    auto info = readInfo(path);
     if (!info)
-        return nullptr;
-    std::unique_ptr<Bundle> bundle(new Bundle(QFileInfo(path).absoluteFilePath(), std::move(*info)));
+        return info.problem();
+    std::unique_ptr<Bundle> bundle(new Bundle(QFileInfo(path).absoluteFilePath(), *std::move(info)));
     if (localization != kNoLocalization)
         bundle->loadTable(localization);
     return bundle;

@@ -2,7 +2,10 @@
 // Used by every room above; knows nothing of widgets.
 #pragma once
 
+#include "Or.h"
+
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -16,6 +19,8 @@ namespace foundation {
 /// A bundle directory: `Info.json`, the shared object that it names, and `Resources/`.
 class Bundle
 {
+    Q_DECLARE_TR_FUNCTIONS(foundation::Bundle)
+
 public:
     /// What `Info.json` says. `abiVersion` is 0 when the file names none.
     struct Info
@@ -26,10 +31,10 @@ public:
         int abiVersion = 0;
     };
 
-    /// Reads `Info.json`; nil with one sentence in `error` when the directory or the file is missing or malformed.
+    /// Reads `Info.json`; a problem when the directory or the file is missing or malformed.
     /// `localization` names a string table ("en", "ja", "zh_CN"); one without a table falls back to its language, then
     /// to English. The name "none" loads no table, so that every text shows as its key.
-    static std::unique_ptr<Bundle> open(const QString &path, const QString &localization, QString *error);
+    static Or<std::unique_ptr<Bundle>> open(const QString &path, const QString &localization);
 
     ~Bundle();
     Bundle(const Bundle &) = delete;
@@ -50,6 +55,7 @@ public:
 
 private:
     Bundle(QString path, Info info);
+    static Or<Info> readInfo(const QString &path);
     void loadTable(const QString &localization);
 
     QString m_path;

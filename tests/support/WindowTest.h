@@ -2,12 +2,22 @@
 #pragma once
 
 #include "Print.h"
-#include "Window/DialogWindow.h"
-#include "Window/PaperChooser.h"
+#include "Results.h"
 
+#include "Dialog/PrintDialog.h"
+#include "Foundation/Locale.h"
+#include "Foundation/UserDefaults.h"
+#include "Toolkit/Alert.h"
+#include "Window/DialogWindow.h"
+
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -15,12 +25,40 @@
 
 namespace support {
 
+inline constexpr auto kTicket = QN_SOURCE_DIR "/examples/documents/ticket.pdf";
+
 class WindowTest : public testing::Test
 {
 protected:
+    /// What an application remembers goes into `defaults`, a file; alerts are recorded.
+    void setUp(const QString &defaults) { m_defaults = std::make_unique<foundation::ScopedDefaults>(defaults); }
+    void TearDown() override
+    {
+        m_window.reset();
+        m_dialog.reset();
+    }
+    /// A dialog without a printer yet; the earlier window goes first.
+    void makeDialog(const host::PrintRequest &request, const QString &file = kTicket)
+    {
+        m_window.reset();
+        m_dialog = std::make_unique<host::PrintDialog>(request, value(host::Document::open(file)));
+    }
+    void showWindow()
+    {
+        m_window = std::make_unique<host::DialogWindow>(*m_dialog);
+        m_window->show();
+        m_window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        QApplication::processEvents();
+    }
+
+    /// The one that is seen, where both panels have one of that name.
     template <class Widget>
     Widget *find(const QString &name = {})
     {
+        for (auto *each : m_window->findChildren<Widget *>(name))
+            if (each->isVisible())
+                return each;
         return m_window->findChild<Widget *>(name);
     }
     QPushButton *button(const QString &text)
@@ -30,14 +68,47 @@ protected:
                 return each;
         return nullptr;
     }
-    void choosePaper(const QString &name)
+    bool canPrint() { return button("&Print")->isEnabled(); }
+    QComboBox *printers() { return find<QComboBox>("printers"); }
+    QComboBox *presets() { return find<QComboBox>("presets"); }
+    QComboBox *papers() { return find<QComboBox>("papers"); }
+    QLineEdit *pages() { return find<QLineEdit>("pages"); }
+    /// The sentence under the panel; empty when none is shown.
+    QString message()
     {
-        auto *const papers = find<host::PaperChooser>()->menu();
-        papers->setCurrentIndex(papers->findData(name));
-        Q_EMIT papers->activated(papers->currentIndex());
+        auto *const label = find<QLabel>("message");
+        return label->isVisible() ? label->text() : QString();
+    }
+    const host::PPDTarget &target() const { return dynamic_cast<const host::PPDTarget &>(*m_dialog->target()); }
+    const host::DialogSession &session() const { return target().session(); }
+    QString marked(const QString &keyword) const { return session().marks().choiceOf(keyword); }
+
+    /// As a person does it: opens the list, goes to the item, and takes it.
+    static void choose(QComboBox &box, int index)
+    {
+        ASSERT_GE(index, 0);
+        box.showPopup();
+        box.view()->setCurrentIndex(box.model()->index(index, box.modelColumn()));
+        QTest::keyClick(box.view(), Qt::Key_Return);
+        ASSERT_EQ(box.currentIndex(), index);
         QApplication::processEvents();
     }
+    static void choose(QComboBox &box, const QString &text) { choose(box, box.findText(text)); }
+    void choosePaper(const QString &name) { choose(*papers(), papers()->findData(name)); }
+    void trigger(const QString &action)
+    {
+        for (auto *each : button("Sa&ve")->menu()->actions())
+            if (each->text() == action)
+                return each->trigger();
+        FAIL() << "no action " << action.toStdString();
+    }
 
+    QStringList m_alerts;
+    std::unique_ptr<foundation::ScopedDefaults> m_defaults;
+    toolkit::PresentAlerts m_presentAlerts{
+        [this](const toolkit::Alert &alert) { m_alerts.append(alert.messageText()); }};
+    foundation::ScopedLocale m_locale{QLocale("de_DE")};
+    std::unique_ptr<host::PrintDialog> m_dialog;
     std::unique_ptr<host::DialogWindow> m_window;
 };
 

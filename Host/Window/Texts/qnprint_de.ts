@@ -2,22 +2,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>foundation::Bundle</name>
+    <message>
+        <source>%1: not a plug-in bundle (Info.json: %2)</source>
+        <translation>%1: kein Plug-in-Paket (Info.json: %2)</translation>
+    </message>
+    <message>
+        <source>%1/Info.json: names no executable or no principal class</source>
+        <translation>%1/Info.json: nennt kein Programm oder keine Hauptklasse</translation>
+    </message>
+    <message>
+        <source>%1: no such plug-in bundle</source>
+        <translation>%1: Dieses Plug-in-Paket gibt es nicht</translation>
+    </message>
+</context>
+<context>
+    <name>foundation::RegularFile</name>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: keine Datei</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>keine solche Warteschlange</translation>
+    </message>
+    <message>
+        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>%1: Die Beschreibung des Druckers hat sich inzwischen geändert; nichts wurde gedruckt</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1; der Auftrag %2-%3 ist vielleicht noch da, sehen Sie nach, bevor Sie erneut drucken</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
-        <source>%1 instead of “%2”, to go with %3.</source>
-        <translation>%1 statt „%2“, passend zu %3.</translation>
-    </message>
-    <message>
-        <source>the other choices</source>
-        <translation>den übrigen Einstellungen</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
-        <translation>%1 ist nicht wie gesichert: Die Regeln für das Papier bestimmen es.</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
-        <translation>%1 ist nicht wie gesichert: Der Drucker hat diese Auswahl nicht mehr.</translation>
+        <source>no plug-in bundle in %1</source>
+        <translation>kein Plug-in-Paket in %1</translation>
     </message>
 </context>
 <context>
@@ -91,16 +120,139 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <source>Defaults</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als Vorlage sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Papierbreite</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Papierhöhe</translation>
+    </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>Es gibt keine Seite „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>host::Document</name>
+    <message>
+        <source>standard input: %1</source>
+        <translation>Standardeingabe: %1</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>%1: the document is empty</source>
+        <translation>%1: Das Dokument ist leer</translation>
+    </message>
+    <message>
+        <source>%1: neither a PDF nor an image nor a text</source>
+        <translation>%1: weder PDF noch Bild noch Text</translation>
+    </message>
+</context>
+<context>
+    <name>host::FolderSink</name>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>can&apos;t be written</source>
+        <translation>kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>zu viele Aufträge dieses Namens</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1: kann nicht mehr gelesen werden</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDDocument</name>
+    <message>
+        <source>%1: not a PPD file (the file is empty)</source>
+        <translation>%1: keine PPD-Datei (die Datei ist leer)</translation>
+    </message>
+    <message>
+        <source>%1: not a PPD file (line %2: %3)</source>
+        <translation>%1: keine PPD-Datei (Zeile %2: %3)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDTarget</name>
+    <message>
+        <source>-o %1=%2: the printer has no such choice</source>
+        <translation>-o %1=%2: Diese Auswahl hat der Drucker nicht</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>Das Plug-in hat keine Einstellungen für diesen Drucker. Gedruckt wird mit den Vorgaben des Treibers.</translation>
     </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> Zoll</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Eigene Größe…</translation>
+    </message>
+</context>
+<context>
+    <name>host::PlainTarget</name>
     <message>
         <source>No driver describes this printer: it has general settings only.</source>
         <translation>Kein Treiber beschreibt diesen Drucker: Er hat nur allgemeine Einstellungen.</translation>
     </message>
+</context>
+<context>
+    <name>host::PlugIn</name>
     <message>
-        <source>Defaults</source>
-        <translation>Standard</translation>
+        <source>%1: made for interface version %2, this dialog has %3</source>
+        <translation>%1: für Schnittstellenversion %2 gemacht, dieser Dialog hat %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not the code of a panel plug-in</source>
+        <translation>%1: %2 ist nicht der Code eines Plug-ins mit Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintDialog</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>Der Drucker wird gesucht…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description has changed on the server. Please look over the settings.</source>
+        <translation>Die Beschreibung des Druckers hat sich auf dem Server geändert. Bitte sehen Sie die Einstellungen durch.</translation>
     </message>
     <message>
         <source>%1: the plug-in has no interface for this panel.</source>
@@ -115,101 +267,42 @@
         <translation>Als „%1“ für %2 gesichert.</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Als Vorlage sichern</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>&amp;Name:</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>„%1“ wurde gelöscht.</translation>
-    </message>
-    <message>
-        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
-        <translation>„%1“ sind keine Seiten. Schreiben Sie einzelne Seiten und Bereiche, etwa 1-3,5.</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
         <translation>Es gibt kein Dokument zu drucken.</translation>
     </message>
-</context>
-<context>
-    <name>host::JobSink</name>
     <message>
-        <source>no such queue</source>
-        <translation>keine solche Warteschlange</translation>
-    </message>
-    <message>
-        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
-        <translation>%1: Die Beschreibung des Druckers hat sich inzwischen geändert; nichts wurde gedruckt</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>angehalten</translation>
-    </message>
-    <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1; der Auftrag %2-%3 ist vielleicht noch da, sehen Sie nach, bevor Sie erneut drucken</translation>
-    </message>
-    <message>
-        <source>can't be made</source>
-        <translation>kann nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>can't be written</source>
-        <translation>kann nicht geschrieben werden</translation>
-    </message>
-    <message>
-        <source>too many jobs of this name</source>
-        <translation>zu viele Aufträge dieses Namens</translation>
-    </message>
-    <message>
-        <source>%1: can't be read any more</source>
-        <translation>%1: kann nicht mehr gelesen werden</translation>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>„%1“ sind keine Seiten. Schreiben Sie einzelne Seiten und Bereiche, etwa 1-3,5.</translation>
     </message>
 </context>
 <context>
-    <name>host::PaperChooser</name>
-    <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> Zoll</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Papierbreite</translation>
-    </message>
-    <message>
-        <source>Paper height</source>
-        <translation>Papierhöhe</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Eigene Größe…</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSupply</name>
-    <message>
-        <source>Looking for the printer…</source>
-        <translation>Der Drucker wird gesucht…</translation>
-    </message>
+    <name>host::PrinterFinder</name>
     <message>
         <source>The CUPS server does not answer.</source>
         <translation>Der CUPS-Server antwortet nicht.</translation>
     </message>
+</context>
+<context>
+    <name>host::Remarks</name>
     <message>
-        <source>The printer's description has changed on the server. Please look over the settings.</source>
-        <translation>Die Beschreibung des Druckers hat sich auf dem Server geändert. Bitte sehen Sie die Einstellungen durch.</translation>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>%1 statt „%2“, passend zu %3.</translation>
     </message>
     <message>
-        <source>There is no panel “%1”.</source>
-        <translation>Es gibt keine Seite „%1“.</translation>
+        <source>the other choices</source>
+        <translation>den übrigen Einstellungen</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1 ist nicht wie gesichert: Die Regeln für das Papier bestimmen es.</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1 ist nicht wie gesichert: Der Drucker hat diese Auswahl nicht mehr.</translation>
     </message>
 </context>
 <context>
@@ -219,11 +312,11 @@
         <translation>„%1“: Ein Name ist ein Wort ohne Schrägstriche und Anführungszeichen</translation>
     </message>
     <message>
-        <source>%1: can't be written just now</source>
+        <source>%1: can&apos;t be written just now</source>
         <translation>%1: kann gerade nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>%1: can't be read</source>
+        <source>%1: can&apos;t be read</source>
         <translation>%1: kann nicht gelesen werden</translation>
     </message>
 </context>

@@ -2,22 +2,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>foundation::Bundle</name>
+    <message>
+        <source>%1: not a plug-in bundle (Info.json: %2)</source>
+        <translation>%1: no es un paquete de complemento (Info.json: %2)</translation>
+    </message>
+    <message>
+        <source>%1/Info.json: names no executable or no principal class</source>
+        <translation>%1/Info.json: no indica ningún ejecutable o ninguna clase principal</translation>
+    </message>
+    <message>
+        <source>%1: no such plug-in bundle</source>
+        <translation>%1: no existe este paquete de complemento</translation>
+    </message>
+</context>
+<context>
+    <name>foundation::RegularFile</name>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: no es un archivo</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>no existe esa cola</translation>
+    </message>
+    <message>
+        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>%1: la descripción de la impresora ha cambiado mientras tanto; no se imprimió nada</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1; el trabajo %2-%3 puede seguir ahí, compruébelo antes de volver a imprimir</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
-        <source>%1 instead of “%2”, to go with %3.</source>
-        <translation>%1 en lugar de «%2», para ir con %3.</translation>
-    </message>
-    <message>
-        <source>the other choices</source>
-        <translation>los demás ajustes</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
-        <translation>%1 no está como se guardó: lo deciden las reglas del papel.</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
-        <translation>%1 no está como se guardó: la impresora ya no tiene esa opción.</translation>
+        <source>no plug-in bundle in %1</source>
+        <translation>ningún paquete de complemento en %1</translation>
     </message>
 </context>
 <context>
@@ -91,16 +120,139 @@
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <source>Defaults</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Guardar como ajuste</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Ancho del papel</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Alto del papel</translation>
+    </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>No hay ningún panel «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>host::Document</name>
+    <message>
+        <source>standard input: %1</source>
+        <translation>entrada estándar: %1</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrada estándar</translation>
+    </message>
+    <message>
+        <source>%1: the document is empty</source>
+        <translation>%1: el documento está vacío</translation>
+    </message>
+    <message>
+        <source>%1: neither a PDF nor an image nor a text</source>
+        <translation>%1: no es un PDF, ni una imagen, ni un texto</translation>
+    </message>
+</context>
+<context>
+    <name>host::FolderSink</name>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>no se puede crear</translation>
+    </message>
+    <message>
+        <source>can&apos;t be written</source>
+        <translation>no se puede escribir</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>demasiados trabajos con este nombre</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1: ya no se puede leer</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDDocument</name>
+    <message>
+        <source>%1: not a PPD file (the file is empty)</source>
+        <translation>%1: no es un archivo PPD (el archivo está vacío)</translation>
+    </message>
+    <message>
+        <source>%1: not a PPD file (line %2: %3)</source>
+        <translation>%1: no es un archivo PPD (línea %2: %3)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDTarget</name>
+    <message>
+        <source>-o %1=%2: the printer has no such choice</source>
+        <translation>-o %1=%2: la impresora no tiene esta opción</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>El complemento no tiene ajustes para esta impresora. Se imprime con los del controlador.</translation>
     </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> in</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Tamaño personalizado…</translation>
+    </message>
+</context>
+<context>
+    <name>host::PlainTarget</name>
     <message>
         <source>No driver describes this printer: it has general settings only.</source>
         <translation>Ningún controlador describe esta impresora: solo tiene ajustes generales.</translation>
     </message>
+</context>
+<context>
+    <name>host::PlugIn</name>
     <message>
-        <source>Defaults</source>
-        <translation>Predeterminado</translation>
+        <source>%1: made for interface version %2, this dialog has %3</source>
+        <translation>%1: hecho para la versión de interfaz %2; este diálogo tiene la %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not the code of a panel plug-in</source>
+        <translation>%1: %2 no es el código de un complemento de ajustes</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintDialog</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>Buscando la impresora…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description has changed on the server. Please look over the settings.</source>
+        <translation>La descripción de la impresora ha cambiado en el servidor. Revise los ajustes.</translation>
     </message>
     <message>
         <source>%1: the plug-in has no interface for this panel.</source>
@@ -115,101 +267,42 @@
         <translation>Guardado como «%1» para %2.</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Guardar como ajuste</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>&amp;Nombre:</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>Se eliminó «%1».</translation>
-    </message>
-    <message>
-        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
-        <translation>«%1» no son páginas. Escriba páginas e intervalos, por ejemplo 1-3,5.</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
         <translation>No hay ningún documento que imprimir.</translation>
     </message>
-</context>
-<context>
-    <name>host::JobSink</name>
     <message>
-        <source>no such queue</source>
-        <translation>no existe esa cola</translation>
-    </message>
-    <message>
-        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
-        <translation>%1: la descripción de la impresora ha cambiado mientras tanto; no se imprimió nada</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>detenido</translation>
-    </message>
-    <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1; el trabajo %2-%3 puede seguir ahí, compruébelo antes de volver a imprimir</translation>
-    </message>
-    <message>
-        <source>can't be made</source>
-        <translation>no se puede crear</translation>
-    </message>
-    <message>
-        <source>can't be written</source>
-        <translation>no se puede escribir</translation>
-    </message>
-    <message>
-        <source>too many jobs of this name</source>
-        <translation>demasiados trabajos con este nombre</translation>
-    </message>
-    <message>
-        <source>%1: can't be read any more</source>
-        <translation>%1: ya no se puede leer</translation>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>«%1» no son páginas. Escriba páginas e intervalos, por ejemplo 1-3,5.</translation>
     </message>
 </context>
 <context>
-    <name>host::PaperChooser</name>
-    <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> in</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Ancho del papel</translation>
-    </message>
-    <message>
-        <source>Paper height</source>
-        <translation>Alto del papel</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Tamaño personalizado…</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSupply</name>
-    <message>
-        <source>Looking for the printer…</source>
-        <translation>Buscando la impresora…</translation>
-    </message>
+    <name>host::PrinterFinder</name>
     <message>
         <source>The CUPS server does not answer.</source>
         <translation>El servidor CUPS no responde.</translation>
     </message>
+</context>
+<context>
+    <name>host::Remarks</name>
     <message>
-        <source>The printer's description has changed on the server. Please look over the settings.</source>
-        <translation>La descripción de la impresora ha cambiado en el servidor. Revise los ajustes.</translation>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>%1 en lugar de «%2», para ir con %3.</translation>
     </message>
     <message>
-        <source>There is no panel “%1”.</source>
-        <translation>No hay ningún panel «%1».</translation>
+        <source>the other choices</source>
+        <translation>los demás ajustes</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1 no está como se guardó: lo deciden las reglas del papel.</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1 no está como se guardó: la impresora ya no tiene esa opción.</translation>
     </message>
 </context>
 <context>
@@ -219,11 +312,11 @@
         <translation>«%1»: un nombre es una sola palabra sin barras ni comillas</translation>
     </message>
     <message>
-        <source>%1: can't be written just now</source>
+        <source>%1: can&apos;t be written just now</source>
         <translation>%1: no se puede escribir ahora</translation>
     </message>
     <message>
-        <source>%1: can't be read</source>
+        <source>%1: can&apos;t be read</source>
         <translation>%1: no se puede leer</translation>
     </message>
 </context>

@@ -2,22 +2,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
+    <name>foundation::Bundle</name>
+    <message>
+        <source>%1: not a plug-in bundle (Info.json: %2)</source>
+        <translation>%1 : pas un paquet de module (Info.json : %2)</translation>
+    </message>
+    <message>
+        <source>%1/Info.json: names no executable or no principal class</source>
+        <translation>%1/Info.json : ne nomme pas d’exécutable ou pas de classe principale</translation>
+    </message>
+    <message>
+        <source>%1: no such plug-in bundle</source>
+        <translation>%1 : ce paquet de module n’existe pas</translation>
+    </message>
+</context>
+<context>
+    <name>foundation::RegularFile</name>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1 : pas un fichier</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>file d’impression inconnue</translation>
+    </message>
+    <message>
+        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>%1 : la description de l’imprimante a changé entre-temps ; rien n’a été imprimé</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1 ; la tâche %2-%3 existe peut-être encore, vérifiez avant de réimprimer</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
-        <source>%1 instead of “%2”, to go with %3.</source>
-        <translation>%1 au lieu de « %2 », pour aller avec %3.</translation>
-    </message>
-    <message>
-        <source>the other choices</source>
-        <translation>les autres réglages</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
-        <translation>%1 n’est pas tel qu’enregistré : les règles du papier en décident.</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
-        <translation>%1 n’est pas tel qu’enregistré : l’imprimante n’a plus ce choix.</translation>
+        <source>no plug-in bundle in %1</source>
+        <translation>aucun paquet de module dans %1</translation>
     </message>
 </context>
 <context>
@@ -91,16 +120,139 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <source>Defaults</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>Largeur du papier</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Hauteur du papier</translation>
+    </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>Il n’y a pas de volet « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>host::Document</name>
+    <message>
+        <source>standard input: %1</source>
+        <translation>entrée standard : %1</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message>
+        <source>%1: the document is empty</source>
+        <translation>%1 : le document est vide</translation>
+    </message>
+    <message>
+        <source>%1: neither a PDF nor an image nor a text</source>
+        <translation>%1 : ni PDF, ni image, ni texte</translation>
+    </message>
+</context>
+<context>
+    <name>host::FolderSink</name>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>can&apos;t be written</source>
+        <translation>ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>trop de tâches de ce nom</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1 : ne peut plus être lu</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDDocument</name>
+    <message>
+        <source>%1: not a PPD file (the file is empty)</source>
+        <translation>%1 : pas un fichier PPD (le fichier est vide)</translation>
+    </message>
+    <message>
+        <source>%1: not a PPD file (line %2: %3)</source>
+        <translation>%1 : pas un fichier PPD (ligne %2 : %3)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDTarget</name>
+    <message>
+        <source>-o %1=%2: the printer has no such choice</source>
+        <translation>-o %1=%2 : l’imprimante n’offre pas ce choix</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>Le module n’a pas de réglages pour cette imprimante. L’impression se fait avec ceux du pilote.</translation>
     </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> po</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>Taille personnalisée…</translation>
+    </message>
+</context>
+<context>
+    <name>host::PlainTarget</name>
     <message>
         <source>No driver describes this printer: it has general settings only.</source>
         <translation>Aucun pilote ne décrit cette imprimante : elle n’a que des réglages généraux.</translation>
     </message>
+</context>
+<context>
+    <name>host::PlugIn</name>
     <message>
-        <source>Defaults</source>
-        <translation>Par défaut</translation>
+        <source>%1: made for interface version %2, this dialog has %3</source>
+        <translation>%1 : fait pour la version d’interface %2, ce dialogue a la version %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not the code of a panel plug-in</source>
+        <translation>%1 : %2 n’est pas le code d’un module de réglages</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintDialog</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>Recherche de l’imprimante…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description has changed on the server. Please look over the settings.</source>
+        <translation>La description de l’imprimante a changé sur le serveur. Veuillez revoir les réglages.</translation>
     </message>
     <message>
         <source>%1: the plug-in has no interface for this panel.</source>
@@ -115,101 +267,42 @@
         <translation>Enregistré comme « %1 » pour %2.</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Enregistrer comme préréglage</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>« %1 » a été supprimé.</translation>
-    </message>
-    <message>
-        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
-        <translation>« %1 » ne désigne pas de pages. Écrivez des pages et des intervalles, par exemple 1-3,5.</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
         <translation>Il n’y a pas de document à imprimer.</translation>
     </message>
-</context>
-<context>
-    <name>host::JobSink</name>
     <message>
-        <source>no such queue</source>
-        <translation>file d’impression inconnue</translation>
-    </message>
-    <message>
-        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
-        <translation>%1 : la description de l’imprimante a changé entre-temps ; rien n’a été imprimé</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>arrêté</translation>
-    </message>
-    <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1 ; la tâche %2-%3 existe peut-être encore, vérifiez avant de réimprimer</translation>
-    </message>
-    <message>
-        <source>can't be made</source>
-        <translation>ne peut pas être créé</translation>
-    </message>
-    <message>
-        <source>can't be written</source>
-        <translation>ne peut pas être écrit</translation>
-    </message>
-    <message>
-        <source>too many jobs of this name</source>
-        <translation>trop de tâches de ce nom</translation>
-    </message>
-    <message>
-        <source>%1: can't be read any more</source>
-        <translation>%1 : ne peut plus être lu</translation>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>« %1 » ne désigne pas de pages. Écrivez des pages et des intervalles, par exemple 1-3,5.</translation>
     </message>
 </context>
 <context>
-    <name>host::PaperChooser</name>
-    <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> po</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>Largeur du papier</translation>
-    </message>
-    <message>
-        <source>Paper height</source>
-        <translation>Hauteur du papier</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>Taille personnalisée…</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSupply</name>
-    <message>
-        <source>Looking for the printer…</source>
-        <translation>Recherche de l’imprimante…</translation>
-    </message>
+    <name>host::PrinterFinder</name>
     <message>
         <source>The CUPS server does not answer.</source>
         <translation>Le serveur CUPS ne répond pas.</translation>
     </message>
+</context>
+<context>
+    <name>host::Remarks</name>
     <message>
-        <source>The printer's description has changed on the server. Please look over the settings.</source>
-        <translation>La description de l’imprimante a changé sur le serveur. Veuillez revoir les réglages.</translation>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>%1 au lieu de « %2 », pour aller avec %3.</translation>
     </message>
     <message>
-        <source>There is no panel “%1”.</source>
-        <translation>Il n’y a pas de volet « %1 ».</translation>
+        <source>the other choices</source>
+        <translation>les autres réglages</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1 n’est pas tel qu’enregistré : les règles du papier en décident.</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1 n’est pas tel qu’enregistré : l’imprimante n’a plus ce choix.</translation>
     </message>
 </context>
 <context>
@@ -219,11 +312,11 @@
         <translation>« %1 » : un nom est un seul mot, sans barre oblique ni guillemets</translation>
     </message>
     <message>
-        <source>%1: can't be written just now</source>
+        <source>%1: can&apos;t be written just now</source>
         <translation>%1 : ne peut pas être écrit pour l’instant</translation>
     </message>
     <message>
-        <source>%1: can't be read</source>
+        <source>%1: can&apos;t be read</source>
         <translation>%1 : ne peut pas être lu</translation>
     </message>
 </context>

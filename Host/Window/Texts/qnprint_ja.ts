@@ -2,22 +2,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja">
 <context>
+    <name>foundation::Bundle</name>
+    <message>
+        <source>%1: not a plug-in bundle (Info.json: %2)</source>
+        <translation>%1: プラグインのバンドルではありません（Info.json: %2）</translation>
+    </message>
+    <message>
+        <source>%1/Info.json: names no executable or no principal class</source>
+        <translation>%1/Info.json: 実行ファイルまたは主クラスの名前がありません</translation>
+    </message>
+    <message>
+        <source>%1: no such plug-in bundle</source>
+        <translation>%1: このプラグインのバンドルはありません</translation>
+    </message>
+</context>
+<context>
+    <name>foundation::RegularFile</name>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1: ファイルではありません</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>キューがありません</translation>
+    </message>
+    <message>
+        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>%1：プリンターの記述が変わったため、印刷しませんでした</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1。ジョブ %2-%3 が残っているかもしれません。もう一度印刷する前に確かめてください</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
-        <source>%1 instead of “%2”, to go with %3.</source>
-        <translation>%3に合わせて、「%2」を%1に変えました。</translation>
-    </message>
-    <message>
-        <source>the other choices</source>
-        <translation>ほかの設定</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
-        <translation>%1は保存した値ではありません。用紙の規則で決まります。</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
-        <translation>%1は保存した値ではありません。プリンターにその選択肢がもうありません。</translation>
+        <source>no plug-in bundle in %1</source>
+        <translation>%1 にプラグインのバンドルがありません</translation>
     </message>
 </context>
 <context>
@@ -91,16 +120,139 @@
         <translation>キャンセル</translation>
     </message>
     <message>
-        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <source>Defaults</source>
+        <translation>既定値</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>用紙の幅</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>用紙の高さ</translation>
+    </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>「%1」というパネルはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::Document</name>
+    <message>
+        <source>standard input: %1</source>
+        <translation>標準入力: %1</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>標準入力</translation>
+    </message>
+    <message>
+        <source>%1: the document is empty</source>
+        <translation>%1: 文書が空です</translation>
+    </message>
+    <message>
+        <source>%1: neither a PDF nor an image nor a text</source>
+        <translation>%1: PDF でも画像でもテキストでもありません</translation>
+    </message>
+</context>
+<context>
+    <name>host::FolderSink</name>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>作成できません</translation>
+    </message>
+    <message>
+        <source>can&apos;t be written</source>
+        <translation>書き込めません</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>同じ名前のジョブが多すぎます</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1：もう読み込めません</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDDocument</name>
+    <message>
+        <source>%1: not a PPD file (the file is empty)</source>
+        <translation>%1：PPD ファイルではありません（ファイルが空です）</translation>
+    </message>
+    <message>
+        <source>%1: not a PPD file (line %2: %3)</source>
+        <translation>%1: PPD ファイルではありません（%2 行目: %3）</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDTarget</name>
+    <message>
+        <source>-o %1=%2: the printer has no such choice</source>
+        <translation>-o %1=%2: プリンターにこの選択肢はありません</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>プラグインにこのプリンターの設定はありません。ドライバーの既定値で印刷します。</translation>
     </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> インチ</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>ユーザー定義サイズ…</translation>
+    </message>
+</context>
+<context>
+    <name>host::PlainTarget</name>
     <message>
         <source>No driver describes this printer: it has general settings only.</source>
         <translation>このプリンターにはドライバーがありません。一般的な設定だけが使えます。</translation>
     </message>
+</context>
+<context>
+    <name>host::PlugIn</name>
     <message>
-        <source>Defaults</source>
-        <translation>既定値</translation>
+        <source>%1: made for interface version %2, this dialog has %3</source>
+        <translation>%1: インターフェース バージョン %2 用です。このダイアログは %3 です</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not the code of a panel plug-in</source>
+        <translation>%1: %2 は設定パネルのプラグインのコードではありません</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintDialog</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>プリンターを探しています…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description has changed on the server. Please look over the settings.</source>
+        <translation>サーバー上のプリンターの記述が変わりました。設定を確かめてください。</translation>
     </message>
     <message>
         <source>%1: the plug-in has no interface for this panel.</source>
@@ -115,101 +267,42 @@
         <translation>%2 の「%1」として保存しました。</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>プリセットとして保存</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>名前(&amp;N):</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>「%1」を削除しました。</translation>
-    </message>
-    <message>
-        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
-        <translation>「%1」はページを表していません。ページ番号か範囲（例：1-3,5）を入力してください。</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
         <translation>印刷する文書がありません。</translation>
     </message>
-</context>
-<context>
-    <name>host::JobSink</name>
     <message>
-        <source>no such queue</source>
-        <translation>キューがありません</translation>
-    </message>
-    <message>
-        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
-        <translation>%1：プリンターの記述が変わったため、印刷しませんでした</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>中止しました</translation>
-    </message>
-    <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1。ジョブ %2-%3 が残っているかもしれません。もう一度印刷する前に確かめてください</translation>
-    </message>
-    <message>
-        <source>can't be made</source>
-        <translation>作成できません</translation>
-    </message>
-    <message>
-        <source>can't be written</source>
-        <translation>書き込めません</translation>
-    </message>
-    <message>
-        <source>too many jobs of this name</source>
-        <translation>同じ名前のジョブが多すぎます</translation>
-    </message>
-    <message>
-        <source>%1: can't be read any more</source>
-        <translation>%1：もう読み込めません</translation>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>「%1」はページを表していません。ページ番号か範囲（例：1-3,5）を入力してください。</translation>
     </message>
 </context>
 <context>
-    <name>host::PaperChooser</name>
-    <message>
-        <source> mm</source>
-        <translation> mm</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> インチ</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>用紙の幅</translation>
-    </message>
-    <message>
-        <source>Paper height</source>
-        <translation>用紙の高さ</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>ユーザー定義サイズ…</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSupply</name>
-    <message>
-        <source>Looking for the printer…</source>
-        <translation>プリンターを探しています…</translation>
-    </message>
+    <name>host::PrinterFinder</name>
     <message>
         <source>The CUPS server does not answer.</source>
         <translation>CUPS サーバーが応答しません。</translation>
     </message>
+</context>
+<context>
+    <name>host::Remarks</name>
     <message>
-        <source>The printer's description has changed on the server. Please look over the settings.</source>
-        <translation>サーバー上のプリンターの記述が変わりました。設定を確かめてください。</translation>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>%3に合わせて、「%2」を%1に変えました。</translation>
     </message>
     <message>
-        <source>There is no panel “%1”.</source>
-        <translation>「%1」というパネルはありません。</translation>
+        <source>the other choices</source>
+        <translation>ほかの設定</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1は保存した値ではありません。用紙の規則で決まります。</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1は保存した値ではありません。プリンターにその選択肢がもうありません。</translation>
     </message>
 </context>
 <context>
@@ -219,11 +312,11 @@
         <translation>「%1」：名前は一語で、スラッシュと引用符は使えません</translation>
     </message>
     <message>
-        <source>%1: can't be written just now</source>
+        <source>%1: can&apos;t be written just now</source>
         <translation>%1：今は書き込めません</translation>
     </message>
     <message>
-        <source>%1: can't be read</source>
+        <source>%1: can&apos;t be read</source>
         <translation>%1：読み込めません</translation>
     </message>
 </context>

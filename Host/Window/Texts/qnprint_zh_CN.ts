@@ -2,22 +2,51 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN">
 <context>
+    <name>foundation::Bundle</name>
+    <message>
+        <source>%1: not a plug-in bundle (Info.json: %2)</source>
+        <translation>%1：不是插件包（Info.json：%2）</translation>
+    </message>
+    <message>
+        <source>%1/Info.json: names no executable or no principal class</source>
+        <translation>%1/Info.json：未指定可执行文件或主类</translation>
+    </message>
+    <message>
+        <source>%1: no such plug-in bundle</source>
+        <translation>%1：没有此插件包</translation>
+    </message>
+</context>
+<context>
+    <name>foundation::RegularFile</name>
+    <message>
+        <source>%1: not a file</source>
+        <translation>%1：不是文件</translation>
+    </message>
+</context>
+<context>
+    <name>host::CupsSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>没有此队列</translation>
+    </message>
+    <message>
+        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>%1：打印机描述已更改，未打印任何内容</translation>
+    </message>
+    <message>
+        <source>%1; job %2-%3 may still be there, so look before you print again</source>
+        <translation>%1；作业 %2-%3 可能仍在，再次打印前请先查看</translation>
+    </message>
+</context>
+<context>
     <name>host::DialogSession</name>
     <message>
-        <source>%1 instead of “%2”, to go with %3.</source>
-        <translation>为配合%3，已将“%2”改为%1。</translation>
-    </message>
-    <message>
-        <source>the other choices</source>
-        <translation>其他设置</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
-        <translation>%1与保存时不同：由纸张规则决定。</translation>
-    </message>
-    <message>
-        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
-        <translation>%1与保存时不同：打印机已没有此选项。</translation>
+        <source>no plug-in bundle in %1</source>
+        <translation>%1 中没有插件包</translation>
     </message>
 </context>
 <context>
@@ -91,16 +120,139 @@
         <translation>取消</translation>
     </message>
     <message>
-        <source>The plug-in has no settings for this printer. It is printed with the driver's defaults.</source>
+        <source>Defaults</source>
+        <translation>默认值</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation>存为预设</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Paper width</source>
+        <translation>纸张宽度</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>纸张高度</translation>
+    </message>
+    <message>
+        <source>There is no panel “%1”.</source>
+        <translation>没有面板“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>host::Document</name>
+    <message>
+        <source>standard input: %1</source>
+        <translation>标准输入：%1</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>标准输入</translation>
+    </message>
+    <message>
+        <source>%1: the document is empty</source>
+        <translation>%1：文档为空</translation>
+    </message>
+    <message>
+        <source>%1: neither a PDF nor an image nor a text</source>
+        <translation>%1：既不是 PDF，也不是图像或文本</translation>
+    </message>
+</context>
+<context>
+    <name>host::FolderSink</name>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>无法创建</translation>
+    </message>
+    <message>
+        <source>can&apos;t be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>too many jobs of this name</source>
+        <translation>同名作业过多</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobSink</name>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1：无法再读取</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDDocument</name>
+    <message>
+        <source>%1: not a PPD file (the file is empty)</source>
+        <translation>%1：不是 PPD 文件（文件为空）</translation>
+    </message>
+    <message>
+        <source>%1: not a PPD file (line %2: %3)</source>
+        <translation>%1：不是 PPD 文件（第 %2 行：%3）</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDTarget</name>
+    <message>
+        <source>-o %1=%2: the printer has no such choice</source>
+        <translation>-o %1=%2：打印机没有此选项</translation>
+    </message>
+    <message>
+        <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>插件没有此打印机的设置。将使用驱动程序的默认值打印。</translation>
     </message>
+</context>
+<context>
+    <name>host::PaperChooser</name>
+    <message>
+        <source> mm</source>
+        <translation> 毫米</translation>
+    </message>
+    <message>
+        <source> in</source>
+        <translation> 英寸</translation>
+    </message>
+    <message>
+        <source>Custom size…</source>
+        <translation>自定义尺寸…</translation>
+    </message>
+</context>
+<context>
+    <name>host::PlainTarget</name>
     <message>
         <source>No driver describes this printer: it has general settings only.</source>
         <translation>没有驱动程序描述此打印机：只有常规设置。</translation>
     </message>
+</context>
+<context>
+    <name>host::PlugIn</name>
     <message>
-        <source>Defaults</source>
-        <translation>默认值</translation>
+        <source>%1: made for interface version %2, this dialog has %3</source>
+        <translation>%1：为接口版本 %2 制作，此对话框的版本为 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not the code of a panel plug-in</source>
+        <translation>%1：%2 不是设置面板插件的代码</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintDialog</name>
+    <message>
+        <source>Looking for the printer…</source>
+        <translation>正在查找打印机…</translation>
+    </message>
+    <message>
+        <source>The printer&apos;s description has changed on the server. Please look over the settings.</source>
+        <translation>服务器上的打印机描述已更改。请检查设置。</translation>
     </message>
     <message>
         <source>%1: the plug-in has no interface for this panel.</source>
@@ -115,101 +267,42 @@
         <translation>已为 %2 存为“%1”。</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>存为预设</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>名称(&amp;N):</translation>
-    </message>
-    <message>
         <source>“%1” was deleted.</source>
         <translation>已删除“%1”。</translation>
-    </message>
-    <message>
-        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
-        <translation>“%1”不是页码。请输入页码或范围，例如 1-3,5。</translation>
     </message>
     <message>
         <source>There is no document to print.</source>
         <translation>没有要打印的文档。</translation>
     </message>
-</context>
-<context>
-    <name>host::JobSink</name>
     <message>
-        <source>no such queue</source>
-        <translation>没有此队列</translation>
-    </message>
-    <message>
-        <source>%1: the printer's description has changed meanwhile; nothing was printed</source>
-        <translation>%1：打印机描述已更改，未打印任何内容</translation>
-    </message>
-    <message>
-        <source>stopped</source>
-        <translation>已停止</translation>
-    </message>
-    <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1；作业 %2-%3 可能仍在，再次打印前请先查看</translation>
-    </message>
-    <message>
-        <source>can't be made</source>
-        <translation>无法创建</translation>
-    </message>
-    <message>
-        <source>can't be written</source>
-        <translation>无法写入</translation>
-    </message>
-    <message>
-        <source>too many jobs of this name</source>
-        <translation>同名作业过多</translation>
-    </message>
-    <message>
-        <source>%1: can't be read any more</source>
-        <translation>%1：无法再读取</translation>
+        <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
+        <translation>“%1”不是页码。请输入页码或范围，例如 1-3,5。</translation>
     </message>
 </context>
 <context>
-    <name>host::PaperChooser</name>
-    <message>
-        <source> mm</source>
-        <translation> 毫米</translation>
-    </message>
-    <message>
-        <source> in</source>
-        <translation> 英寸</translation>
-    </message>
-    <message>
-        <source>Paper width</source>
-        <translation>纸张宽度</translation>
-    </message>
-    <message>
-        <source>Paper height</source>
-        <translation>纸张高度</translation>
-    </message>
-    <message>
-        <source>Custom size…</source>
-        <translation>自定义尺寸…</translation>
-    </message>
-</context>
-<context>
-    <name>host::QueueSupply</name>
-    <message>
-        <source>Looking for the printer…</source>
-        <translation>正在查找打印机…</translation>
-    </message>
+    <name>host::PrinterFinder</name>
     <message>
         <source>The CUPS server does not answer.</source>
         <translation>CUPS 服务器没有响应。</translation>
     </message>
+</context>
+<context>
+    <name>host::Remarks</name>
     <message>
-        <source>The printer's description has changed on the server. Please look over the settings.</source>
-        <translation>服务器上的打印机描述已更改。请检查设置。</translation>
+        <source>%1 instead of “%2”, to go with %3.</source>
+        <translation>为配合%3，已将“%2”改为%1。</translation>
     </message>
     <message>
-        <source>There is no panel “%1”.</source>
-        <translation>没有面板“%1”。</translation>
+        <source>the other choices</source>
+        <translation>其他设置</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the rules for the paper decide it.</source>
+        <translation>%1与保存时不同：由纸张规则决定。</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was saved: the printer has no such choice any more.</source>
+        <translation>%1与保存时不同：打印机已没有此选项。</translation>
     </message>
 </context>
 <context>
@@ -219,11 +312,11 @@
         <translation>“%1”：名称须为一个词，不含斜线和引号</translation>
     </message>
     <message>
-        <source>%1: can't be written just now</source>
+        <source>%1: can&apos;t be written just now</source>
         <translation>%1：暂时无法写入</translation>
     </message>
     <message>
-        <source>%1: can't be read</source>
+        <source>%1: can&apos;t be read</source>
         <translation>%1：无法读取</translation>
     </message>
 </context>

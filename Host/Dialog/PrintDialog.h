@@ -1,0 +1,143 @@
+// The print dialog without a window: the printer of now, its settings and presets, the job. It decides; its faces, the
+// window and printing without one, show and ask.
+#pragma once
+
+#include "BackgroundWork.h"
+#include "PrintTarget.h"
+
+namespace host {
+
+class PrinterFinder;
+
+class PrintDialog : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class State {
+        looking,   // for a printer; the one before stays in use for looking at, not for printing
+        noPrinter, // the printer can't be had: `problem()`
+        ready,
+        sending, // a job is on its way
+    };
+    Q_ENUM(State)
+
+    /// `document` may be null: then there is nothing to print.
+    PrintDialog(PrintRequest request, std::shared_ptr<Document> document);
+    /// A job that is on its way is stopped, and waited for so that nothing is left half sent.
+    ~PrintDialog() override;
+
+    /// Takes the PPD file of the request, or begins to look for its queue. A problem when the file can't serve; that of
+    /// a queue comes as a state.
+    foundation::Or<void> start();
+
+    State state() const { return m_state; }
+    /// Why there is no printer.
+    const foundation::Problem &problem() const { return m_problem; }
+    /// Null until the first one has been found. Never goes while something stands on it: an answer that comes while
+    /// the dialog is held, or while a job is on its way, waits.
+    PrintTarget *target() const { return m_target.get(); }
+
+    /// Names of the printers to choose from, and the one that is chosen or looked for; empty for none.
+    const QStringList &printers() const { return m_printers; }
+    const QString &chosenPrinter() const { return m_chosenPrinter; }
+
+    const Amount &amount() const { return m_amount; }
+    /// Empty when there is no document.
+    QString documentName() const { return m_document ? m_document->title() : QString(); }
+    /// What the person is to know now, in sentences; empty for nothing.
+    const QString &message() const { return m_message; }
+
+    // What a person does. Nothing of it while a job is on its way.
+    void choosePrinter(const QString &name);
+    void lookAgain();
+    /// Asks for the names of all printers, unless they are known. A server with many queues is busy for a while then,
+    /// so not before the printer that is wanted has been found.
+    void lookForOthers();
+    /// The target must not be started yet.
+    void use(std::unique_ptr<PrintTarget> target);
+    void choosePaper(const ChosenPaper &paper);
+    /// False when the panel has no view; the message says so.
+    bool show(PDEPanel &panel);
+    void setCopies(int copies) { m_amount.copies = copies; }
+    void setPages(const QString &pages) { m_amount.pages = pages; }
+    void restorePreset(const QString &name);
+    /// An empty name saves the user's own defaults.
+    void savePreset(const QString &name);
+    void removePreset();
+    void print();
+    /// Ends a job that is on its way; the dialog stays.
+    void stop();
+
+    /// Readies the panels that have not been shown yet: after the first picture, and before any choice.
+    void prepareAll();
+    void setMessage(const QString &sentences);
+
+    // While a box is open over the dialog, answers from elsewhere wait: code of a panel may stand on the target.
+    void hold();
+    void release();
+
+Q_SIGNALS:
+    void stateChanged();
+    void printersChanged();
+    void targetChanged();
+    void presetsChanged();
+    void paperChanged();
+    void amountChanged();
+    void messageChanged();
+    /// Choices were made; once for all that one act of a person sets off.
+    void settingsChanged();
+    void remarked(const QStringList &sentences);
+    /// The text for the pages means none.
+    void pagesRefused();
+    /// A panel did not agree to print, and has told why.
+    void refused();
+    void progressed(int percent);
+    /// The job went out; the sentence says where to.
+    void printed(const QString &where);
+    void failed(const foundation::Problem &problem);
+
+private:
+    QString jobTitle() const;
+    void setState(State state);
+    void look(const QueueName &name, const OptionValues &carried = {});
+    void finderFound(const Queue &queue);
+    void finderFailed(const foundation::Problem &problem);
+    void finderNamed(const QueueNames &names);
+    void adopt(std::unique_ptr<PrintTarget> target);
+    void offerPrinters(const QStringList &names, const QString &chosen);
+    void sayForNow(const QString &sentence);
+    void settleSoon();
+    void settle();
+    void send(const QString &pages);
+    void finish(const foundation::Or<QString> &sent);
+    void whenFree(std::function<void()> act);
+    void doWaiting();
+    bool isFree() const { return m_holds == 0 && m_state != State::sending; }
+
+    PrintRequest m_request;
+    std::shared_ptr<Document> m_document;
+    PrinterFinder *m_finder;
+    std::unique_ptr<PrintTarget> m_target;
+    State m_state = State::looking;
+    foundation::Problem m_problem;
+
+    QueueName m_wanted;
+    OptionValues m_carried; // choices to take over into the printer that is looked for
+    QStringList m_printers;
+    QString m_chosenPrinter;
+    bool m_asksServer = false;
+    bool m_hasAllPrinters = false;
+
+    Amount m_amount;
+    QString m_message;
+    bool m_messageIsForNow = false; // it goes with the next choice
+    bool m_isToSettle = false;
+
+    int m_holds = 0;
+    std::optional<foundation::Or<QString>> m_sent; // what became of a job, as long as that waits
+    std::vector<std::function<void()>> m_waiting;
+    BackgroundWork m_job; // last: what it posts to is still there when it is waited for
+};
+
+} // namespace host

@@ -1,0 +1,17 @@
+// The faces of the dialog that the command line opens.
+#pragma once
+
+#include "CommandLine.h"
+
+namespace host {
+
+// Each does what the command line asks for, and answers the exit status of the program.
+
+/// `qnprint [FILE]`: the window.
+int openDialog(const CommandLine &line);
+/// `qnprint --no-dialog FILE`: prints by the same rules and checks.
+int printWithoutWindow(const CommandLine &line);
+/// `qnprint shot --ppd PPD PICTURE`: a picture of the window.
+int takeShot(const CommandLine &line);
+
+} // namespace host

@@ -1,0 +1,18 @@
+// Opening what has to be a file.
+#pragma once
+
+#include "Or.h"
+
+#include <QFile>
+
+#include <memory>
+
+namespace foundation {
+
+/// A regular file, open for reading. A pipe, a device or a folder is a problem, and none of them can make us wait.
+Or<std::unique_ptr<QFile>> openRegularFile(const QString &path);
+
+/// The text of a system error number, in the encoding that the system uses.
+QString systemErrorText(int number);
+
+} // namespace foundation
