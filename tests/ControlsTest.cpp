@@ -30,7 +30,8 @@ protected:
         m_window.resize(400, 300);
         m_control.setGeometry(10, 10, 200, 40);
         m_window.show();
-        QApplication::setActiveWindow(&m_window);
+        m_window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
     }
     QWidget m_window;
     Control &m_control = *new Control(&m_window);
