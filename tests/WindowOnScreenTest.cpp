@@ -31,7 +31,7 @@ protected:
         m_program.setProcessEnvironment(m_screen.extended(m_server.environment()));
         m_program.start(QN_PROGRAM, {"-d", "counter", "--language", "en", "--locale", "de_DE", kTicket});
         ASSERT_TRUE(m_program.waitForStarted(kMilliseconds)) << m_program.errorString().toStdString();
-        ASSERT_TRUE(wait("push button", "Print")) << "the printer does not come";
+        ASSERT_TRUE(wait("button", "Print")) << "the printer does not come";
     }
     void TearDown() override
     {
@@ -140,7 +140,7 @@ TEST_F(OnScreen, SwitchesToAnotherPrinterByKeysAndClosesWithEscape)
     m_screen.press("Down");
     ASSERT_TRUE(m_screen.waitFor("qnprint",
                                  [](const Seen &each) { return each.label == "Printer:" && each.name == "office"; }));
-    ASSERT_TRUE(wait("push button", "Print"));
+    ASSERT_TRUE(wait("button", "Print"));
     m_screen.press("Escape");
     ASSERT_TRUE(ended(1));
     EXPECT_EQ(m_server.openJobs(), "");

@@ -53,6 +53,8 @@ Seen seen(AtspiAccessible *object)
 {
     Seen result;
     result.role = taken(atspi_accessible_get_role_name(object, nullptr));
+    if (result.role == "push button") // as the library called it before 2.54
+        result.role = "button";
     result.name = taken(atspi_accessible_get_name(object, nullptr));
     result.label = labelOf(object);
     const Ref<AtspiStateSet> states(atspi_accessible_get_state_set(object));

@@ -17,7 +17,7 @@ namespace support {
 /// Something on the screen, as assistive technology knows it.
 struct Seen
 {
-    QString role; // "push button"
+    QString role; // "button"
     QString name;
     QString label; // of what stands beside it as its label
     QRect place;   // on the screen
