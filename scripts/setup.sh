@@ -2,16 +2,21 @@
 
 build_packages=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev
     libgl1-mesa-dev libcups2-dev fonts-dejavu-core)
-test_packages=(libgtest-dev cups cups-daemon cups-client fonts-noto-cjk xvfb openbox xdotool dbus at-spi2-core libatspi2.0-dev pkg-config)
+test_packages=(libgtest-dev cups cups-daemon cups-client fonts-noto-cjk xvfb openbox xdotool dbus at-spi2-core
+    libatspi2.0-dev pkg-config)
 
 say() { printf '%s\n' "$*"; }
 
+# The names of all packages that are there: their own, and those of packages that they took over.
+installed_packages() {
+    dpkg-query -W -f='${db:Status-Status} ${Package}, ${Provides}\n' 2>/dev/null |
+        sed -n 's/^installed //p' | sed 's/ ([^)]*)//g; s/, */\n/g'
+}
+
 # Installs what is missing; says nothing when nothing is.
 install_packages() {
-    local missing=()
-    for package in "$@"; do
-        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
-    done
+    local missing
+    mapfile -t missing < <(printf '%s\n' "$@" | grep -vxFf <(installed_packages))
     [ ${#missing[@]} -eq 0 ] && return
     if ! command -v apt-get >/dev/null; then
         say "Not a Debian machine: please install the counterparts of: ${missing[*]}"
