@@ -1,12 +1,16 @@
 # How a room becomes a target.
 
-function(qn_configure_room name)
-    target_compile_options(${name} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
-    if(QN_WARNINGS_AS_ERRORS)
-        target_compile_options(${name} PRIVATE -Werror)
-    endif()
-    target_compile_definitions(${name} PRIVATE QT_NO_KEYWORDS QT_NO_FOREACH)
-endfunction()
+# What every target of ours is compiled with; linked once, for the whole house.
+add_library(qn_warnings INTERFACE)
+target_compile_options(qn_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${QN_WARNINGS_AS_ERRORS}>:-Werror>)
+target_compile_definitions(qn_warnings INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH)
+
+# The version in a header of its own: a new one compiles again only what tells it.
+configure_file(${CMAKE_CURRENT_LIST_DIR}/QnVersion.h.in ${PROJECT_BINARY_DIR}/generated/QnVersion.h)
+add_library(qn_version INTERFACE)
+target_include_directories(qn_version INTERFACE ${PROJECT_BINARY_DIR}/generated)
 
 # A library of the platform: shared, because host and plug-in must meet in the same user defaults, locale and
 # notification centre.
@@ -18,7 +22,6 @@ function(qn_add_platform_library name)
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/Platform)
-    qn_configure_room(${name})
     install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qnprint NAMELINK_SKIP)
 endfunction()
 
@@ -26,12 +29,10 @@ endfunction()
 function(qn_add_room name)
     add_library(${name} STATIC ${ARGN})
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
-    qn_configure_room(${name})
 endfunction()
 
 # A room of the host. Includes from another room are written with that room's name.
 function(qn_add_host_room name)
     add_library(${name} STATIC ${ARGN})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/Host)
-    qn_configure_room(${name})
 endfunction()

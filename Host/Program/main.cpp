@@ -1,5 +1,6 @@
 // `qnprint`: which face of the dialog the command line asks for.
 #include "OpenDialog.h"
+#include "QnVersion.h"
 
 #include "Dialog/BackgroundWork.h"
 #include "Script/Script.h"
