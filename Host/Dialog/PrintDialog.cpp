@@ -272,8 +272,7 @@ void PrintDialog::send(const QString &pages)
         [this, job, sink = m_target->sink()](const std::stop_token &stop) {
             const auto tell = [this](qint64 done, qint64 total) {
                 const int percent = total > 0 ? static_cast<int>(done * 100 / total) : 0;
-                QMetaObject::invokeMethod(
-                    this, [this, percent] { Q_EMIT progressed(percent); }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(this, [this, percent] { Q_EMIT progressed(percent); }, Qt::QueuedConnection);
             };
             return sink->submit(job, tell, stop);
         },

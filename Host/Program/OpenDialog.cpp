@@ -26,6 +26,22 @@ int showPanel(DialogWindow &window, const PrintDialog &dialog, const QString &pa
     return kDone;
 }
 
+/// Opens the dialog in its window and hands that over; the exit status.
+int withWindow(const CommandLine &line, const std::shared_ptr<Document> &document,
+               const std::function<int(DialogWindow &window)> &use)
+{
+    PrintDialog dialog(line.request, document);
+    QObject::connect(&dialog, &PrintDialog::printed,
+                     [](const QString &where) { std::cout << where.toStdString() << std::endl; });
+    if (const auto started = dialog.start(); !started) {
+        complain(started.problem().sentence);
+        return kRefused;
+    }
+    DialogWindow window(dialog);
+    const int status = showPanel(window, dialog, line.panel);
+    return status == kDone ? use(window) : status;
+}
+
 } // namespace
 
 int openDialog(const CommandLine &line)
@@ -44,17 +60,8 @@ int openDialog(const CommandLine &line)
         }
         document = *std::move(opened);
     }
-    PrintDialog dialog(line.request, document);
-    QObject::connect(&dialog, &PrintDialog::printed,
-                     [](const QString &where) { std::cout << where.toStdString() << std::endl; });
-    if (const auto started = dialog.start(); !started) {
-        complain(started.problem().sentence);
-        return kRefused;
-    }
-    DialogWindow window(dialog);
-    if (const int status = showPanel(window, dialog, line.panel); status != kDone)
-        return status;
-    return window.exec() == QDialog::Accepted ? kDone : kRefused;
+    return withWindow(line, document,
+                      [](DialogWindow &window) { return window.exec() == QDialog::Accepted ? kDone : kRefused; });
 }
 
 int takeShot(const CommandLine &line)
@@ -64,21 +71,14 @@ int takeShot(const CommandLine &line)
         return kWrongUse;
     }
     useWindowTexts(line.request.language);
-    PrintDialog dialog(line.request, nullptr);
-    if (const auto started = dialog.start(); !started) {
-        complain(started.problem().sentence);
-        return kRefused;
-    }
-    DialogWindow window(dialog);
-    if (const int status = showPanel(window, dialog, line.panel); status != kDone)
-        return status;
-    window.show();
-    QCoreApplication::processEvents();
-    if (!window.grab().save(line.files.first())) {
+    return withWindow(line, nullptr, [&line](DialogWindow &window) {
+        window.show();
+        QCoreApplication::processEvents();
+        if (window.grab().save(line.files.first()))
+            return kDone;
         complain(QString("%1: can't be written").arg(line.files.first()));
         return kRefused;
-    }
-    return kDone;
+    });
 }
 
 } // namespace host

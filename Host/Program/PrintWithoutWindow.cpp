@@ -14,44 +14,63 @@ namespace host {
 
 namespace {
 
-/// Prints as soon as there is a printer, and tells what becomes of it. The exit status.
-int runToItsEnd(PrintDialog &dialog)
+/// Prints as soon as there is a printer, and tells what becomes of it.
+class Batch
 {
-    QEventLoop loop;
-    const auto refuse = [&loop](const QString &sentence) {
+public:
+    explicit Batch(PrintDialog &dialog)
+        : m_dialog(dialog)
+    {
+        QObject::connect(&dialog, &PrintDialog::remarked, &m_loop, [](const QStringList &sentences) {
+            for (const QString &sentence : sentences)
+                complain(sentence);
+        });
+        QObject::connect(&dialog, &PrintDialog::refused, &m_loop, [this] { m_loop.exit(kRefused); });
+        QObject::connect(&dialog, &PrintDialog::failed, &m_loop,
+                         [this](const foundation::Problem &problem) { refuse(problem.sentence); });
+        QObject::connect(&dialog, &PrintDialog::printed, &m_loop, [this](const QString &where) {
+            std::cout << where.toStdString() << std::endl;
+            m_loop.exit(kDone);
+        });
+    }
+
+    /// The exit status.
+    int run()
+    {
+        if (m_dialog.state() == PrintDialog::State::looking)
+            QObject::connect(
+                &m_dialog, &PrintDialog::stateChanged, &m_loop, [this] { go(); }, Qt::SingleShotConnection);
+        else
+            QMetaObject::invokeMethod(&m_loop, [this] { go(); }, Qt::QueuedConnection);
+        const Interrupts interrupts([this] { interrupt(); });
+        return m_loop.exec();
+    }
+
+private:
+    void refuse(const QString &sentence)
+    {
         complain(sentence);
-        loop.exit(kRefused);
-    };
-    QObject::connect(&dialog, &PrintDialog::remarked, [](const QStringList &sentences) {
-        for (const QString &sentence : sentences)
-            complain(sentence);
-    });
-    QObject::connect(&dialog, &PrintDialog::refused, [&loop] { loop.exit(kRefused); });
-    QObject::connect(&dialog, &PrintDialog::failed,
-                     [&](const foundation::Problem &problem) { refuse(problem.sentence); });
-    QObject::connect(&dialog, &PrintDialog::printed, [&loop](const QString &where) {
-        std::cout << where.toStdString() << std::endl;
-        loop.exit(kDone);
-    });
-    const auto go = [&] {
-        if (dialog.state() == PrintDialog::State::noPrinter)
-            return refuse(dialog.problem().sentence);
-        if (!dialog.target()->note().isEmpty())
-            complain(dialog.target()->note());
-        dialog.print();
-    };
-    if (dialog.state() == PrintDialog::State::looking)
-        QObject::connect(&dialog, &PrintDialog::stateChanged, &loop, go, Qt::SingleShotConnection);
-    else
-        QMetaObject::invokeMethod(&loop, go, Qt::QueuedConnection);
-    const Interrupts interrupts([&] {
-        if (dialog.state() == PrintDialog::State::sending)
-            dialog.stop(); // the program would leave half a job behind
+        m_loop.exit(kRefused);
+    }
+    void go()
+    {
+        if (m_dialog.state() == PrintDialog::State::noPrinter)
+            return refuse(m_dialog.problem().sentence);
+        if (!m_dialog.target()->note().isEmpty())
+            complain(m_dialog.target()->note());
+        m_dialog.print();
+    }
+    void interrupt()
+    {
+        if (m_dialog.state() == PrintDialog::State::sending)
+            m_dialog.stop(); // the program would leave half a job behind
         else
             refuse("stopped");
-    });
-    return loop.exec();
-}
+    }
+
+    PrintDialog &m_dialog;
+    QEventLoop m_loop;
+};
 
 } // namespace
 
@@ -67,7 +86,7 @@ int printWithoutWindow(const CommandLine &line)
         complain(document.problem().sentence);
         return kRefused;
     }
-    toolkit::Alert::setPresenter([](const toolkit::Alert &alert) {
+    const toolkit::PresentAlerts toStandardError([](const toolkit::Alert &alert) {
         complain((alert.messageText() + ' ' + alert.informativeText()).simplified());
     });
     PrintDialog dialog(line.request, *std::move(document));
@@ -75,7 +94,7 @@ int printWithoutWindow(const CommandLine &line)
         complain(started.problem().sentence);
         return kRefused;
     }
-    return runToItsEnd(dialog);
+    return Batch(dialog).run();
 }
 
 } // namespace host

@@ -5,6 +5,9 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+#include <array>
+
 using namespace toolkit;
 
 namespace host {
@@ -45,46 +48,60 @@ void addStepper(QJsonObject &state, const StepperControl &control)
     state["increment"] = control.increment();
 }
 
-/// Adds the members of the control's kind and answers the kind.
-QString addKind(QJsonObject &state, QWidget &control)
+void addField(QJsonObject &state, const FieldControl &control)
 {
-    if (const auto *label = qobject_cast<LabelControl *>(&control)) {
-        addText(state, *label);
-        return "label";
-    }
-    if (const auto *field = qobject_cast<FieldControl *>(&control)) {
-        addText(state, *field);
-        state["editable"] = field->isEditable();
-        state["expansionToolTips"] = field->allowsExpansionToolTips();
-        return "field";
-    }
-    if (const auto *popUp = qobject_cast<PopUpControl *>(&control)) {
-        addPopUp(state, *popUp);
-        return "popup";
-    }
-    if (const auto *check = qobject_cast<CheckControl *>(&control)) {
-        state["title"] = check->title();
-        state["state"] = check->state();
-        return "check";
-    }
-    if (const auto *radio = qobject_cast<RadioControl *>(&control)) {
-        state["rows"] = QJsonArray::fromStringList(radio->rows());
-        state["selected"] = radio->selectedRow();
-        return "radio";
-    }
-    if (const auto *stepper = qobject_cast<StepperControl *>(&control)) {
-        addStepper(state, *stepper);
-        return "stepper";
-    }
-    if (const auto *tabs = qobject_cast<TabControl *>(&control)) {
-        addTabs(state, *tabs);
-        return "tabs";
-    }
-    if (const QVariant picture = control.property("picture"); picture.isValid()) { // a preview names what it shows
+    addText(state, control);
+    state["editable"] = control.isEditable();
+    state["expansionToolTips"] = control.allowsExpansionToolTips();
+}
+
+void addCheck(QJsonObject &state, const CheckControl &control)
+{
+    state["title"] = control.title();
+    state["state"] = control.state();
+}
+
+void addRadio(QJsonObject &state, const RadioControl &control)
+{
+    state["rows"] = QJsonArray::fromStringList(control.rows());
+    state["selected"] = control.selectedRow();
+}
+
+struct Kind
+{
+    const QMetaObject *type;
+    const char *name;
+    void (*describe)(QJsonObject &, const QWidget &);
+};
+
+template <class C, auto describe>
+constexpr Kind kind(const char *name)
+{
+    return {&C::staticMetaObject, name,
+            [](QJsonObject &state, const QWidget &control) { describe(state, static_cast<const C &>(control)); }};
+}
+
+constexpr std::array kKinds{
+    kind<LabelControl, addText>("label"),  kind<FieldControl, addField>("field"),
+    kind<PopUpControl, addPopUp>("popup"), kind<CheckControl, addCheck>("check"),
+    kind<RadioControl, addRadio>("radio"), kind<StepperControl, addStepper>("stepper"),
+    kind<TabControl, addTabs>("tabs"),
+};
+
+/// Adds the members of the control's kind, and the kind.
+void addKind(QJsonObject &state, const QWidget &control)
+{
+    const auto *const found =
+        std::ranges::find_if(kKinds, [&](const Kind &kind) { return control.metaObject()->inherits(kind.type); });
+    if (found != kKinds.end()) {
+        state["kind"] = found->name;
+        found->describe(state, control);
+    } else if (const QVariant picture = control.property("picture"); picture.isValid()) { // names what it shows
+        state["kind"] = "halftone";
         state["picture"] = orNull(picture.toString());
-        return "halftone";
+    } else {
+        state["kind"] = "view";
     }
-    return "view";
 }
 
 } // namespace
@@ -97,7 +114,7 @@ QJsonObject controlState(QWidget &control)
                       {"enabled", view.isEnabled()},
                       {"attached", view.isAttached()},
                       {"origin", QJsonArray{origin.x(), origin.y()}}};
-    state["kind"] = addKind(state, control);
+    addKind(state, control);
     return state;
 }
 

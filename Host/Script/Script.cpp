@@ -229,11 +229,9 @@ QJsonObject Script::open(const ScriptRequest &request)
     m_session.reset();
     around.apply();
     m_session = *std::move(next);
-    m_session->setListener({.panelMarks =
-                                [this](const QString &key, const QString &choice) {
-                                    m_marks.append(QJsonArray{key, choice});
-                                },
-                            .changed = {}});
+    m_session->setListener(
+        {.panelMarks = [this](const QString &key, const QString &choice) { m_marks.append(QJsonArray{key, choice}); },
+         .changed = {}});
     m_session->start(prepare ? DialogSession::Prepare::everyPanel : DialogSession::Prepare::nothing);
 
     QJsonObject reply{{"accepted", m_session->isAccepted()}, {"panels", QJsonArray()}};

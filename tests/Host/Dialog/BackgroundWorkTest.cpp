@@ -1,0 +1,106 @@
+// Work that the thread of the dialog does not wait for, unless it must.
+#include "Dialog/BackgroundWork.h"
+
+#include "Print.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+using host::BackgroundWork;
+
+namespace {
+
+constexpr int kMilliseconds = 10000;
+
+using AtEnd = BackgroundWork::AtEnd;
+
+/// Until it is asked to stop.
+int waitForStop(const std::stop_token &stop)
+{
+    while (!stop.stop_requested())
+        QThread::msleep(1);
+    return 1;
+}
+
+TEST(Background, AnswersOnTheThreadOfTheReceiver)
+{
+    QObject receiver;
+    int answer = 0;
+    const QThread *where = nullptr;
+    const BackgroundWork work(
+        AtEnd::wait, receiver, [](const std::stop_token &) { return 42; },
+        [&](int result) {
+            answer = result;
+            where = QThread::currentThread();
+        });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return answer != 0; }, kMilliseconds));
+    EXPECT_EQ(answer, 42);
+    EXPECT_EQ(where, QThread::currentThread());
+}
+
+TEST(Background, AnswersNobodyWhenTheReceiverIsGone)
+{
+    bool isAnswered = false;
+    std::atomic<bool> isDone = false;
+    auto receiver = std::make_unique<QObject>();
+    {
+        const BackgroundWork work(
+            AtEnd::wait, *receiver,
+            [&](const std::stop_token &) {
+                isDone = true;
+                return 0;
+            },
+            [&](int) { isAnswered = true; });
+    }
+    ASSERT_TRUE(isDone); // the answer is posted by now
+    receiver.reset();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isAnswered);
+}
+
+TEST(Background, IsStoppedAndWaitedForWhereItMustNotBeLeftHalfDone)
+{
+    QObject receiver;
+    bool isAnswered = false;
+    {
+        const BackgroundWork work(AtEnd::wait, receiver, waitForStop, [&](int) { isAnswered = true; });
+    }
+    EXPECT_FALSE(BackgroundWork::isAbandonedWorkRunning());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isAnswered);
+}
+
+TEST(Background, IsNotWaitedForWhereNobodyNeedsIt)
+{
+    QObject receiver;
+    std::atomic<bool> mayEnd = false;
+    const auto workUntilItMayEnd = [&](const std::stop_token &) {
+        while (!mayEnd)
+            QThread::msleep(1);
+        return 0;
+    };
+    {
+        const BackgroundWork work(AtEnd::abandon, receiver, workUntilItMayEnd, [](int) {});
+    }
+    EXPECT_TRUE(BackgroundWork::isAbandonedWorkRunning()); // and we are here all the same
+    mayEnd = true;
+    EXPECT_TRUE(QTest::qWaitFor([] { return !BackgroundWork::isAbandonedWorkRunning(); }, kMilliseconds));
+}
+
+TEST(Background, TakesThePlaceOfEarlierWorkWhichIsStopped)
+{
+    QObject receiver;
+    QList<int> answers;
+    const auto note = [&](int answer) { answers.append(answer); };
+    BackgroundWork work(AtEnd::wait, receiver, waitForStop, note);
+    work = BackgroundWork(AtEnd::wait, receiver, [](const std::stop_token &) { return 2; }, note);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return answers.size() == 2; }, kMilliseconds));
+    EXPECT_EQ(answers, QList<int>({1, 2}));
+}
+
+} // namespace
