@@ -63,9 +63,10 @@ protected:
         auto *const finder = m_dialog->findChild<PrinterFinder *>();
         QSignalSpy found(finder, &PrinterFinder::found);
         QSignalSpy failed(finder, &PrinterFinder::failed);
-        m_server.thaw();
         if (answer == Comes::problem)
             m_server.kill();
+        else
+            m_server.thaw();
         ASSERT_TRUE(QTest::qWaitFor([&] { return found.size() + failed.size() == 1; }, kMilliseconds));
         ASSERT_EQ(failed.size(), answer == Comes::problem ? 1 : 0);
     }
