@@ -168,9 +168,9 @@ struct MenuStep
     enum class Menu { formFeed, perforated };
     enum class If { always, formFeed0, formFeed0or2, perforated1 };
 
-    Verb verb;
-    Menu menu;
-    int item;
+    Verb verb = Verb::disable;
+    Menu menu = Menu::formFeed;
+    int item = 0;
     If condition = If::always;
 };
 

@@ -16,7 +16,7 @@ struct QueueName
     static QueueName fromText(const QString &text);
 
     QString queue; // empty: the default queue
-    QString preset = {};
+    QString preset;
 };
 
 struct Queue

@@ -131,12 +131,12 @@ Or<void> SavedOptions::checkName(const QString &preset)
 
 Or<void> SavedOptions::save(const QString &preset, const OptionValues &options) const
 {
-    return replace(preset, options);
+    return replace(preset, &options);
 }
 
-Or<void> SavedOptions::remove(const QString &preset) const { return replace(preset, std::nullopt); }
+Or<void> SavedOptions::remove(const QString &preset) const { return replace(preset, nullptr); }
 
-Or<void> SavedOptions::replace(const QString &preset, const std::optional<OptionValues> &options) const
+Or<void> SavedOptions::replace(const QString &preset, const OptionValues *options) const
 {
     const QString path = userFile();
     const QString folder = QFileInfo(path).path();
@@ -161,7 +161,7 @@ Or<void> SavedOptions::replace(const QString &preset, const std::optional<Option
 
 /// The lines of the file with the preset's own replaced, or left out without options.
 QByteArrayList SavedOptions::replaced(const QByteArrayList &lines, const QString &preset,
-                                      const std::optional<OptionValues> &options) const
+                                      const OptionValues *options) const
 {
     QByteArrayList result;
     Line mine{"Dest", m_queue, preset, {}};

@@ -38,9 +38,9 @@ public:
     static foundation::Or<void> checkName(const QString &preset);
 
 private:
-    foundation::Or<void> replace(const QString &preset, const std::optional<OptionValues> &options) const;
-    QByteArrayList replaced(const QByteArrayList &lines, const QString &preset,
-                            const std::optional<OptionValues> &options) const;
+    // Without options (null) the preset is removed.
+    foundation::Or<void> replace(const QString &preset, const OptionValues *options) const;
+    QByteArrayList replaced(const QByteArrayList &lines, const QString &preset, const OptionValues *options) const;
 
     QString m_queue;
 };

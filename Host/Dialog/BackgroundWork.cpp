@@ -22,7 +22,7 @@ QObject &BackgroundWork::answers()
     return *object;
 }
 
-BackgroundWork &BackgroundWork::operator=(BackgroundWork &&other)
+BackgroundWork &BackgroundWork::operator=(BackgroundWork &&other) noexcept
 {
     end();
     m_atEnd = other.m_atEnd;

@@ -27,7 +27,7 @@ public:
     BackgroundWork(AtEnd atEnd, QObject &receiver, Work work, Use use);
     ~BackgroundWork() { end(); }
     BackgroundWork(BackgroundWork &&) = default;
-    BackgroundWork &operator=(BackgroundWork &&other);
+    BackgroundWork &operator=(BackgroundWork &&other) noexcept;
 
     void requestStop() { m_stop.request_stop(); }
 
@@ -57,7 +57,7 @@ private:
 template <class Work, class Use>
 BackgroundWork::BackgroundWork(AtEnd atEnd, QObject &receiver, Work work, Use use)
     : m_atEnd(atEnd)
-    , m_stop()
+    , m_stop(std::stop_source())
     , m_thread([&posts = answers(), stop = m_stop.get_token(), guard = QPointer<QObject>(&receiver),
                 work = std::move(work), use = std::move(use), running = std::make_unique<Running>()]() mutable {
         auto answer = work(stop);

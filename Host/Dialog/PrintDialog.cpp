@@ -67,7 +67,7 @@ void PrintDialog::sayForNow(const QString &sentence)
 void PrintDialog::choosePrinter(const QString &name)
 {
     if (m_state != State::sending)
-        look({name});
+        look({name, {}});
 }
 
 void PrintDialog::lookAgain()

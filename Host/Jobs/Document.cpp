@@ -23,8 +23,8 @@ constexpr qint64 kSniffBytes = 4096;
 struct Format
 {
     QByteArrayView magic;
-    const char *mimeType;
-    const char *extension;
+    const char *mimeType = "";
+    const char *extension = "";
 };
 
 constexpr std::array kFormats{

@@ -45,8 +45,13 @@ private:
 /// What an option is marked with, or is to be marked with.
 struct ChoiceValue
 {
+    ChoiceValue(QString listed = {}, std::optional<CustomValue> value = std::nullopt)
+        : keyword(std::move(listed))
+        , custom(std::move(value))
+    {}
+
     QString keyword; // of a listed choice; "Custom" for a custom value
-    std::optional<CustomValue> custom = {};
+    std::optional<CustomValue> custom;
 
     static ChoiceValue ofCustom(CustomValue value);
     /// A text of the form of a custom value is one; every other text is the keyword of a choice.

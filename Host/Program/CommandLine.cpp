@@ -87,7 +87,7 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser)
 
 } // namespace
 
-void complain(const QString &sentence) { std::cerr << "qnprint: " << sentence.toStdString() << std::endl; }
+void complain(const QString &sentence) { std::cerr << "qnprint: " << sentence.toStdString() << '\n' << std::flush; }
 
 Face faceOf(const QStringList &arguments)
 {

@@ -31,8 +31,9 @@ int withWindow(const CommandLine &line, const std::shared_ptr<Document> &documen
                const std::function<int(DialogWindow &window)> &use)
 {
     PrintDialog dialog(line.request, document);
-    QObject::connect(&dialog, &PrintDialog::printed,
-                     [](const QString &where) { std::cout << where.toStdString() << std::endl; });
+    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &where) {
+        std::cout << where.toStdString() << '\n' << std::flush;
+    });
     if (const auto started = dialog.start(); !started) {
         complain(started.problem().sentence);
         return kRefused;

@@ -29,7 +29,7 @@ public:
         QObject::connect(&dialog, &PrintDialog::failed, &m_loop,
                          [this](const foundation::Problem &problem) { refuse(problem.sentence); });
         QObject::connect(&dialog, &PrintDialog::printed, &m_loop, [this](const QString &where) {
-            std::cout << where.toStdString() << std::endl;
+            std::cout << where.toStdString() << '\n' << std::flush;
             m_loop.exit(kDone);
         });
     }

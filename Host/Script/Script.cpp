@@ -387,7 +387,7 @@ int runScript()
     Script script;
     for (std::string line; std::getline(std::cin, line);) {
         if (const auto reply = script.reply(QByteArray::fromStdString(line)))
-            std::cout << reply->constData() << std::endl; // flushed: somebody waits for it
+            std::cout << reply->constData() << '\n' << std::flush; // flushed: somebody waits for it
         QCoreApplication::processEvents();
     }
     return script.allLinesKnown() ? 0 : 2;

@@ -31,8 +31,6 @@ public:
     bool showPanel(const QString &identifier);
     /// Shows a panel as soon as there is a printer; a message tells when there is no such panel.
     void showPanelFirst(const QString &identifier);
-
-public Q_SLOTS:
     void reject() override;
 
 protected:

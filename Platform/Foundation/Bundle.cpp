@@ -15,7 +15,7 @@ namespace {
 constexpr auto kFallbackLocalization = "en";
 constexpr auto kNoLocalization = "none";
 constexpr auto kTableContext = "Localizable";
-constexpr qint64 kLargestInfoFile = 64 * 1024;
+constexpr qint64 kLargestInfoFile = 65536;
 
 } // namespace
 

@@ -29,11 +29,13 @@ class [[nodiscard]] Or
     using Value = std::conditional_t<std::is_void_v<T>, std::monostate, T>;
 
 public:
-    Or() requires std::is_void_v<T>
+    Or()
+        requires std::is_void_v<T>
     = default;
     template <class U = Value>
-    requires(std::is_convertible_v<U &&, Value> && !std::is_same_v<std::remove_cvref_t<U>, Problem> &&
-             !std::is_same_v<std::remove_cvref_t<U>, Or>) Or(U &&value)
+        requires(std::is_convertible_v<U &&, Value> && !std::is_same_v<std::remove_cvref_t<U>, Problem> &&
+                 !std::is_same_v<std::remove_cvref_t<U>, Or>)
+    Or(U &&value)
         : m_content(std::in_place_index<0>, std::forward<U>(value))
     {}
     Or(Problem problem)

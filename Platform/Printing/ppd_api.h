@@ -20,7 +20,7 @@ extern "C" http_status_t cupsGetPPD3(http_t *http, const char *queue, time_t *mo
 #include <cups/raster.h>
 #pragma push_macro("_CUPS_DEPRECATED_1_6_MSG")
 #undef _CUPS_DEPRECATED_1_6_MSG
-#define _CUPS_DEPRECATED_1_6_MSG(message)
+#define _CUPS_DEPRECATED_1_6_MSG(message) // NOLINT(bugprone-reserved-identifier): the library's own name
 #include <cups/ppd.h>
 #pragma pop_macro("_CUPS_DEPRECATED_1_6_MSG")
 

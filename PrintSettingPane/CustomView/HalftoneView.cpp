@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 /// In the order of the group's rows.
@@ -53,7 +55,8 @@ void HalftoneView_v100_::setHlftnMatrix(const toolkit::RadioMatrix &matrix)
 QString HalftoneView_v100_::picture() const
 {
     const QPixmap *const image = targetDrawImage();
-    return image ? kPictures[static_cast<std::size_t>(image - mHalfoneImg.data())] : QString();
+    const auto found = std::ranges::find_if(mHalfoneImg, [image](const QPixmap &each) { return &each == image; });
+    return image ? kPictures[static_cast<std::size_t>(found - mHalfoneImg.begin())] : QString();
 }
 
 void HalftoneView_v100_::setNeedsDisplay()

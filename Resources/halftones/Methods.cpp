@@ -64,7 +64,7 @@ QImage orderedDither(const GreyImage &grey)
 // Every other row is walked backwards, so that the dots do not line up along one slant.
 QImage errorDiffusion(const GreyImage &grey)
 {
-    std::array<double, GreyImage::count> wanted;
+    std::array<double, GreyImage::count> wanted{};
     std::ranges::copy(grey.levels, wanted.begin());
     const auto at = [&](int x, int y) -> double & { return wanted[GreyImage::index(x, y)]; };
 
