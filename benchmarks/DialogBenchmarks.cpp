@@ -49,10 +49,10 @@ std::unique_ptr<DialogSession> open(const QString &ppd, DialogSession::Prepare p
 {
     DialogSession::Parameters parameters;
     parameters.ppdPath = ppd;
-    QString error;
-    auto session = DialogSession::open(parameters, &error);
-    if (!session)
-        qFatal("%s", qPrintable(error));
+    auto opened = DialogSession::open(parameters);
+    if (!opened)
+        qFatal("%s", qPrintable(opened.problem().sentence));
+    auto session = *std::move(opened);
     session->start(prepare);
     return session;
 }

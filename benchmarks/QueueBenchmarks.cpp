@@ -1,12 +1,11 @@
 // How long a person waits for the window with few and with many queues on the server.
 #include "CupsServer.h"
-#include "Dialog/PrinterFinder.h"
+
+#include "Dialog/PrintDialog.h"
 #include "Window/DialogWindow.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QElapsedTimer>
-#include <QPushButton>
 #include <QThread>
 
 #include <benchmark/benchmark.h>
@@ -34,28 +33,11 @@ void useServerWith(std::int64_t queues)
     server->adoptEnvironment();
 }
 
-CommandLine line()
+PrintRequest requestForTheFirst()
 {
-    CommandLine line;
-    line.queue = "queue0";
-    line.language = "en";
-    return line;
-}
-
-bool canPrint(const DialogWindow &window)
-{
-    for (const auto *button : window.findChildren<QPushButton *>())
-        if (button->isDefault())
-            return button->isEnabled();
-    return false;
-}
-
-bool offersAll(const DialogWindow &window, std::int64_t queues)
-{
-    for (const auto *box : window.findChildren<QComboBox *>())
-        if (box->count() == queues)
-            return true;
-    return false;
+    PrintRequest request;
+    request.queue = "queue0";
+    return request;
 }
 
 enum class Until { firstFrame, canPrint, allOffered };
@@ -74,17 +56,20 @@ void openWindow(benchmark::State &state)
             if (is && reached == 0)
                 reached = clock.nsecsElapsed();
         };
-        DialogWindow window(nullptr);
-        new QueueSupply(line(), window); // the window's
+        PrintDialog dialog(requestForTheFirst(), nullptr);
+        if (!dialog.start())
+            return state.SkipWithError("the dialog does not start");
+        DialogWindow window(dialog);
         window.show();
         benchmark::DoNotOptimize(window.grab());
         reach(until == Until::firstFrame);
-        while (!(canPrint(window) && offersAll(window, state.range(0)))) {
+        const auto canPrint = [&] { return dialog.state() == PrintDialog::State::ready; };
+        while (!(canPrint() && dialog.printers().size() == state.range(0))) {
             if (clock.elapsed() > kMilliseconds)
                 return state.SkipWithError("the printers do not come");
             QThread::usleep(100); // leaves the processor to the server
             QCoreApplication::processEvents();
-            reach(until == Until::canPrint && canPrint(window));
+            reach(until == Until::canPrint && canPrint());
         }
         reach(true);
         state.SetIterationTime(static_cast<double>(reached) / 1e9);
