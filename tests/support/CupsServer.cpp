@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QThread>
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <csignal>
 #include <cstring>
@@ -214,6 +215,19 @@ void CupsServer::thaw()
 {
     if (m_pid > 0)
         ::kill(m_pid, SIGCONT);
+}
+
+bool CupsServer::hasClient() const
+{
+    QFile connections("/proc/self/net/tcp"); // "sl local_address rem_address st …", port and state hexadecimal
+    if (!connections.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray toServer = ":" + QByteArray::number(m_port, 16).toUpper().rightJustified(4, '0');
+    const QByteArrayList lines = connections.readAll().split('\n');
+    return std::ranges::any_of(lines, [&](const QByteArray &line) {
+        const QByteArrayList columns = line.simplified().split(' ');
+        return columns.value(2).endsWith(toServer) && columns.value(3) == "01";
+    });
 }
 
 void CupsServer::adoptEnvironment() const

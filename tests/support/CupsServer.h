@@ -35,6 +35,8 @@ public:
     /// Holds the server so that it answers nothing, and lets it go on.
     void freeze();
     void thaw();
+    /// Whether a program of this network is connected, answered or not.
+    bool hasClient() const;
 
     /// The environment in which CUPS programs find this server and no other.
     QProcessEnvironment environment() const;

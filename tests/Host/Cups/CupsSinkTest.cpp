@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <thread>
 
 using namespace host;
@@ -87,14 +88,22 @@ TEST_F(Sending, CancelsTheJobWhenItIsStoppedAndLeavesNothingInTheSpool)
 
 TEST_F(Sending, StopsWhileTheServerKeepsSilent)
 {
+    std::atomic<qint64> sent = 0;
     std::jthread person;
-    const QString problem = sentence(send(atHalf([&] {
+    const auto stopWhenItStandsStill = [&] {
+        for (qint64 before = -1; before != sent; QThread::msleep(300))
+            before = sent;
+        EXPECT_LT(sent, m_document->size());
+        m_stop.request_stop();
+    };
+    const auto freezeAtHalf = atHalf([&] {
         m_server.freeze();
-        person = std::jthread([this] {
-            QThread::msleep(1500); // by then the sockets are full and the job waits for the server
-            m_stop.request_stop();
-        });
-    })));
+        person = std::jthread(stopWhenItStandsStill);
+    });
+    const QString problem = sentence(send([&](qint64 done, qint64 total) {
+        sent = done;
+        freezeAtHalf(done, total);
+    }));
     EXPECT_TRUE(problem.startsWith("counter: stopped")) << problem.toStdString();
     m_server.thaw();
     EXPECT_EQ(m_server.recordCount(), 0);

@@ -343,7 +343,7 @@ TEST_F(QueueWindow, OffersToLookAgainWhenTheServerDiesMeanwhile)
 {
     m_server.freeze();
     open();
-    QTest::qWait(200);
+    ASSERT_TRUE(waitFor([this] { return m_server.hasClient(); }));
     m_server.kill();
     ASSERT_TRUE(waitFor([this] { return button("Try A&gain")->isVisible(); })) << message().toStdString();
     EXPECT_TRUE(message().startsWith("counter: ")) << message().toStdString();

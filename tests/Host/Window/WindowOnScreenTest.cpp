@@ -125,7 +125,7 @@ TEST_F(OnScreen, StopsAnAmountThatIsOutOfRangeAndLetsThePersonMendIt)
     }));
     EXPECT_EQ(m_server.openJobs(), "");
     m_screen.press("Return");
-    QThread::msleep(300);
+    ASSERT_TRUE(m_screen.waitFor("qnprint", [](const Seen &each) { return each.role == "text" && each.isFocused; }));
     m_screen.press("ctrl+a");
     m_screen.type("30");
     m_screen.press("alt+p");
