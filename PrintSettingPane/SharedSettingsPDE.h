@@ -142,11 +142,11 @@ private:
     /// where no panel has such a control, or only one of them: that one says so in `popUpOf` or `checkBoxOf`.
     struct OptionMembers
     {
-        OptionId id;
-        const char *selectionName;
-        ppd_option_t *SharedSettingsPDE::*option;
-        std::optional<ChoiceList> SharedSettingsPDE::*choices;
-        const PDEChoice *SharedSettingsPDE::*selection;
+        OptionId id{};
+        const char *selectionName = nullptr;
+        ppd_option_t *SharedSettingsPDE::*option = nullptr;
+        std::optional<ChoiceList> SharedSettingsPDE::*choices = nullptr;
+        const PDEChoice *SharedSettingsPDE::*selection = nullptr;
         toolkit::PopUpButton SharedSettingsPDE::*popUp = nullptr;
         toolkit::CheckBox SharedSettingsPDE::*checkBox = nullptr;
     };

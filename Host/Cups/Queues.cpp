@@ -1,129 +1,42 @@
-// Queues of the CUPS server.
+// Queues of the CUPS server, as a conversation with it tells.
 #include "Queues.h"
 
-#include "ServerConnection.h"
+#include "Wire.h"
 
-#include "Printing/Units.h"
+#include "Printing/cups_api.h"
+
+#include <QFile>
 
 namespace host {
 
 using foundation::Or;
 using foundation::Problem;
-using printing::kPointsPerHundredthOfMillimetre;
 
-namespace {
-
-std::vector<PaperEntry> papersOf(http_t *http, cups_dest_t *destination)
-{
-    std::vector<PaperEntry> papers;
-    const DestinationInfo info(cupsCopyDestInfo(http, destination));
-    const int count = info ? cupsGetDestMediaCount(http, destination, info.get(), 0) : 0;
-    for (int i = 0; i < count; ++i) {
-        cups_size_t size = {};
-        if (!cupsGetDestMediaByIndex(http, destination, info.get(), i, 0, &size))
-            continue;
-        const char *const text = cupsLocalizeDestMedia(http, destination, info.get(), 0, &size);
-        papers.push_back(
-            {QString::fromUtf8(size.media),
-             QString::fromUtf8(text ? text : size.media),
-             {size.width * kPointsPerHundredthOfMillimetre, size.length * kPointsPerHundredthOfMillimetre}});
-    }
-    return papers;
-}
-
-const char *optionOf(const cups_dest_t &destination, const char *name)
-{
-    return cupsGetOption(name, destination.num_options, destination.options);
-}
-
-QString noteOn(const cups_dest_t &destination)
-{
-    const QString name = QString::fromUtf8(destination.name);
-    if (qstrcmp(optionOf(destination, "printer-is-accepting-jobs"), "false") == 0)
-        return ServerConnection::tr("%1: the queue does not take jobs now").arg(name);
-    if (qstrcmp(optionOf(destination, "printer-state"), "5") == 0)
-        return ServerConnection::tr("%1: the queue is stopped; jobs wait until it is started").arg(name);
-    return {};
-}
-
-const char *orNull(const QByteArray &text) { return text.isEmpty() ? nullptr : text.constData(); }
-
-Or<Destination> findDestination(const ServerConnection &server, const QueueName &name)
-{
-    const auto owner = [&] { return name.queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue; };
-    if (!server)
-        return Problem{owner() + ": " + server.problem().sentence};
-    Destination found(cupsGetNamedDest(server.get(), orNull(name.queue.toUtf8()), orNull(name.preset.toUtf8())));
-    if (found)
-        return found;
-    if (answerTo() == Answer::refused)
-        return Problem{owner() + ": " + server.problem().sentence};
-    return Problem{name.queue.isEmpty() ? ServerConnection::tr("there is no default queue")
-                                        : ServerConnection::tr("%1: no such queue").arg(name.queue)};
-}
-
-/// What the library answers to `cupsGetDests2`.
-class Destinations
-{
-public:
-    explicit Destinations(http_t *http)
-        : m_count(cupsGetDests2(http, &m_list))
-    {}
-    ~Destinations() { cupsFreeDests(m_count, m_list); }
-    Destinations(const Destinations &) = delete;
-    Destinations &operator=(const Destinations &) = delete;
-
-    const cups_dest_t *begin() const { return m_list; }
-    const cups_dest_t *end() const { return m_list + m_count; }
-    bool isEmpty() const { return m_count == 0; }
-
-private:
-    cups_dest_t *m_list = nullptr;
-    int m_count;
-};
-
-} // namespace
+FileToRemove::~FileToRemove() { QFile::remove(m_path); }
 
 QueueName QueueName::fromText(const QString &text) { return {text.section('/', 0, 0), text.section('/', 1)}; }
 
-Or<QueueNames> queueNames()
+Or<QueueNames> queueNames(const std::stop_token &stop, const Patience &patience)
 {
-    const ServerConnection server;
-    if (!server)
-        return server.problem();
-    const Destinations destinations(server.get());
-    if (destinations.isEmpty() && answerTo() != Answer::granted)
-        return server.problem();
-    QueueNames found;
-    for (const cups_dest_t &each : destinations) {
-        const QString name = QString::fromUtf8(each.name);
-        if (each.is_default)
-            found.standard = name;
-        if (!each.instance) // presets share the name of their queue
-            found.names.append(name);
-    }
-    found.names.sort(Qt::CaseInsensitive);
-    return found;
+    const auto answer = converse({{wire::kAsk, wire::kNames}}, patience, stop);
+    if (!answer)
+        return answer.problem();
+    return queueNamesFrom(*answer);
 }
 
-Or<Queue> findQueue(const QueueName &name)
+Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Patience &patience)
 {
-    const ServerConnection server;
-    const auto found = findDestination(server, name);
-    if (!found)
-        return found.problem();
-    cups_dest_t &destination = **found;
-    Queue queue{
-        QString::fromUtf8(destination.name), QString::fromUtf8(destination.instance), {}, {}, {}, noteOn(destination)};
-    if (const char *uri = optionOf(destination, "device-uri"))
-        queue.uri = QString::fromUtf8(uri);
-    auto ppd = fetchPPD(server, queue.name);
-    if (!ppd)
-        return Problem{queue.name + ": " + ppd.problem().sentence};
-    queue.ppd = *std::move(ppd);
-    if (!queue.ppd)
-        queue.papers = papersOf(server.get(), &destination);
-    return queue;
+    const auto answer = converse({{wire::kAsk, wire::kQueue}, {wire::kQueue, toJson(name)}}, patience, stop);
+    if (answer) {
+        Queue queue = queueFrom(*answer);
+        if (queue.ppd && queue.ppd->isTemporary)
+            queue.ppd->removal = std::make_shared<FileToRemove>(queue.ppd->path);
+        return queue;
+    }
+    if (answer.problem().kind != Problem::Kind::unanswered)
+        return answer.problem();
+    const QString owner = name.queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue;
+    return Problem{QStringLiteral("%1: %2").arg(owner, answer.problem().sentence)};
 }
 
 } // namespace host

@@ -1,12 +1,18 @@
-// Queues of the CUPS server: which there are, and what one of them needs to be printed on. All of it asks the server,
-// and so belongs on a thread of its own.
+// Queues of the CUPS server: which there are, and what one of them needs to be printed on. Asking blocks, and so
+// belongs on a thread of its own; it ends when a stop is requested.
 #pragma once
 
-#include "PPDCache.h"
+#include "Conversation.h"
 
+#include "Foundation/Or.h"
 #include "PPD/PPDDocument.h"
 
+#include <QByteArray>
 #include <QStringList>
+
+#include <ctime>
+#include <memory>
+#include <optional>
 
 namespace host {
 
@@ -17,6 +23,31 @@ struct QueueName
 
     QString queue; // empty: the default queue
     QString preset;
+};
+
+/// A file that goes when its last holder goes.
+class FileToRemove
+{
+public:
+    explicit FileToRemove(QString path)
+        : m_path(std::move(path))
+    {}
+    ~FileToRemove();
+    FileToRemove(const FileToRemove &) = delete;
+    FileToRemove &operator=(const FileToRemove &) = delete;
+
+private:
+    QString m_path;
+};
+
+/// A queue's PPD on this machine.
+struct CachedPPD
+{
+    QString path;                               // of a file that only its owner can read
+    std::time_t asOf = 0;                       // when the server last confirmed this PPD
+    QByteArray digest;                          // of the content
+    bool isTemporary = false;                   // the file could not be kept, and goes
+    std::shared_ptr<FileToRemove> removal = {}; // of a temporary file, by the dialog
 };
 
 struct Queue
@@ -35,9 +66,9 @@ struct QueueNames
     QString standard; // the default queue; empty when there is none
 };
 
-foundation::Or<QueueNames> queueNames();
+foundation::Or<QueueNames> queueNames(const std::stop_token &stop, const Patience &patience = {});
 
 /// A problem names the queue.
-foundation::Or<Queue> findQueue(const QueueName &name);
+foundation::Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Patience &patience = {});
 
 } // namespace host

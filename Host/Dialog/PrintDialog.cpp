@@ -268,7 +268,7 @@ void PrintDialog::send(const QString &pages)
     setState(State::sending);
     const Job job{m_document, jobTitle(), m_amount.copies, pages, m_target->jobOptions()};
     m_job = BackgroundWork(
-        BackgroundWork::AtEnd::wait, *this,
+        *this,
         [this, job, sink = m_target->sink()](const std::stop_token &stop) {
             const auto tell = [this](qint64 done, qint64 total) {
                 const int percent = total > 0 ? static_cast<int>(done * 100 / total) : 0;
@@ -309,7 +309,9 @@ void PrintDialog::hold() { ++m_holds; }
 /// What has waited is done from the event loop: the box is closed, but the code that opened it has not returned yet.
 void PrintDialog::release()
 {
-    if (m_holds > 0 && --m_holds == 0)
+    if (m_holds > 0)
+        --m_holds;
+    if (m_holds == 0)
         QMetaObject::invokeMethod(this, &PrintDialog::doWaiting, Qt::QueuedConnection);
 }
 

@@ -1,31 +1,21 @@
 // Looks for printers of the CUPS server.
 #include "PrinterFinder.h"
 
+#include "Cups/Conversation.h"
+
 namespace host {
 
 using foundation::Or;
 using foundation::Problem;
 
-namespace {
-
-constexpr int kMillisecondsToWait = 25000; // longer than connecting and the silence that is put up with
-
-} // namespace
-
 PrinterFinder::PrinterFinder(QObject *parent)
     : QObject(parent)
-{
-    // A search has an end of its own; should the library be held up all the same, the person is not.
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(kMillisecondsToWait);
-    connect(&m_patience, &QTimer::timeout, this, [this] { answer(Problem{tr("The CUPS server does not answer.")}); });
-}
+{}
 
 void PrinterFinder::find(const QueueName &name)
 {
-    m_patience.start();
     m_search = BackgroundWork(
-        BackgroundWork::AtEnd::abandon, *this, [name](const std::stop_token &) { return findQueue(name); },
+        *this, [name](const std::stop_token &stop) { return findQueue(name, stop); },
         [this, request = ++m_request](const Or<Queue> &queue) {
             if (request == m_request)
                 answer(queue);
@@ -34,8 +24,7 @@ void PrinterFinder::find(const QueueName &name)
 
 void PrinterFinder::answer(const Or<Queue> &queue)
 {
-    ++m_request; // ignore answers that arrive after this one
-    m_patience.stop();
+    prepareConversation(); // for what comes next
     if (queue)
         Q_EMIT found(*queue);
     else
@@ -45,7 +34,7 @@ void PrinterFinder::answer(const Or<Queue> &queue)
 void PrinterFinder::findNames()
 {
     m_naming = BackgroundWork(
-        BackgroundWork::AtEnd::abandon, *this, [](const std::stop_token &) { return queueNames(); },
+        *this, [](const std::stop_token &stop) { return queueNames(stop); },
         [this](const Or<QueueNames> &names) {
             if (names)
                 Q_EMIT named(*names);

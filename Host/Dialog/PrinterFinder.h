@@ -5,8 +5,6 @@
 
 #include "Cups/Queues.h"
 
-#include <QTimer>
-
 namespace host {
 
 class PrinterFinder : public QObject
@@ -31,7 +29,6 @@ private:
 
     BackgroundWork m_search;
     BackgroundWork m_naming;
-    QTimer m_patience;
     int m_request = 0; // number of the latest search; answers to earlier ones are dropped
 };
 

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace host {
@@ -47,11 +49,13 @@ bool copyAll(QFile &from, QFile &to)
 
 } // namespace
 
+/// The copy has no name that could be left behind.
 Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
 {
     auto copy = std::make_unique<QTemporaryFile>(); // readable by its owner only
     QFile input;
-    if (!copy->open() || !input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, *copy))
+    if (!copy->open() || ::unlink(QFile::encodeName(copy->fileName()).constData()) != 0 ||
+        !input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, *copy))
         return Problem{tr("standard input: %1").arg(copy->errorString())};
     return std::unique_ptr<QFile>(std::move(copy));
 }
@@ -63,18 +67,31 @@ Or<std::shared_ptr<Document>> Document::open(const QString &path)
     if (!file)
         return file.problem();
     const QString title = isStandardInput ? tr("standard input") : QFileInfo(path).fileName();
-    std::shared_ptr<Document> document(new Document(title, *std::move(file)));
+    return checked(std::shared_ptr<Document>(new Document(title, *std::move(file))));
+}
+
+Or<std::shared_ptr<Document>> Document::received(int descriptor)
+{
+    auto file = std::make_unique<QFile>();
+    if (descriptor < 0 || !file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return Problem{tr("the document can't be read any more")};
+    return checked(std::shared_ptr<Document>(new Document(tr("the document"), std::move(file))));
+}
+
+Or<std::shared_ptr<Document>> Document::checked(std::shared_ptr<Document> document)
+{
+    document->rewind();
     if (document->size() == 0)
-        return Problem{tr("%1: the document is empty").arg(title)};
+        return Problem{tr("%1: the document is empty").arg(document->title())};
     if (!document->recognise())
-        return Problem{tr("%1: neither a PDF nor an image nor a text").arg(title)};
+        return Problem{tr("%1: neither a PDF nor an image nor a text").arg(document->title())};
+    document->rewind();
     return document;
 }
 
 bool Document::recognise()
 {
-    const QByteArray sample = m_file->read(kSniffBytes);
-    rewind();
+    const QByteArray sample = part(kSniffBytes);
     const auto *format = std::ranges::find_if(kFormats, [&](const Format &f) { return sample.startsWith(f.magic); });
     if (format == kFormats.end() && sample.contains('\0'))
         return false;
@@ -84,10 +101,38 @@ bool Document::recognise()
     return true;
 }
 
+Document::Fingerprint Document::fingerprint() const
+{
+    struct stat status = {};
+    ::fstat(descriptor(), &status);
+    return {status.st_size, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+void Document::rewind()
+{
+    m_position = 0;
+    m_rewound = fingerprint();
+}
+
+bool Document::hasChanged() const { return fingerprint() != m_rewound; }
+
+QByteArray Document::part(qint64 bytes)
+{
+    QByteArray content(bytes, Qt::Uninitialized);
+    ssize_t count = -1;
+    do
+        count = ::pread(descriptor(), content.data(), static_cast<std::size_t>(bytes), m_position);
+    while (count < 0 && errno == EINTR);
+    m_isReadable = count >= 0;
+    content.truncate(qMax<ssize_t>(count, 0));
+    m_position += content.size();
+    return content;
+}
+
 std::optional<QByteArray> Document::read()
 {
-    const QByteArray part = m_file->read(kChunkBytes);
-    return part.isEmpty() && m_file->error() != QFileDevice::NoError ? std::nullopt : std::optional(part);
+    QByteArray content = part(kChunkBytes);
+    return m_isReadable ? std::optional(std::move(content)) : std::nullopt;
 }
 
 } // namespace host

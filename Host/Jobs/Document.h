@@ -20,6 +20,9 @@ public:
     /// A problem when it can't be printed.
     static foundation::Or<std::shared_ptr<Document>> open(const QString &path);
 
+    /// The document of another process that has opened it; the descriptor becomes ours.
+    static foundation::Or<std::shared_ptr<Document>> received(int descriptor);
+
     /// The file's name without its folder; "standard input" for that.
     const QString &title() const { return m_title; }
     /// MIME type, told by the content.
@@ -27,22 +30,42 @@ public:
     /// Of file names of this format: "pdf", "png", "txt" ...
     const QString &extension() const { return m_extension; }
     qint64 size() const { return m_file->size(); }
+    /// For another process; stays the document's.
+    int descriptor() const { return m_file->handle(); }
 
+    /// Back to the beginning.
+    void rewind();
     /// The next part of the content; empty at the end, nil when it can't be read.
     std::optional<QByteArray> read();
-    /// Back to the beginning.
-    void rewind() { m_file->seek(0); }
+    /// Whether the file is another than when it was last rewound: what has been read then is neither the one nor the
+    /// other.
+    bool hasChanged() const;
 
 private:
     Document(QString title, std::unique_ptr<QFile> file)
         : m_title(std::move(title))
         , m_file(std::move(file))
     {}
+    /// What a change of the file changes.
+    struct Fingerprint
+    {
+        qint64 size = 0;
+        qint64 seconds = 0; // of its last change
+        qint64 nanoseconds = 0;
+        bool operator==(const Fingerprint &) const = default;
+    };
+
+    static foundation::Or<std::shared_ptr<Document>> checked(std::shared_ptr<Document> document);
     static foundation::Or<std::unique_ptr<QFile>> copyOfStandardInput();
     bool recognise();
+    Fingerprint fingerprint() const;
+    QByteArray part(qint64 bytes);
 
     QString m_title;
     std::unique_ptr<QFile> m_file;
+    qint64 m_position = 0; // our own: whoever shares the descriptor shares its position
+    bool m_isReadable = true;
+    Fingerprint m_rewound;
     QByteArray m_format;
     QString m_extension;
 };

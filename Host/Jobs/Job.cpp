@@ -15,6 +15,8 @@ Or<void> streamDocument(Document &document, const JobProgress &progress, const s
         const auto part = document.read();
         if (!part)
             return Problem{JobSink::tr("%1: can't be read any more").arg(document.title())};
+        if (part->isEmpty() && (done == 0 || document.hasChanged()))
+            return Problem{JobSink::tr("%1: has changed while it was printed").arg(document.title())};
         if (part->isEmpty())
             return {};
         if (auto written = write(*part); !written)

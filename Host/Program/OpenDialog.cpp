@@ -1,6 +1,7 @@
 // The window from the command line, and its picture.
 #include "OpenDialog.h"
 
+#include "Cups/Conversation.h"
 #include "Window/DialogWindow.h"
 #include "Window/WindowTexts.h"
 
@@ -52,6 +53,7 @@ int openDialog(const CommandLine &line)
         return kWrongUse;
     }
     useWindowTexts(line.request.language);
+    setConversationLanguage(line.request.language);
     std::shared_ptr<Document> document;
     if (!line.files.isEmpty()) {
         auto opened = Document::open(line.files.first());

@@ -2,12 +2,14 @@
 #include "OpenDialog.h"
 #include "QnVersion.h"
 
-#include "Dialog/BackgroundWork.h"
+#include "Cups/Conversation.h"
 #include "Script/Script.h"
+#include "Server/Answering.h"
+#include "Window/WindowTexts.h"
 
 #include <QApplication>
 
-#include <cstdlib>
+#include <algorithm>
 #include <iostream>
 
 namespace {
@@ -61,6 +63,18 @@ int run(Face face, QStringList arguments)
     return face == Face::batch ? host::printWithoutWindow(*line) : host::openDialog(*line);
 }
 
+/// Told before the line is read, and then in part only: what is started for nothing does no harm.
+bool mayUsePPDFile(const QStringList &arguments)
+{
+    return std::ranges::any_of(arguments, [](const QString &argument) { return argument.startsWith("--ppd"); });
+}
+
+[[noreturn]] void talkWithServer(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv); // for translations
+    host::answerConversation(host::useWindowTexts);
+}
+
 int runApplication(Face face, int argc, char *argv[])
 {
     QApplication application(argc, argv);
@@ -76,7 +90,10 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName("qnprint");
     QCoreApplication::setApplicationVersion(QN_VERSION);
 
-    const Face face = host::faceOf(rawArguments(argc, argv));
+    if (argc == 2 && qstrcmp(argv[1], host::kConversation) == 0)
+        talkWithServer(argc, argv);
+    const QStringList arguments = rawArguments(argc, argv);
+    const Face face = host::faceOf(arguments);
     if (face == Face::version)
         return tell("qnprint " QN_VERSION "\n");
     if (face == Face::help) {
@@ -85,9 +102,7 @@ int main(int argc, char *argv[])
     }
     if (face != Face::window)
         doWithoutDisplay();
-    const int status = runApplication(face, argc, argv);
-    // Nobody waits for a question that the server may take its time to answer, and nothing is cleaned up beneath it.
-    if (host::BackgroundWork::isAbandonedWorkRunning())
-        std::quick_exit(status);
-    return status;
+    if ((face == Face::window || face == Face::batch) && !mayUsePPDFile(arguments))
+        host::prepareConversation(); // starts while the application does
+    return runApplication(face, argc, argv);
 }

@@ -14,8 +14,9 @@ struct Problem
 {
     enum class Kind {
         failed,
-        notFound, // the server knows no such thing
-        outdated, // the printer is another than the settings were made for; nothing was done
+        notFound,   // the server knows no such thing
+        outdated,   // the printer is another than the settings were made for; nothing was done
+        unanswered, // the server was asked and has not answered: it may have been done
     };
 
     QString sentence;

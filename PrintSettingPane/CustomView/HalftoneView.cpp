@@ -6,8 +6,6 @@
 #include <QApplication>
 #include <QPainter>
 
-#include <algorithm>
-
 namespace {
 
 /// In the order of the group's rows.
@@ -55,8 +53,10 @@ void HalftoneView_v100_::setHlftnMatrix(const toolkit::RadioMatrix &matrix)
 QString HalftoneView_v100_::picture() const
 {
     const QPixmap *const image = targetDrawImage();
-    const auto found = std::ranges::find_if(mHalfoneImg, [image](const QPixmap &each) { return &each == image; });
-    return image ? kPictures[static_cast<std::size_t>(found - mHalfoneImg.begin())] : QString();
+    for (std::size_t i = 0; i < mHalfoneImg.size(); ++i)
+        if (&mHalfoneImg[i] == image)
+            return kPictures[i];
+    return {};
 }
 
 void HalftoneView_v100_::setNeedsDisplay()

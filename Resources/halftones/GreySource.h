@@ -14,7 +14,10 @@ struct GreyImage
 
     std::array<std::uint8_t, count> levels{};
 
-    static constexpr std::size_t index(int x, int y) { return static_cast<std::size_t>(y * side + x); }
+    static constexpr std::size_t index(int x, int y)
+    {
+        return static_cast<std::size_t>(y) * side + static_cast<std::size_t>(x);
+    }
     std::uint8_t &at(int x, int y) { return levels[index(x, y)]; }
     std::uint8_t at(int x, int y) const { return levels[index(x, y)]; }
 };

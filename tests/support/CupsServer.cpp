@@ -1,6 +1,8 @@
 // A CUPS server of the test's own.
 #include "CupsServer.h"
 
+#include "Cups/Conversation.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -235,6 +237,7 @@ void CupsServer::adoptEnvironment() const
     const QProcessEnvironment all = environment();
     for (const char *name : {"CUPS_SERVER", "CUPS_SERVERROOT", "HOME", "TMPDIR", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"})
         qputenv(name, all.value(name).toUtf8());
+    host::setConversationProgram(QN_PROGRAM);
 }
 
 QProcessEnvironment CupsServer::environment() const

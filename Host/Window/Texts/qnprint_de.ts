@@ -24,22 +24,37 @@
     </message>
 </context>
 <context>
+    <name>host::Conversation</name>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>der CUPS-Server antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s answer can&apos;t be read</source>
+        <translation>die Antwort des CUPS-Servers kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>no process can be started: %1</source>
+        <translation>es kann kein Prozess gestartet werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::CupsSink</name>
     <message>
         <source>stopped</source>
         <translation>angehalten</translation>
     </message>
     <message>
-        <source>no such queue</source>
-        <translation>keine solche Warteschlange</translation>
-    </message>
-    <message>
-        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
-        <translation>%1: Die Beschreibung des Druckers hat sich inzwischen geändert; nichts wurde gedruckt</translation>
-    </message>
-    <message>
         <source>%1; job %2-%3 may still be there, so look before you print again</source>
         <translation>%1; der Auftrag %2-%3 ist vielleicht noch da, sehen Sie nach, bevor Sie erneut drucken</translation>
+    </message>
+    <message>
+        <source>%1; a job may be there, so look before you print again</source>
+        <translation>%1; vielleicht ist ein Auftrag entstanden, also sehen Sie nach, bevor Sie erneut drucken</translation>
     </message>
 </context>
 <context>
@@ -162,6 +177,14 @@
         <source>%1: neither a PDF nor an image nor a text</source>
         <translation>%1: weder PDF noch Bild noch Text</translation>
     </message>
+    <message>
+        <source>the document can&apos;t be read any more</source>
+        <translation>das Dokument kann nicht mehr gelesen werden</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>das Dokument</translation>
+    </message>
 </context>
 <context>
     <name>host::FolderSink</name>
@@ -187,6 +210,10 @@
     <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1: kann nicht mehr gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was printed</source>
+        <translation>%1: hat sich während des Druckens geändert</translation>
     </message>
 </context>
 <context>
@@ -280,13 +307,6 @@
     </message>
 </context>
 <context>
-    <name>host::PrinterFinder</name>
-    <message>
-        <source>The CUPS server does not answer.</source>
-        <translation>Der CUPS-Server antwortet nicht.</translation>
-    </message>
-</context>
-<context>
     <name>host::Remarks</name>
     <message>
         <source>%1 instead of “%2”, to go with %3.</source>
@@ -349,6 +369,38 @@
     <message>
         <source>the CUPS server does not answer</source>
         <translation>der CUPS-Server antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the PPD on the server can&apos;t be used: %1</source>
+        <translation>die PPD auf dem Server ist nicht verwendbar: %1</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>keine solche Warteschlange</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>Die Beschreibung des Druckers hat sich inzwischen geändert; nichts wurde gedruckt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>the CUPS server refuses it (%1)</source>
+        <translation>der CUPS-Server lehnt es ab (%1)</translation>
+    </message>
+    <message>
+        <source>the CUPS server gave no proper answer</source>
+        <translation>der CUPS-Server hat keine richtige Antwort gegeben</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s file is too large</source>
+        <translation>die Datei des CUPS-Servers ist zu groß</translation>
+    </message>
+    <message>
+        <source>the connection to the CUPS server broke</source>
+        <translation>die Verbindung zum CUPS-Server ist abgebrochen</translation>
     </message>
 </context>
 <context>

@@ -24,22 +24,37 @@
     </message>
 </context>
 <context>
+    <name>host::Conversation</name>
+    <message>
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>el servidor CUPS no responde</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s answer can&apos;t be read</source>
+        <translation>no se puede leer la respuesta del servidor CUPS</translation>
+    </message>
+    <message>
+        <source>no process can be started: %1</source>
+        <translation>no se puede iniciar ningún proceso: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::CupsSink</name>
     <message>
         <source>stopped</source>
         <translation>detenido</translation>
     </message>
     <message>
-        <source>no such queue</source>
-        <translation>no existe esa cola</translation>
-    </message>
-    <message>
-        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
-        <translation>%1: la descripción de la impresora ha cambiado mientras tanto; no se imprimió nada</translation>
-    </message>
-    <message>
         <source>%1; job %2-%3 may still be there, so look before you print again</source>
         <translation>%1; el trabajo %2-%3 puede seguir ahí, compruébelo antes de volver a imprimir</translation>
+    </message>
+    <message>
+        <source>%1; a job may be there, so look before you print again</source>
+        <translation>%1; es posible que haya un trabajo, compruébelo antes de volver a imprimir</translation>
     </message>
 </context>
 <context>
@@ -162,6 +177,14 @@
         <source>%1: neither a PDF nor an image nor a text</source>
         <translation>%1: no es un PDF, ni una imagen, ni un texto</translation>
     </message>
+    <message>
+        <source>the document can&apos;t be read any more</source>
+        <translation>ya no se puede leer el documento</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>el documento</translation>
+    </message>
 </context>
 <context>
     <name>host::FolderSink</name>
@@ -187,6 +210,10 @@
     <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1: ya no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was printed</source>
+        <translation>%1: ha cambiado mientras se imprimía</translation>
     </message>
 </context>
 <context>
@@ -280,13 +307,6 @@
     </message>
 </context>
 <context>
-    <name>host::PrinterFinder</name>
-    <message>
-        <source>The CUPS server does not answer.</source>
-        <translation>El servidor CUPS no responde.</translation>
-    </message>
-</context>
-<context>
     <name>host::Remarks</name>
     <message>
         <source>%1 instead of “%2”, to go with %3.</source>
@@ -349,6 +369,38 @@
     <message>
         <source>the CUPS server does not answer</source>
         <translation>el servidor CUPS no responde</translation>
+    </message>
+    <message>
+        <source>the PPD on the server can&apos;t be used: %1</source>
+        <translation>no se puede usar el PPD del servidor: %1</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>no existe esa cola</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>la descripción de la impresora ha cambiado mientras tanto; no se ha impreso nada</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message>
+        <source>the CUPS server refuses it (%1)</source>
+        <translation>el servidor CUPS lo rechaza (%1)</translation>
+    </message>
+    <message>
+        <source>the CUPS server gave no proper answer</source>
+        <translation>el servidor CUPS no ha dado una respuesta correcta</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s file is too large</source>
+        <translation>el archivo del servidor CUPS es demasiado grande</translation>
+    </message>
+    <message>
+        <source>the connection to the CUPS server broke</source>
+        <translation>se ha interrumpido la conexión con el servidor CUPS</translation>
     </message>
 </context>
 <context>

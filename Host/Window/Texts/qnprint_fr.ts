@@ -24,22 +24,37 @@
     </message>
 </context>
 <context>
+    <name>host::Conversation</name>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>le serveur CUPS ne répond pas</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s answer can&apos;t be read</source>
+        <translation>la réponse du serveur CUPS est illisible</translation>
+    </message>
+    <message>
+        <source>no process can be started: %1</source>
+        <translation>aucun processus ne peut être lancé : %1</translation>
+    </message>
+</context>
+<context>
     <name>host::CupsSink</name>
     <message>
         <source>stopped</source>
         <translation>arrêté</translation>
     </message>
     <message>
-        <source>no such queue</source>
-        <translation>file d’impression inconnue</translation>
-    </message>
-    <message>
-        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
-        <translation>%1 : la description de l’imprimante a changé entre-temps ; rien n’a été imprimé</translation>
-    </message>
-    <message>
         <source>%1; job %2-%3 may still be there, so look before you print again</source>
         <translation>%1 ; la tâche %2-%3 existe peut-être encore, vérifiez avant de réimprimer</translation>
+    </message>
+    <message>
+        <source>%1; a job may be there, so look before you print again</source>
+        <translation>%1 ; une tâche existe peut-être, vérifiez avant d’imprimer à nouveau</translation>
     </message>
 </context>
 <context>
@@ -162,6 +177,14 @@
         <source>%1: neither a PDF nor an image nor a text</source>
         <translation>%1 : ni PDF, ni image, ni texte</translation>
     </message>
+    <message>
+        <source>the document can&apos;t be read any more</source>
+        <translation>le document n’est plus lisible</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>le document</translation>
+    </message>
 </context>
 <context>
     <name>host::FolderSink</name>
@@ -187,6 +210,10 @@
     <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1 : ne peut plus être lu</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was printed</source>
+        <translation>%1 : a changé pendant l’impression</translation>
     </message>
 </context>
 <context>
@@ -280,13 +307,6 @@
     </message>
 </context>
 <context>
-    <name>host::PrinterFinder</name>
-    <message>
-        <source>The CUPS server does not answer.</source>
-        <translation>Le serveur CUPS ne répond pas.</translation>
-    </message>
-</context>
-<context>
     <name>host::Remarks</name>
     <message>
         <source>%1 instead of “%2”, to go with %3.</source>
@@ -349,6 +369,38 @@
     <message>
         <source>the CUPS server does not answer</source>
         <translation>le serveur CUPS ne répond pas</translation>
+    </message>
+    <message>
+        <source>the PPD on the server can&apos;t be used: %1</source>
+        <translation>le fichier PPD du serveur est inutilisable : %1</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>file d’impression inconnue</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>la description de l’imprimante a changé entre-temps ; rien n’a été imprimé</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>the CUPS server refuses it (%1)</source>
+        <translation>le serveur CUPS refuse (%1)</translation>
+    </message>
+    <message>
+        <source>the CUPS server gave no proper answer</source>
+        <translation>le serveur CUPS n’a pas donné de réponse correcte</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s file is too large</source>
+        <translation>le fichier du serveur CUPS est trop volumineux</translation>
+    </message>
+    <message>
+        <source>the connection to the CUPS server broke</source>
+        <translation>la connexion au serveur CUPS a été interrompue</translation>
     </message>
 </context>
 <context>

@@ -24,22 +24,37 @@
     </message>
 </context>
 <context>
+    <name>host::Conversation</name>
+    <message>
+        <source>stopped</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>CUPS サーバーが応答しません</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s answer can&apos;t be read</source>
+        <translation>CUPS サーバーの応答を読み取れません</translation>
+    </message>
+    <message>
+        <source>no process can be started: %1</source>
+        <translation>プロセスを開始できません: %1</translation>
+    </message>
+</context>
+<context>
     <name>host::CupsSink</name>
     <message>
         <source>stopped</source>
         <translation>中止しました</translation>
     </message>
     <message>
-        <source>no such queue</source>
-        <translation>キューがありません</translation>
-    </message>
-    <message>
-        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
-        <translation>%1：プリンターの記述が変わったため、印刷しませんでした</translation>
-    </message>
-    <message>
         <source>%1; job %2-%3 may still be there, so look before you print again</source>
         <translation>%1。ジョブ %2-%3 が残っているかもしれません。もう一度印刷する前に確かめてください</translation>
+    </message>
+    <message>
+        <source>%1; a job may be there, so look before you print again</source>
+        <translation>%1。ジョブが残っている可能性があります。もう一度印刷する前に確認してください</translation>
     </message>
 </context>
 <context>
@@ -162,6 +177,14 @@
         <source>%1: neither a PDF nor an image nor a text</source>
         <translation>%1: PDF でも画像でもテキストでもありません</translation>
     </message>
+    <message>
+        <source>the document can&apos;t be read any more</source>
+        <translation>文書を読み取れなくなりました</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>文書</translation>
+    </message>
 </context>
 <context>
     <name>host::FolderSink</name>
@@ -187,6 +210,10 @@
     <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1：もう読み込めません</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was printed</source>
+        <translation>%1：印刷中に変更されました</translation>
     </message>
 </context>
 <context>
@@ -280,13 +307,6 @@
     </message>
 </context>
 <context>
-    <name>host::PrinterFinder</name>
-    <message>
-        <source>The CUPS server does not answer.</source>
-        <translation>CUPS サーバーが応答しません。</translation>
-    </message>
-</context>
-<context>
     <name>host::Remarks</name>
     <message>
         <source>%1 instead of “%2”, to go with %3.</source>
@@ -349,6 +369,38 @@
     <message>
         <source>the CUPS server does not answer</source>
         <translation>CUPS サーバーが応答しません</translation>
+    </message>
+    <message>
+        <source>the PPD on the server can&apos;t be used: %1</source>
+        <translation>サーバーの PPD を使用できません: %1</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>キューがありません</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>プリンターの記述が変更されました。何も印刷されていません</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>中止しました</translation>
+    </message>
+    <message>
+        <source>the CUPS server refuses it (%1)</source>
+        <translation>CUPS サーバーが拒否しました（%1）</translation>
+    </message>
+    <message>
+        <source>the CUPS server gave no proper answer</source>
+        <translation>CUPS サーバーから正しい応答がありません</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s file is too large</source>
+        <translation>CUPS サーバーのファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>the connection to the CUPS server broke</source>
+        <translation>CUPS サーバーとの接続が切れました</translation>
     </message>
 </context>
 <context>

@@ -24,22 +24,37 @@
     </message>
 </context>
 <context>
+    <name>host::Conversation</name>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not answer</source>
+        <translation>CUPS 服务器没有响应</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s answer can&apos;t be read</source>
+        <translation>无法读取 CUPS 服务器的应答</translation>
+    </message>
+    <message>
+        <source>no process can be started: %1</source>
+        <translation>无法启动进程：%1</translation>
+    </message>
+</context>
+<context>
     <name>host::CupsSink</name>
     <message>
         <source>stopped</source>
         <translation>已停止</translation>
     </message>
     <message>
-        <source>no such queue</source>
-        <translation>没有此队列</translation>
-    </message>
-    <message>
-        <source>%1: the printer&apos;s description has changed meanwhile; nothing was printed</source>
-        <translation>%1：打印机描述已更改，未打印任何内容</translation>
-    </message>
-    <message>
         <source>%1; job %2-%3 may still be there, so look before you print again</source>
         <translation>%1；作业 %2-%3 可能仍在，再次打印前请先查看</translation>
+    </message>
+    <message>
+        <source>%1; a job may be there, so look before you print again</source>
+        <translation>%1；可能已有作业，请在重新打印前查看</translation>
     </message>
 </context>
 <context>
@@ -162,6 +177,14 @@
         <source>%1: neither a PDF nor an image nor a text</source>
         <translation>%1：既不是 PDF，也不是图像或文本</translation>
     </message>
+    <message>
+        <source>the document can&apos;t be read any more</source>
+        <translation>无法再读取文档</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>文档</translation>
+    </message>
 </context>
 <context>
     <name>host::FolderSink</name>
@@ -187,6 +210,10 @@
     <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1：无法再读取</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was printed</source>
+        <translation>%1：在打印过程中已更改</translation>
     </message>
 </context>
 <context>
@@ -280,13 +307,6 @@
     </message>
 </context>
 <context>
-    <name>host::PrinterFinder</name>
-    <message>
-        <source>The CUPS server does not answer.</source>
-        <translation>CUPS 服务器没有响应。</translation>
-    </message>
-</context>
-<context>
     <name>host::Remarks</name>
     <message>
         <source>%1 instead of “%2”, to go with %3.</source>
@@ -349,6 +369,38 @@
     <message>
         <source>the CUPS server does not answer</source>
         <translation>CUPS 服务器没有响应</translation>
+    </message>
+    <message>
+        <source>the PPD on the server can&apos;t be used: %1</source>
+        <translation>无法使用服务器上的 PPD：%1</translation>
+    </message>
+    <message>
+        <source>no such queue</source>
+        <translation>没有此队列</translation>
+    </message>
+    <message>
+        <source>the printer&apos;s description has changed meanwhile; nothing was printed</source>
+        <translation>打印机描述已更改；未打印任何内容</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>the CUPS server refuses it (%1)</source>
+        <translation>CUPS 服务器拒绝（%1）</translation>
+    </message>
+    <message>
+        <source>the CUPS server gave no proper answer</source>
+        <translation>CUPS 服务器未给出正确的应答</translation>
+    </message>
+    <message>
+        <source>the CUPS server&apos;s file is too large</source>
+        <translation>CUPS 服务器的文件过大</translation>
+    </message>
+    <message>
+        <source>the connection to the CUPS server broke</source>
+        <translation>与 CUPS 服务器的连接已中断</translation>
     </message>
 </context>
 <context>

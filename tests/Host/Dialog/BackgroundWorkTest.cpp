@@ -1,4 +1,4 @@
-// Work that the thread of the dialog does not wait for, unless it must.
+// Work that the thread of the dialog does not wait for.
 #include "Dialog/BackgroundWork.h"
 
 #include "Print.h"
@@ -18,8 +18,6 @@ namespace {
 
 constexpr int kMilliseconds = 10000;
 
-using AtEnd = BackgroundWork::AtEnd;
-
 /// Until it is asked to stop.
 int waitForStop(const std::stop_token &stop)
 {
@@ -34,7 +32,7 @@ TEST(Background, AnswersOnTheThreadOfTheReceiver)
     int answer = 0;
     const QThread *where = nullptr;
     const BackgroundWork work(
-        AtEnd::wait, receiver, [](const std::stop_token &) { return 42; },
+        receiver, [](const std::stop_token &) { return 42; },
         [&](int result) {
             answer = result;
             where = QThread::currentThread();
@@ -51,7 +49,7 @@ TEST(Background, AnswersNobodyWhenTheReceiverIsGone)
     auto receiver = std::make_unique<QObject>();
     {
         const BackgroundWork work(
-            AtEnd::wait, *receiver,
+            *receiver,
             [&](const std::stop_token &) {
                 isDone = true;
                 return 0;
@@ -64,33 +62,15 @@ TEST(Background, AnswersNobodyWhenTheReceiverIsGone)
     EXPECT_FALSE(isAnswered);
 }
 
-TEST(Background, IsStoppedAndWaitedForWhereItMustNotBeLeftHalfDone)
+TEST(Background, IsStoppedAndWaitedFor)
 {
     QObject receiver;
     bool isAnswered = false;
     {
-        const BackgroundWork work(AtEnd::wait, receiver, waitForStop, [&](int) { isAnswered = true; });
+        const BackgroundWork work(receiver, waitForStop, [&](int) { isAnswered = true; });
     }
-    EXPECT_FALSE(BackgroundWork::isAbandonedWorkRunning());
     QCoreApplication::processEvents();
     EXPECT_TRUE(isAnswered);
-}
-
-TEST(Background, IsNotWaitedForWhereNobodyNeedsIt)
-{
-    QObject receiver;
-    std::atomic<bool> mayEnd = false;
-    const auto workUntilItMayEnd = [&](const std::stop_token &) {
-        while (!mayEnd)
-            QThread::msleep(1);
-        return 0;
-    };
-    {
-        const BackgroundWork work(AtEnd::abandon, receiver, workUntilItMayEnd, [](int) {});
-    }
-    EXPECT_TRUE(BackgroundWork::isAbandonedWorkRunning()); // and we are here all the same
-    mayEnd = true;
-    EXPECT_TRUE(QTest::qWaitFor([] { return !BackgroundWork::isAbandonedWorkRunning(); }, kMilliseconds));
 }
 
 TEST(Background, TakesThePlaceOfEarlierWorkWhichIsStopped)
@@ -98,8 +78,8 @@ TEST(Background, TakesThePlaceOfEarlierWorkWhichIsStopped)
     QObject receiver;
     QList<int> answers;
     const auto note = [&](int answer) { answers.append(answer); };
-    BackgroundWork work(AtEnd::wait, receiver, waitForStop, note);
-    work = BackgroundWork(AtEnd::wait, receiver, [](const std::stop_token &) { return 2; }, note);
+    BackgroundWork work(receiver, waitForStop, note);
+    work = BackgroundWork(receiver, [](const std::stop_token &) { return 2; }, note);
     ASSERT_TRUE(QTest::qWaitFor([&] { return answers.size() == 2; }, kMilliseconds));
     std::ranges::sort(answers); // the later work may well be done first
     EXPECT_EQ(answers, QList<int>({1, 2}));

@@ -56,7 +56,7 @@ protected:
     }
     std::unique_ptr<PrintTarget> printer(const QString &name)
     {
-        auto target = value(targetOfQueue({}, {name, {}, {}, CachedPPD{m_ppd, 0, {}, nullptr}, {}, {}}));
+        auto target = value(targetOfQueue({}, {name, {}, {}, CachedPPD{m_ppd, 0, {}}, {}, {}}));
         target->setSink(m_sink);
         return target;
     }

@@ -30,7 +30,7 @@ protected:
         qputenv("CUPS_SERVERROOT", m_directory.path().toUtf8());
         setUp(m_directory.filePath("defaults.ini"));
         makeDialog({});
-        const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}, nullptr};
+        const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}};
         auto printer = support::value(targetOfQueue({}, {"Test", {}, {}, ppd, {}, {}}));
         printer->setSink(std::make_shared<FolderSink>(m_out));
         m_dialog->use(std::move(printer));

@@ -322,6 +322,7 @@ TEST_F(QueueWindow, OffersGeneralSettingsForAQueueWithoutAPPD)
     find<QSpinBox>()->setValue(2);
     EXPECT_TRUE(print());
     EXPECT_TRUE(waitFor([this] { return m_server.openJobs().isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return printers()->findText("counter") >= 0; }));
     choose(*printers(), "counter"); // and back to one that has panels
     ASSERT_TRUE(waitFor([this] { return find<QTabBar>()->count() == 2; }));
 }

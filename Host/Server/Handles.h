@@ -16,6 +16,7 @@ struct GiveBack
 inline void freeOneDestination(cups_dest_t *destination) { cupsFreeDests(1, destination); }
 
 using HttpConnection = std::unique_ptr<http_t, GiveBack<httpClose>>;
+using Response = std::unique_ptr<ipp_t, GiveBack<ippDelete>>;
 using Destination = std::unique_ptr<cups_dest_t, GiveBack<freeOneDestination>>;
 using DestinationInfo = std::unique_ptr<cups_dinfo_t, GiveBack<cupsFreeDestInfo>>;
 

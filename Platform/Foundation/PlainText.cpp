@@ -1,0 +1,39 @@
+// Text that comes from outside.
+#include "PlainText.h"
+
+#include <algorithm>
+
+namespace foundation {
+
+namespace {
+
+constexpr qsizetype kLongestLine = 300;
+
+bool isHarmful(QChar character)
+{
+    switch (character.category()) {
+    case QChar::Other_Control:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph: return true;
+    case QChar::Other_Format: // of these, joiners belong to the spelling of several languages
+        return character != QChar(0x200c) && character != QChar(0x200d) && character != QChar(QChar::SoftHyphen);
+    default: return false;
+    }
+}
+
+} // namespace
+
+QString plainLine(const QString &text)
+{
+    QString line = text.left(2 * kLongestLine);
+    std::ranges::replace_if(line, isHarmful, QChar(' '));
+    line = line.simplified();
+    if (line.size() <= kLongestLine)
+        return line;
+    line.truncate(kLongestLine - 1);
+    if (line.back().isHighSurrogate())
+        line.chop(1);
+    return line + QChar(0x2026);
+}
+
+} // namespace foundation

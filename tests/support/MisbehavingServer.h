@@ -1,0 +1,76 @@
+// A CUPS server that answers well, but for some questions to which it does something else. On loopback, and gone with
+// the test.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace support {
+
+class MisbehavingServer
+{
+public:
+    /// The questions that a job asks, in their order.
+    enum class Step { standard, attributes, ppd, create, send, cancel, none };
+
+    /// What it does instead of answering.
+    enum class Mode {
+        rubbishInTheAnswer,
+        rubbish,
+        halfAnAnswer,
+        close,
+        tooShortALength,
+        hugeLength,
+        negativeLength,
+        silence,
+        drip,
+        endlessDrip,
+        endlessHeaders,
+        endlessLine,
+        endlessContinue,
+        endlessAnswer,
+        endlessBody,
+        nesting,
+        redirect,
+        password,
+        upgrade,
+        error,
+        refusal, // with words that would do harm on a terminal
+    };
+
+    explicit MisbehavingServer(QMap<Step, Mode> faults);
+    ~MisbehavingServer();
+    MisbehavingServer(const MisbehavingServer &) = delete;
+    MisbehavingServer &operator=(const MisbehavingServer &) = delete;
+
+    /// Makes it the server of this process, once and for good; files of the user go into a folder of its own.
+    void adoptEnvironment() const;
+    /// The environment in which programs find this server and no other.
+    QProcessEnvironment environment() const;
+    /// What was asked, in its order.
+    QList<Step> asked() const;
+    bool wasAsked(Step step) const { return asked().contains(step); }
+
+private:
+    void listen(const std::stop_token &stop);
+    void serve(int connection);
+
+    QMap<Step, Mode> m_faults;
+    QTemporaryDir m_folder;
+    int m_socket = -1;
+    int m_port = 0;
+    mutable std::mutex m_mutex;
+    QList<Step> m_asked;
+    std::vector<int> m_connections;
+    std::vector<std::jthread> m_threads;
+    std::jthread m_listener;
+};
+
+} // namespace support
