@@ -47,7 +47,7 @@ struct CachedPPD
     std::time_t asOf = 0;                       // when the server last confirmed this PPD
     QByteArray digest;                          // of the content
     bool isTemporary = false;                   // the file could not be kept, and goes
-    std::shared_ptr<FileToRemove> removal = {}; // of a temporary file, by the dialog
+    std::shared_ptr<FileToRemove> removal = nullptr; // of a temporary file, by the dialog
 };
 
 struct Queue
