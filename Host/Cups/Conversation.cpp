@@ -31,7 +31,7 @@ using Clock = std::chrono::steady_clock;
 
 namespace {
 
-constexpr qsizetype kLongestLine = 32 * 1024 * 1024;
+constexpr qsizetype kLongestLine = qsizetype{32} * 1024 * 1024;
 
 struct ConversationTexts
 {

@@ -43,10 +43,10 @@ private:
 /// A queue's PPD on this machine.
 struct CachedPPD
 {
-    QString path;                               // of a file that only its owner can read
-    std::time_t asOf = 0;                       // when the server last confirmed this PPD
-    QByteArray digest;                          // of the content
-    bool isTemporary = false;                   // the file could not be kept, and goes
+    QString path;                                    // of a file that only its owner can read
+    std::time_t asOf = 0;                            // when the server last confirmed this PPD
+    QByteArray digest;                               // of the content
+    bool isTemporary = false;                        // the file could not be kept, and goes
     std::shared_ptr<FileToRemove> removal = nullptr; // of a temporary file, by the dialog
 };
 

@@ -1,13 +1,17 @@
 // What the user has saved for queues.
 #include "SavedOptions.h"
 
+#include "Foundation/RegularFile.h"
 #include "Printing/cups_api.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QRegularExpression>
-#include <QSaveFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <unistd.h>
 
 namespace host {
 
@@ -17,6 +21,7 @@ using foundation::Problem;
 namespace {
 
 constexpr int kMillisecondsToLock = 2000;
+constexpr auto kNewFile = ".qnprint-new"; // behind the name
 constexpr qsizetype kLongestName = 127;
 
 struct Line
@@ -89,6 +94,27 @@ std::optional<QByteArrayList> linesOf(const QString &path)
     return lines;
 }
 
+/// The old file stands until the new one is complete on disk. The new one has a name of its own, so that one that was
+/// left behind does not stay; the lock keeps others away from it.
+Or<void> replaceFile(const QString &path, const QByteArray &content)
+{
+    const QString target = QFileInfo::exists(path) ? QFileInfo(path).canonicalFilePath() : path; // behind a link
+    const auto access = QFileInfo::exists(target) ? QFile::permissions(target) : QFile::ReadOwner | QFile::WriteOwner;
+    QFile file(target + kNewFile);
+    file.remove();
+    const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner) &&
+                           file.write(content) == content.size() && file.flush() && ::fsync(file.handle()) == 0 &&
+                           file.setPermissions(access);
+    file.close();
+    if (isWritten &&
+        ::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(target).constData()) == 0)
+        return {};
+    const Problem problem{QString("%1: %2").arg(
+        path, file.error() == QFileDevice::NoError ? foundation::systemErrorText(errno) : file.errorString())};
+    file.remove();
+    return problem;
+}
+
 /// Every line about a queue, the system's first, as the user's count for more.
 std::vector<Line> linesAbout(const QString &queue)
 {
@@ -150,13 +176,12 @@ Or<void> SavedOptions::replace(const QString &preset, const OptionValues *option
     if (!lines)
         return Problem{tr("%1: can't be read").arg(path)};
 
-    QSaveFile file(path); // the old file stands until the new one is complete
-    file.open(QIODevice::WriteOnly);
+    QByteArray content;
     for (const QByteArray &line : replaced(*lines, preset, options))
-        file.write(line + '\n');
-    if (!file.commit())
-        return Problem{QString("%1: %2").arg(path, file.errorString())};
-    return {};
+        content += line + '\n';
+    if (content.count('\n') > lines->size() + 1) // more than one line for the preset
+        return Problem{tr("%1: can't hold a value with a line end").arg(path)};
+    return replaceFile(path, content);
 }
 
 /// The lines of the file with the preset's own replaced, or left out without options.

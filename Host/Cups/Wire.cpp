@@ -24,7 +24,7 @@ QJsonArray papersToJson(const std::vector<PaperEntry> &papers)
 std::vector<PaperEntry> papersFrom(const QJsonArray &array)
 {
     std::vector<PaperEntry> papers;
-    for (const QJsonValue &each : array)
+    for (const QJsonValue each : array)
         papers.push_back({each["name"].toString(), each["text"].toString(), sizeFrom(each["size"].toObject())});
     return papers;
 }

@@ -300,8 +300,10 @@ void PrintDialog::finish(const Or<QString> &sent)
 
 void PrintDialog::stop()
 {
-    if (m_state == State::sending)
-        m_job.requestStop();
+    if (m_state != State::sending)
+        return;
+    setMessage(tr("Stopping…"));
+    m_job.requestStop();
 }
 
 void PrintDialog::hold() { ++m_holds; }

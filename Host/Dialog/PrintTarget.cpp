@@ -44,7 +44,8 @@ Or<void> checkChoices(const OptionValues &asked, const PPDDocument &ppd, const Q
 {
     for (const auto &[keyword, value] : asked.asKeyValueRange()) {
         const OptionValues meant = withMediaAsPageSize({{keyword, value}});
-        if (ppd.hasOption(meant.firstKey()) && !ppd.accepts(meant.firstKey(), meant.first()))
+        if (canBeDriverOption(meant.firstKey()) && ppd.hasOption(meant.firstKey()) &&
+            !ppd.accepts(meant.firstKey(), meant.first()))
             return Problem{form.arg(keyword, value)};
     }
     return {};

@@ -12,6 +12,8 @@
 #include <QTemporaryFile>
 
 #include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace host {
@@ -23,7 +25,8 @@ using foundation::systemErrorText;
 namespace {
 
 constexpr int kMostNames = 10000;
-constexpr qsizetype kLongestBaseName = 100;
+constexpr qsizetype kLongestBaseName = 240; // in bytes; with a number and an extension, what file systems take
+constexpr qint64 kChunkBytes = 65536;
 
 /// A file under a temporary name in the folder, gone again unless it is given its final one.
 std::unique_ptr<QTemporaryFile> temporaryFile(const QString &folder)
@@ -34,12 +37,49 @@ std::unique_ptr<QTemporaryFile> temporaryFile(const QString &folder)
 
 bool complete(QTemporaryFile &file) { return file.flush() && ::fsync(file.handle()) == 0; }
 
-/// Gives the file its final name; 0, or the system's error number. A link, unlike a rename, never replaces another
-/// file, whoever else writes into the folder at the same time.
-int linkAs(const QTemporaryFile &file, const QString &path)
+bool copyAll(QTemporaryFile &from, QFile &to)
 {
-    const int result = ::link(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData());
-    return result == 0 ? 0 : errno;
+    from.seek(0);
+    for (;;) {
+        const QByteArray part = from.read(kChunkBytes);
+        if (part.isEmpty())
+            return from.error() == QFileDevice::NoError && to.flush() && ::fsync(to.handle()) == 0;
+        if (to.write(part) != part.size())
+            return false;
+    }
+}
+
+/// Where nothing else serves; whoever watches the folder may meet half of it.
+int copyAs(QTemporaryFile &file, const QString &path)
+{
+    QFile copy(path);
+    errno = 0;
+    if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner))
+        return errno == 0 ? EIO : errno;
+    if (copyAll(file, copy))
+        return 0;
+    const int error = errno == 0 ? EIO : errno;
+    copy.remove();
+    return error;
+}
+
+/// Gives the file its final name; 0, or the system's error number. None of the ways replaces another file, whoever else
+/// writes into the folder at the same time. A link is made of the open file, not of its temporary name, which somebody
+/// else may have given to another; file systems without links have no owners either, and a rename serves there.
+int nameIt(QTemporaryFile &file, const QString &path)
+{
+    const QByteArray open = "/proc/self/fd/" + QByteArray::number(file.handle());
+    const QByteArray final = QFile::encodeName(path);
+    if (::linkat(AT_FDCWD, open.constData(), AT_FDCWD, final.constData(), AT_SYMLINK_FOLLOW) == 0)
+        return 0;
+    if (errno == EEXIST)
+        return EEXIST;
+    const QByteArray temporary = QFile::encodeName(file.fileName());
+    if (::renameat2(AT_FDCWD, temporary.constData(), AT_FDCWD, final.constData(), RENAME_NOREPLACE) == 0) {
+        file.setAutoRemove(false); // the name is somebody else's now
+        return 0;
+    }
+    return errno == EEXIST ? EEXIST : copyAs(file, path);
 }
 
 QByteArray ticketText(const Job &job, const QString &documentName)
@@ -69,7 +109,10 @@ QString baseName(const QString &title)
     QString base = QFileInfo(title).completeBaseName().replace('/', '_');
     while (base.startsWith('.'))
         base.remove(0, 1);
-    return base.isEmpty() ? QString("document") : base.left(kLongestBaseName);
+    base.truncate(kLongestBaseName);
+    while (QFile::encodeName(base).size() > kLongestBaseName || (!base.isEmpty() && base.back().isHighSurrogate()))
+        base.chop(1);
+    return base.isEmpty() ? QString("document") : base;
 }
 
 Or<void> copyDocument(Document &document, QTemporaryFile &copy, const JobProgress &progress,
@@ -105,9 +148,9 @@ Or<QString> FolderSink::submit(const Job &job, const JobProgress &progress, std:
         const QString name = base + '.' + job.document->extension();
         if (!writeTicket(*ticket, ticketText(job, name)))
             return failed(ticket->errorString());
-        int error = linkAs(*copy, path(name));
+        int error = nameIt(*copy, path(name));
         if (error == 0) {
-            error = linkAs(*ticket, path(base + ".json"));
+            error = nameIt(*ticket, path(base + ".json"));
             if (error == 0)
                 return path(name);
             QFile::remove(path(name));

@@ -69,7 +69,8 @@ Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path)
     if (!file) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        return Problem{tr("%1: not a PPD file (line %2: %3)").arg(path).arg(line).arg(text(ppdErrorString(status)))};
+        return Problem{
+            tr("%1: not a PPD file (line %2: %3)").arg(path, QString::number(line), text(ppdErrorString(status)))};
     }
     return std::unique_ptr<PPDDocument>(new PPDDocument(std::move(file)));
 }
@@ -128,7 +129,7 @@ OptionValues PPDDocument::unknownAmong(const OptionValues &options) const
 {
     OptionValues result;
     for (const auto &[keyword, value] : options.asKeyValueRange())
-        if (!hasOption(keyword))
+        if (!hasOption(keyword) || !canBeDriverOption(keyword))
             result.insert(keyword, value);
     return result;
 }

@@ -56,7 +56,7 @@ public:
     /// Whether the PPD has the option and takes the choice, as saved options and command lines write it.
     bool accepts(const QString &keyword, const QString &text) const;
 
-    /// Those that the PPD does not know: they concern the server and not the panels.
+    /// Those that the PPD does not know or can't mean: they concern the server and not the panels.
     OptionValues unknownAmong(const OptionValues &options) const;
 
     /// The PPD's own words for an option and for one of its choices; for a choice in a language ("de", "zh_CN") where

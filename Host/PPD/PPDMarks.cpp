@@ -28,7 +28,7 @@ PPDMarks::PPDMarks(PPDDocument &document)
 void PPDMarks::adoptDefaults(const OptionValues &values)
 {
     for (const auto &[keyword, value] : values.asKeyValueRange()) {
-        ppd_option_t *const option = m_document.option(keyword);
+        ppd_option_t *const option = canBeDriverOption(keyword) ? m_document.option(keyword) : nullptr;
         const auto choice = option ? m_document.savedChoice(*option, value) : std::nullopt;
         if (!choice)
             continue;
@@ -170,7 +170,8 @@ OptionValues PPDMarks::forJob() const
         const ppd_option_t &option = *m_document.options()[i];
         const ChoiceValue choice = marked(option);
         const bool isPageSize = std::strcmp(option.keyword, kPageSize) == 0;
-        if (!choice.keyword.isEmpty() && (isPageSize || m_declaredDefaults[i] != choice.keyword.toUtf8()))
+        const bool isSaid = isPageSize || m_declaredDefaults[i] != choice.keyword.toUtf8();
+        if (!choice.keyword.isEmpty() && isSaid && canBeDriverOption(text(option.keyword)))
             values.insert(text(option.keyword), choice.text());
     }
     return values;

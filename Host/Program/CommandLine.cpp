@@ -1,10 +1,12 @@
 // Reading the command line.
 #include "CommandLine.h"
 
+#include "Foundation/PlainText.h"
 #include "Jobs/PageRanges.h"
 
 #include <QCommandLineParser>
 
+#include <algorithm>
 #include <iostream>
 
 namespace host {
@@ -50,12 +52,25 @@ Or<Environment> readEnvironment(const QCommandLineParser &parser)
     return environment;
 }
 
+/// Options are kept a line each queue, and go on to servers and drivers as words.
+bool isOneLine(const QString &text)
+{
+    return std::ranges::none_of(text, [](QChar each) { return each.category() == QChar::Other_Control; });
+}
+
+bool isOneWord(const QString &text)
+{
+    return std::ranges::none_of(text, [](QChar each) { return each.isSpace() || QString("\"'\\{}").contains(each); });
+}
+
 Or<OptionValues> readOptions(const QStringList &values)
 {
     OptionValues options;
     for (const QString &value : values) {
         const qsizetype equals = value.indexOf('=');
         if (equals < 1)
+            return Problem{QString("-o %1: not of the form keyword=choice").arg(value)};
+        if (!isOneLine(value) || !isOneWord(value.left(equals)))
             return Problem{QString("-o %1: not of the form keyword=choice").arg(value)};
         options[value.left(equals)] = value.mid(equals + 1);
     }
@@ -71,7 +86,8 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser)
     request.title = parser.value("title");
     request.copies = readCopies(parser.value("n"));
     if (parser.isSet("n") && !request.copies)
-        return Problem{QString("-n %1: not a number from 1 to %2").arg(parser.value("n")).arg(kMaximumCopies)};
+        return Problem{
+            QString("-n %1: not a number from 1 to %2").arg(parser.value("n"), QString::number(kMaximumCopies))};
     const auto pages = readPageRanges(parser.value("P"));
     if (!pages)
         return Problem{QString("-P %1: no pages, such as 1-3,5").arg(parser.value("P"))};
@@ -87,7 +103,15 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser)
 
 } // namespace
 
-void complain(const QString &sentence) { std::cerr << "qnprint: " << sentence.toStdString() << '\n' << std::flush; }
+void complain(const QString &sentence)
+{
+    std::cerr << "qnprint: " << foundation::plainLine(sentence).toStdString() << '\n' << std::flush;
+}
+
+void report(const QString &where)
+{
+    std::cout << foundation::withoutControls(where).toStdString() << '\n' << std::flush;
+}
 
 Face faceOf(const QStringList &arguments)
 {

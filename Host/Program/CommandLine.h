@@ -36,5 +36,7 @@ QString helpText();
 
 /// One line on standard error, in the manner of `lp`.
 void complain(const QString &sentence);
+/// One line on standard output: where a job went.
+void report(const QString &where);
 
 } // namespace host

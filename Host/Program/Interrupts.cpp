@@ -10,7 +10,7 @@ namespace host {
 
 namespace {
 
-constexpr std::array kSignals{SIGINT, SIGTERM};
+constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP};
 
 std::array<int, 2> ends{-1, -1}; // of the pipe
 
@@ -21,8 +21,10 @@ int openPipe()
     return ends[0];
 }
 
-void noteSignal(int)
+/// A second signal ends the program even when nothing gets back to the event loop.
+void noteSignal(int number)
 {
+    std::signal(number, SIG_DFL);
     const char byte = 0;
     [[maybe_unused]] const auto written = ::write(ends[1], &byte, 1); // a full pipe has been noted already
 }
@@ -39,12 +41,15 @@ Interrupts::Interrupts(std::function<void()> act)
         act();
     });
     for (const int number : kSignals)
-        std::signal(number, noteSignal);
+        if (std::signal(number, noteSignal) == SIG_IGN)
+            std::signal(number, SIG_IGN); // whoever started us wants us to go on
+        else
+            m_signals.push_back(number);
 }
 
 Interrupts::~Interrupts()
 {
-    for (const int number : kSignals)
+    for (const int number : m_signals)
         std::signal(number, SIG_DFL);
     m_notifier.setEnabled(false);
     for (const int end : ends)

@@ -4,11 +4,12 @@
 #include <QSocketNotifier>
 
 #include <functional>
+#include <vector>
 
 namespace host {
 
-/// While it lives, an interrupt or a request to terminate calls `act` from the event loop instead of ending the
-/// program. One at a time.
+/// While it lives, an interrupt, a request to terminate or a terminal that hangs up calls `act` from the event loop
+/// instead of ending the program; the same signal a second time ends it. One at a time.
 class Interrupts
 {
 public:
@@ -19,6 +20,7 @@ public:
 
 private:
     QSocketNotifier m_notifier;
+    std::vector<int> m_signals;
 };
 
 } // namespace host

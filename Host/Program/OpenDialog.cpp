@@ -2,12 +2,11 @@
 #include "OpenDialog.h"
 
 #include "Cups/Conversation.h"
+#include "Interrupts.h"
 #include "Window/DialogWindow.h"
 #include "Window/WindowTexts.h"
 
 #include <QApplication>
-
-#include <iostream>
 
 namespace host {
 
@@ -27,21 +26,42 @@ int showPanel(DialogWindow &window, const PrintDialog &dialog, const QString &pa
     return kDone;
 }
 
+/// Shows the window until it closes. A signal closes it, and all that is open over it; a job that is on its way is
+/// stopped first, and what becomes of it is said where the signal came from.
+int showUntilClosed(DialogWindow &window, PrintDialog &dialog)
+{
+    const auto close = [&window] {
+        while (QWidget *const box = QApplication::activeModalWidget()) {
+            if (box == &window || !box->close())
+                break;
+        }
+        window.done(QDialog::Rejected);
+    };
+    const Interrupts interrupts([&dialog, close] {
+        if (dialog.state() != PrintDialog::State::sending)
+            return close();
+        QObject::connect(&dialog, &PrintDialog::failed, &dialog, [close](const foundation::Problem &problem) {
+            complain(problem.sentence);
+            close();
+        });
+        dialog.stop();
+    });
+    return window.exec() == QDialog::Accepted ? kDone : kRefused;
+}
+
 /// Opens the dialog in its window and hands that over; the exit status.
 int withWindow(const CommandLine &line, const std::shared_ptr<Document> &document,
-               const std::function<int(DialogWindow &window)> &use)
+               const std::function<int(DialogWindow &window, PrintDialog &dialog)> &use)
 {
     PrintDialog dialog(line.request, document);
-    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &where) {
-        std::cout << where.toStdString() << '\n' << std::flush;
-    });
+    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &where) { report(where); });
     if (const auto started = dialog.start(); !started) {
         complain(started.problem().sentence);
         return kRefused;
     }
     DialogWindow window(dialog);
     const int status = showPanel(window, dialog, line.panel);
-    return status == kDone ? use(window) : status;
+    return status == kDone ? use(window, dialog) : status;
 }
 
 } // namespace
@@ -63,8 +83,7 @@ int openDialog(const CommandLine &line)
         }
         document = *std::move(opened);
     }
-    return withWindow(line, document,
-                      [](DialogWindow &window) { return window.exec() == QDialog::Accepted ? kDone : kRefused; });
+    return withWindow(line, document, showUntilClosed);
 }
 
 int takeShot(const CommandLine &line)
@@ -74,7 +93,7 @@ int takeShot(const CommandLine &line)
         return kWrongUse;
     }
     useWindowTexts(line.request.language);
-    return withWindow(line, nullptr, [&line](DialogWindow &window) {
+    return withWindow(line, nullptr, [&line](DialogWindow &window, PrintDialog &) {
         window.show();
         QCoreApplication::processEvents();
         if (window.grab().save(line.files.first()))

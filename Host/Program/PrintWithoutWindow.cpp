@@ -8,8 +8,6 @@
 
 #include <QEventLoop>
 
-#include <iostream>
-
 namespace host {
 
 namespace {
@@ -29,7 +27,7 @@ public:
         QObject::connect(&dialog, &PrintDialog::failed, &m_loop,
                          [this](const foundation::Problem &problem) { refuse(problem.sentence); });
         QObject::connect(&dialog, &PrintDialog::printed, &m_loop, [this](const QString &where) {
-            std::cout << where.toStdString() << '\n' << std::flush;
+            report(where);
             m_loop.exit(kDone);
         });
     }

@@ -21,7 +21,7 @@ QtMessageHandler usualHandler = nullptr;
 /// What the platform without a display says of itself is nothing to a person who asked for none.
 void withoutPlatformRemarks(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (!message.startsWith("This plugin does not support") && !message.contains("XDG_RUNTIME_DIR"))
+    if (!message.startsWith("This plugin does not support") && !message.startsWith("QStandardPaths: "))
         usualHandler(type, context, message);
 }
 

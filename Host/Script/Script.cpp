@@ -152,7 +152,8 @@ QJsonObject Script::perform(const QByteArray &line)
     const auto *const verb = std::ranges::find_if(kVerbs, [&](const Verb &v) { return name == v.name; });
     m_allLinesKnown = m_allLinesKnown && verb != kVerbs.end();
     if (error.error != QJsonParseError::NoError)
-        throw ScriptRefusal(QString("not JSON (%1 at character %2)").arg(error.errorString()).arg(error.offset));
+        throw ScriptRefusal(
+            QString("not JSON (%1 at character %2)").arg(error.errorString(), QString::number(error.offset)));
     if (!document.isObject())
         throw ScriptRefusal("not a JSON object");
     if (verb == kVerbs.end())
@@ -269,9 +270,9 @@ QJsonObject Script::pick(const ScriptRequest &request)
     menu.validateItems();
     const QString name = request.string("control");
     if (index < 0 || index >= menu.count())
-        throw ScriptRefusal(QString("%1: the menu has no item %2").arg(name).arg(index));
+        throw ScriptRefusal(QString("%1: the menu has no item %2").arg(name, QString::number(index)));
     if (!menu.isItemEnabled(index))
-        throw ScriptRefusal(QString("%1: item %2 is not available").arg(name).arg(index));
+        throw ScriptRefusal(QString("%1: item %2 is not available").arg(name, QString::number(index)));
     const QJsonArray items = itemsOf(menu);
     menu.choose(index);
     return {{"items", items}};
@@ -288,7 +289,7 @@ QJsonObject Script::row(const ScriptRequest &request)
     const int row = request.index("row");
     auto &radio = control<toolkit::RadioControl>(request);
     if (row < 0 || row >= radio.rows().size())
-        throw ScriptRefusal(QString("%1: there is no row %2").arg(request.string("control")).arg(row));
+        throw ScriptRefusal(QString("%1: there is no row %2").arg(request.string("control"), QString::number(row)));
     radio.choose(row);
     return {};
 }

@@ -29,8 +29,8 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int kDialog = STDIN_FILENO;
-constexpr rlim_t kBytesOfMemory = 200 * 1024 * 1024; // beyond those that the program itself takes
-constexpr rlim_t kBytesOfFile = 64 * 1024 * 1024;
+constexpr rlim_t kBytesOfMemory = rlim_t{200} * 1024 * 1024; // beyond those that the program itself takes
+constexpr rlim_t kBytesOfFile = rlim_t{64} * 1024 * 1024;
 constexpr auto kTimeAlone = 10s; // to cancel a job after the dialog has gone
 
 std::atomic<bool> dialogHasGone = false;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kMillisecondsToConnect = 5000;
 constexpr std::chrono::milliseconds kTick{200};
-constexpr qsizetype kLargestFile = 16 * 1024 * 1024;
+constexpr qsizetype kLargestFile = qsizetype{16} * 1024 * 1024;
 constexpr int kMostTries = 3; // of a GET: a connection gone stale, and credentials that need no person
 
 /// Whether the last answer is what `forgetLastAnswer` has left.

@@ -1,10 +1,14 @@
 // Finding and loading plug-in bundles.
 #include "PlugIn.h"
 
+#include "Foundation/RegularFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPluginLoader>
+
+#include <algorithm>
 
 namespace host {
 
@@ -15,6 +19,12 @@ namespace {
 
 constexpr auto kPathVariable = "QNPRINT_PLUGIN_PATH";
 constexpr auto kBundlePattern = "*.plugin";
+
+bool isForThisHost(const QString &path)
+{
+    const auto bundle = foundation::Bundle::open(path, "none");
+    return bundle && (*bundle)->info().abiVersion == kPDEInterfaceVersion;
+}
 
 } // namespace
 
@@ -29,16 +39,19 @@ QStringList plugInDirectories()
 std::optional<QString> findBundle(const std::optional<QString> &dialogExtension)
 {
     const QString name = QFileInfo(dialogExtension.value_or(QString())).fileName();
-    std::optional<QString> first;
+    QStringList all;
     for (const QString &path : plugInDirectories()) {
         const QDir directory(path);
         const QStringList bundles = directory.entryList({kBundlePattern}, QDir::Dirs, QDir::Name);
         if (bundles.contains(name))
             return directory.filePath(name);
-        if (!first && !bundles.isEmpty())
-            first = directory.filePath(bundles.first());
+        for (const QString &bundle : bundles)
+            all.append(directory.filePath(bundle));
     }
-    return first;
+    const auto fitting = all.size() > 1 ? std::ranges::find_if(all, isForThisHost) : all.begin();
+    if (fitting != all.end())
+        return *fitting;
+    return all.isEmpty() ? std::nullopt : std::optional(all.first()); // which then says what is wrong with it
 }
 
 Or<PlugIn> PlugIn::load(const QString &path, const QString &localization)
@@ -49,10 +62,11 @@ Or<PlugIn> PlugIn::load(const QString &path, const QString &localization)
     const auto &info = (*bundle)->info();
     if (info.abiVersion != kPDEInterfaceVersion)
         return Problem{tr("%1: made for interface version %2, this dialog has %3")
-                           .arg(path)
-                           .arg(info.abiVersion)
-                           .arg(kPDEInterfaceVersion)};
-    QPluginLoader loader((*bundle)->path() + '/' + info.executable);
+                           .arg(path, QString::number(info.abiVersion), QString::number(kPDEInterfaceVersion))};
+    const QString code = (*bundle)->path() + '/' + info.executable;
+    if (const auto file = foundation::openRegularFile(code); !file)
+        return file.problem();
+    QPluginLoader loader(code);
     QObject *const root = loader.instance();
     if (!root)
         return Problem{QString("%1: %2").arg(path, loader.errorString())};

@@ -1,6 +1,8 @@
 // The summaries of all panels.
 #include "SummaryView.h"
 
+#include "Foundation/PlainText.h"
+
 #include <QHeaderView>
 
 namespace host {
@@ -48,7 +50,7 @@ void SummaryView::show(const PDEPanels &panels)
 void SummaryView::addRow(QTreeWidgetItem &heading, const QString &title, const QString &value)
 {
     auto *row = new QTreeWidgetItem(&heading, {title, value});
-    row->setToolTip(1, value);
+    row->setToolTip(1, foundation::asHtml(value));
     row->setSizeHint(
         0, QSize(fontMetrics().horizontalAdvance(title) + 2 * kRowPadding, fontMetrics().height() + kRowPadding));
 }

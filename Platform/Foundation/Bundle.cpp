@@ -1,6 +1,8 @@
 // Bundle directories and their string tables.
 #include "Bundle.h"
 
+#include "RegularFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -21,11 +23,13 @@ constexpr qint64 kLargestInfoFile = 65536;
 
 Or<Bundle::Info> Bundle::readInfo(const QString &path)
 {
-    QFile file(path + "/Info.json");
-    if (!file.open(QIODevice::ReadOnly))
-        return Problem{tr("%1: not a plug-in bundle (Info.json: %2)").arg(path, file.errorString())};
+    const QString name = path + "/Info.json";
+    const auto file = openRegularFile(name);
+    if (!file) // whose sentence begins with the name
+        return Problem{
+            tr("%1: not a plug-in bundle (Info.json: %2)").arg(path, file.problem().sentence.mid(name.size() + 2))};
     QJsonParseError parse;
-    const QJsonObject object = QJsonDocument::fromJson(file.read(kLargestInfoFile), &parse).object();
+    const QJsonObject object = QJsonDocument::fromJson((*file)->read(kLargestInfoFile), &parse).object();
     if (parse.error != QJsonParseError::NoError)
         return Problem{QString("%1/Info.json: %2").arg(path, parse.errorString())};
     Info info{object["identifier"].toString(), object["executable"].toString(), object["principalClass"].toString(),

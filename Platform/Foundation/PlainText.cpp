@@ -23,11 +23,17 @@ bool isHarmful(QChar character)
 
 } // namespace
 
+QString withoutControls(QString text)
+{
+    std::ranges::replace_if(text, isHarmful, QChar(' '));
+    return text;
+}
+
+QString asHtml(const QString &text) { return "<p style='white-space:pre-wrap'>" + text.toHtmlEscaped() + "</p>"; }
+
 QString plainLine(const QString &text)
 {
-    QString line = text.left(2 * kLongestLine);
-    std::ranges::replace_if(line, isHarmful, QChar(' '));
-    line = line.simplified();
+    QString line = withoutControls(text.left(2 * kLongestLine)).simplified();
     if (line.size() <= kLongestLine)
         return line;
     line.truncate(kLongestLine - 1);

@@ -9,4 +9,10 @@ namespace foundation {
 /// is cut.
 QString plainLine(const QString &text);
 
+/// The same text, whole, without what controls terminals or turns the direction of reading.
+QString withoutControls(QString text);
+
+/// HTML that shows the text as it is, for what guesses whether a text is HTML, as tool tips do.
+QString asHtml(const QString &text);
+
 } // namespace foundation

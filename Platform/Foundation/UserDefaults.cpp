@@ -1,11 +1,28 @@
 // User defaults over QSettings.
 #include "UserDefaults.h"
 
+#include <QFileInfo>
 #include <QSettings>
 
 #include <utility>
 
 namespace foundation {
+
+namespace {
+
+constexpr auto kNowhere = "/proc/none/qnprint.conf"; // nothing is read there, and nothing can be kept
+
+/// Reading what is no file might never end.
+std::unique_ptr<QSettings> ownStore()
+{
+    auto store = std::make_unique<QSettings>();
+    const QFileInfo file(store->fileName());
+    if (!file.exists() || file.isFile())
+        return store;
+    return std::make_unique<QSettings>(kNowhere, QSettings::IniFormat);
+}
+
+} // namespace
 
 UserDefaults &UserDefaults::standard()
 {
@@ -24,7 +41,7 @@ std::unique_ptr<QSettings> UserDefaults::useStore(std::unique_ptr<QSettings> sto
 QSettings &UserDefaults::store() const
 {
     if (!m_store)
-        m_store = std::make_unique<QSettings>();
+        m_store = ownStore();
     return *m_store;
 }
 

@@ -1,6 +1,8 @@
 // Labels and entry fields.
 #include "TextControls.h"
 
+#include "Foundation/PlainText.h"
+
 #include <QEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -96,7 +98,7 @@ bool FieldControl::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && m_expansionToolTips &&
         fontMetrics().horizontalAdvance(text()) > contentsRect().width()) {
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), foundation::asHtml(text()), this);
         return true;
     }
     return QLineEdit::event(event);

@@ -305,6 +305,10 @@
         <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
         <translation>„%1“ sind keine Seiten. Schreiben Sie einzelne Seiten und Bereiche, etwa 1-3,5.</translation>
     </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Wird angehalten …</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -338,6 +342,10 @@
     <message>
         <source>%1: can&apos;t be read</source>
         <translation>%1: kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t hold a value with a line end</source>
+        <translation>%1: ein Wert mit Zeilenende geht nicht hinein</translation>
     </message>
 </context>
 <context>

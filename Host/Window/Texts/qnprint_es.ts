@@ -305,6 +305,10 @@
         <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
         <translation>«%1» no son páginas. Escriba páginas e intervalos, por ejemplo 1-3,5.</translation>
     </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Deteniendo…</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -338,6 +342,10 @@
     <message>
         <source>%1: can&apos;t be read</source>
         <translation>%1: no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t hold a value with a line end</source>
+        <translation>%1: no admite un valor con salto de línea</translation>
     </message>
 </context>
 <context>

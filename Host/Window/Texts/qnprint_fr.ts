@@ -305,6 +305,10 @@
         <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
         <translation>« %1 » ne désigne pas de pages. Écrivez des pages et des intervalles, par exemple 1-3,5.</translation>
     </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>Arrêt en cours…</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -338,6 +342,10 @@
     <message>
         <source>%1: can&apos;t be read</source>
         <translation>%1 : ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t hold a value with a line end</source>
+        <translation>%1 : ne peut contenir une valeur avec un saut de ligne</translation>
     </message>
 </context>
 <context>

@@ -305,6 +305,10 @@
         <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
         <translation>「%1」はページを表していません。ページ番号か範囲（例：1-3,5）を入力してください。</translation>
     </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>停止しています…</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -338,6 +342,10 @@
     <message>
         <source>%1: can&apos;t be read</source>
         <translation>%1：読み込めません</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t hold a value with a line end</source>
+        <translation>%1：改行を含む値は保存できません</translation>
     </message>
 </context>
 <context>

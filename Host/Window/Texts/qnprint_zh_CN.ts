@@ -305,6 +305,10 @@
         <source>“%1” are no pages. Write single pages and ranges, such as 1-3,5.</source>
         <translation>“%1”不是页码。请输入页码或范围，例如 1-3,5。</translation>
     </message>
+    <message>
+        <source>Stopping…</source>
+        <translation>正在停止…</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -338,6 +342,10 @@
     <message>
         <source>%1: can&apos;t be read</source>
         <translation>%1：无法读取</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t hold a value with a line end</source>
+        <translation>%1：不能保存含换行的值</translation>
     </message>
 </context>
 <context>
