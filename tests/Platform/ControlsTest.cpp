@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 using namespace toolkit;
 
 namespace {
@@ -248,6 +250,137 @@ TEST_F(Steppers, StepUnderMouseAndArrowKeys)
     QTest::keyClick(&m_control, Qt::Key_Down);
     EXPECT_DOUBLE_EQ(m_control.value(), 0.9);
     EXPECT_EQ(m_stepped.size(), 4);
+}
+
+/// An action that is refused with an alert, under hands that do not let go.
+class RefusingSteppers : public Steppers
+{
+protected:
+    void SetUp() override
+    {
+        Steppers::SetUp();
+        m_up = m_control.findChildren<QToolButton *>().first();
+        QObject::connect(&m_control, &StepperControl::stepped, &m_control, [] {
+            Alert alert;
+            alert.addButtonWithTitle("OK");
+            alert.runModal();
+        });
+    }
+
+    // Each way to hold the arrow: how it begins, and what comes again and again.
+    void pressMouse() { QTest::mousePress(m_up, Qt::LeftButton); }
+    void moveMouse() { QTest::mouseEvent(QTest::MouseMove, m_up, Qt::LeftButton, {}, {m_moved++ % 2 + 3, 5}); }
+    void pressKey() { sendKey(false); }
+    void repeatKey() { sendKey(true); }
+    void pressByAssistiveTechnology()
+    {
+        QAccessible::queryAccessibleInterface(m_up)->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+    }
+
+    /// Long enough for an arrow to repeat itself several times.
+    static void hold(const std::function<void()> &begin, const std::function<void()> &repeat = [] {})
+    {
+        QTimer repeating;
+        QObject::connect(&repeating, &QTimer::timeout, repeat);
+        repeating.start(50);
+        QTimer::singleShot(800, &repeating, &QTimer::stop);
+        begin();
+        QTest::qWait(900);
+    }
+    /// How many message boxes stand over the window by then; closes them.
+    int boxesUnder(const std::function<void()> &begin, const std::function<void()> &repeat = [] {})
+    {
+        int boxes = 0;
+        QTimer::singleShot(850, [&] {
+            for (QWidget *window : QApplication::topLevelWidgets())
+                boxes += window->isVisible() && qobject_cast<QMessageBox *>(window) ? 1 : 0;
+            m_control.setEnabled(boxes <= 1); // no more of them, or this test would not end either
+            while (auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                box->done(0);
+        });
+        hold(begin, repeat);
+        return boxes;
+    }
+
+    QToolButton *m_up = nullptr;
+
+private:
+    void sendKey(bool again)
+    {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Up, {}, {}, again);
+        QApplication::sendEvent(&m_control, &press);
+    }
+    int m_moved = 0;
+};
+
+TEST_F(Steppers, RepeatWhileAnArrowOrAKeyIsHeld)
+{
+    auto *const up = m_control.findChildren<QToolButton *>().first();
+    QTest::mousePress(up, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_stepped.size() >= 3; }, 3000));
+    QTest::mouseRelease(up, Qt::LeftButton);
+    const auto steps = m_stepped.size();
+    for (const bool again : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Up, {}, {}, again);
+        QApplication::sendEvent(&m_control, &press);
+    }
+    EXPECT_EQ(m_stepped.size(), steps + 3);
+}
+
+TEST_F(RefusingSteppers, ShowOneMessageBoxHoweverLongTheArrowIsHeld)
+{
+    EXPECT_EQ(boxesUnder([this] { pressMouse(); }), 1);
+    EXPECT_FALSE(m_up->isDown());
+    hold([] {}, [this] { moveMouse(); }); // the button is still held
+    QTest::mouseRelease(m_up, Qt::LeftButton);
+    EXPECT_EQ(m_stepped.size(), 1);
+    EXPECT_EQ(boxesUnder([this] { pressMouse(); }), 1); // pressed anew
+}
+
+TEST_F(RefusingSteppers, ShowOneMessageBoxHoweverLongTheKeyIsHeld)
+{
+    EXPECT_EQ(boxesUnder([this] { pressKey(); }, [this] { repeatKey(); }), 1);
+    EXPECT_EQ(m_stepped.size(), 1);
+    EXPECT_EQ(boxesUnder([this] { pressKey(); }), 1);
+}
+
+TEST_F(RefusingSteppers, ShowOneMessageBoxWhileAssistiveTechnologyPressesOn)
+{
+    const auto press = [this] { pressByAssistiveTechnology(); };
+    EXPECT_EQ(boxesUnder(press,
+                         [&, presses = 0]() mutable {
+                             if (presses++ < 10) // all beneath the message box
+                                 press();
+                         }),
+              1);
+    EXPECT_EQ(boxesUnder(press), 1);
+}
+
+TEST_F(RefusingSteppers, AlertOnceWhoeverPresentsTheAlert)
+{
+    int alerts = 0;
+    const PresentAlerts presented([&](const Alert &) { ++alerts; });
+    hold([this] { pressMouse(); }, [this] { moveMouse(); });
+    QTest::mouseRelease(m_up, Qt::LeftButton);
+    EXPECT_EQ(alerts, 1);
+    hold([this] { pressKey(); }, [this] { repeatKey(); });
+    EXPECT_EQ(alerts, 2);
+    hold([this] { pressByAssistiveTechnology(); });
+    EXPECT_EQ(alerts, 3);
+    hold([this] { pressMouse(); });
+    QTest::mouseRelease(m_up, Qt::LeftButton);
+    EXPECT_EQ(alerts, 4);
+}
+
+TEST_F(Steppers, StopUnderAnAlertThatAnotherControlOpens)
+{
+    auto *const up = m_control.findChildren<QToolButton *>().first();
+    const PresentAlerts presented([](const Alert &) {});
+    QTest::mousePress(up, Qt::LeftButton);
+    Alert().runModal();
+    QTest::qWait(900);
+    EXPECT_EQ(m_stepped.size(), 0);
 }
 
 class Fields : public InWindow<FieldControl>
