@@ -5,7 +5,10 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -399,6 +402,126 @@ TEST_F(Fields, ReportEachEditOfAPersonAndNoneOfCode)
     EXPECT_EQ(m_edited.size(), 2);
     m_control.paste("6");
     EXPECT_EQ(m_edited.size(), 3);
+}
+
+/// One way to edit the text "12", and what it leaves.
+struct Edit
+{
+    const char *name;
+    void (*perform)(FieldControl &field, QAccessibleInterface &accessible);
+    const char *becomes;
+};
+
+void PrintTo(const Edit &row, std::ostream *out) { *out << row.name; }
+
+const Edit kEdits[]{
+    {"AKey", [](FieldControl &field, QAccessibleInterface &) { QTest::keyClick(&field, '3'); }, "123"},
+    {"Backspace", [](FieldControl &field, QAccessibleInterface &) { QTest::keyClick(&field, Qt::Key_Backspace); }, "1"},
+    {"Paste",
+     [](FieldControl &field, QAccessibleInterface &) {
+         QApplication::clipboard()->setText("34");
+         QTest::keySequence(&field, QKeySequence::Paste);
+     },
+     "1234"},
+    {"Cut",
+     [](FieldControl &field, QAccessibleInterface &) {
+         field.selectAll();
+         QTest::keySequence(&field, QKeySequence::Cut);
+     },
+     ""},
+    {"Drop",
+     [](FieldControl &field, QAccessibleInterface &) {
+         QMimeData data;
+         data.setText("7");
+         const QPoint end(field.width() - 2, field.height() / 2);
+         QDragEnterEvent enter(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+         QApplication::sendEvent(&field, &enter);
+         QDropEvent drop(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+         QApplication::sendEvent(&field, &drop);
+     },
+     "127"},
+    {"InputMethod",
+     [](FieldControl &field, QAccessibleInterface &) {
+         QInputMethodEvent commit;
+         commit.setCommitString("8");
+         QApplication::sendEvent(&field, &commit);
+     },
+     "128"},
+    {"AccessibleInsert",
+     [](FieldControl &, QAccessibleInterface &accessible) { accessible.editableTextInterface()->insertText(1, "5"); },
+     "152"},
+    {"AccessibleDelete",
+     [](FieldControl &, QAccessibleInterface &accessible) { accessible.editableTextInterface()->deleteText(0, 1); },
+     "2"},
+    {"AccessibleReplace",
+     [](FieldControl &, QAccessibleInterface &accessible) {
+         accessible.editableTextInterface()->replaceText(0, 2, "4.7");
+     },
+     "4.7"},
+    {"AccessibleValue",
+     [](FieldControl &, QAccessibleInterface &accessible) { accessible.setText(QAccessible::Value, "4.7"); }, "4.7"},
+};
+
+class EditedFields : public Fields, public testing::WithParamInterface<Edit>
+{
+protected:
+    void SetUp() override
+    {
+        Fields::SetUp();
+        m_control.setStringValue("12");
+        m_control.setFocus();
+        m_control.setCursorPosition(2);
+    }
+    void perform() { GetParam().perform(m_control, *QAccessible::queryAccessibleInterface(&m_control)); }
+};
+
+TEST_P(EditedFields, ReportOneEdit)
+{
+    perform();
+    EXPECT_EQ(m_control.stringValue(), GetParam().becomes);
+    EXPECT_EQ(m_edited.size(), 1);
+}
+
+TEST_P(EditedFields, TakeACorrectionWhileTheyReport)
+{
+    QObject::connect(&m_control, &FieldControl::edited, &m_control, [this] { m_control.setStringValue("9"); });
+    perform();
+    EXPECT_EQ(m_control.stringValue(), "9");
+    EXPECT_EQ(m_edited.size(), 1);
+}
+
+TEST_P(EditedFields, StayAsTheyAreWhereNobodyMayType)
+{
+    m_control.setEditable(false);
+    perform();
+    m_control.setEditable(true);
+    m_control.setEnabled(false);
+    perform();
+    EXPECT_EQ(m_control.stringValue(), "12");
+    EXPECT_EQ(m_edited.size(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(EachWay, EditedFields, testing::ValuesIn(kEdits),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(Fields, ReportUndoAsAnEdit)
+{
+    QTest::keyClicks(&m_control, "1");
+    QTest::keySequence(&m_control, QKeySequence::Undo);
+    EXPECT_EQ(m_control.stringValue(), "");
+    EXPECT_EQ(m_edited.size(), 2);
+}
+
+TEST_F(Fields, ReportNothingThatCodeSets)
+{
+    TextField field;
+    ASSERT_TRUE(field.connect(&m_control));
+    field.setStringValue("3");
+    field.setIntegerValue(4);
+    field.setDoubleValue(4.5);
+    m_control.setProperty("text", "5"); // as an interface file does
+    EXPECT_EQ(m_control.stringValue(), "5");
+    EXPECT_EQ(m_edited.size(), 0);
 }
 
 TEST_F(Fields, EndEditingWithReturnAndNotByLosingTheFocus)
