@@ -189,6 +189,36 @@ TEST_F(Amount, GoesToTheFixedTwoInchesEvenWhenThePPDAllowsLess)
     EXPECT_EQ(amount(), "2.0");
 }
 
+// The limit in inches is the PPD's in millimetres over 25.5, in single precision.
+struct LimitInInches
+{
+    const char *millimetres;
+    const char *typed;
+    int alerts;
+};
+
+void PrintTo(const LimitInInches &row, std::ostream *out) { *out << row.millimetres << " mm, " << row.typed; }
+
+class LimitsInInches : public Amount, public testing::WithParamInterface<LimitInInches>
+{};
+
+TEST_P(LimitsInInches, AreThePPDsOver25Point5InSinglePrecision)
+{
+    openIn("inch", PPDText()
+                       .standardOption("QnPaperFeed")
+                       .line("*CustomQnPaperFeed True: \"x\"")
+                       .line("*ParamCustomQnPaperFeed QnPaperFeed: 1 real 0.03 9")
+                       .line(QByteArray("*ParamCustomQnPaperFeed mm: 2 real 1 ") + GetParam().millimetres));
+    type(GetParam().typed);
+    EXPECT_EQ(alerts(), GetParam().alerts);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, LimitsInInches,
+                         testing::Values(LimitInInches{"38.2", "1.5", 1}, // over 25.4 it would do
+                                         LimitInInches{"38.2", "1.4", 0},
+                                         LimitInInches{"56.1", "2.2", 0},   // a little more than 2.2
+                                         LimitInInches{"71.4", "2.8", 1})); // a little less than 2.8
+
 struct NoLimits
 {
     const char *name;
