@@ -113,8 +113,10 @@ void PrintSettingPDE_v100_::stepMillimetres(const QString &text, double stepped)
     const double amount = mPaperFeedTxt.doubleValue();
     mPaperFeedinteger += kMillimetres.increment; // not what the new text is made from; kept so
 
-    if (stepped > kPaperFeedMax && !text.isEmpty())
-        return showNumberAndStepper(kPaperFeedMax);
+    if (stepped > kPaperFeedMax && !text.isEmpty()) {
+        mPaperFeedTxt.setDoubleValue(kPaperFeedMax);
+        return mPaperFeedStepper.setDoubleValue(kPaperFeedMax); // itself, not the digits that the text shows
+    }
     if (stepped == 0 && text.isEmpty())
         return mPaperFeedTxt.setStringValue(QString());
     if (stepped == 0 && text == "0")

@@ -1,6 +1,8 @@
 // Alerts over message boxes.
 #include "Alert.h"
 
+#include "Foundation/NotificationCenter.h"
+
 #include <QApplication>
 #include <QMessageBox>
 
@@ -42,6 +44,7 @@ Alert::Presenter Alert::setPresenter(Presenter function) { return std::exchange(
 
 void Alert::runModal() const
 {
+    foundation::NotificationCenter::defaultCenter().post(kWillOpen);
     if (const Presenter present = presenter()) // a copy: the function may set another
         present(*this);
     else

@@ -15,6 +15,9 @@ public:
     enum class Style { warning, informational, critical };
     using Presenter = std::function<void(const Alert &)>;
 
+    /// Posted to the default notification centre before an alert shows: whatever repeats by itself stops.
+    static constexpr auto kWillOpen = "AlertWillOpen";
+
     /// How alerts are shown from now on, an empty function being message boxes; answers how they were shown before.
     static Presenter setPresenter(Presenter presenter);
 

@@ -1,11 +1,16 @@
 // Pop-up menus, buttons, steppers and pages.
 #include "Controls.h"
 
+#include "Alert.h"
+
+#include "Foundation/NotificationCenter.h"
+
 #include <QAbstractItemView>
 #include <QButtonGroup>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QRadioButton>
 #include <QStandardItemModel>
 #include <QToolButton>
@@ -15,6 +20,8 @@
 #include <algorithm>
 
 namespace toolkit {
+
+using foundation::NotificationCenter;
 
 PopUpControl::PopUpControl(QWidget *parent)
     : QComboBox(parent)
@@ -150,7 +157,10 @@ StepperControl::StepperControl(QWidget *parent)
     , m_down(arrow(Qt::DownArrow, -1))
 {
     setFocusPolicy(Qt::TabFocus);
+    NotificationCenter::defaultCenter().addObserver(this, Alert::kWillOpen, [this] { stopRepeating(); });
 }
+
+StepperControl::~StepperControl() { NotificationCenter::defaultCenter().removeObserver(this, Alert::kWillOpen); }
 
 QToolButton *StepperControl::arrow(Qt::ArrowType type, int direction)
 {
@@ -158,6 +168,7 @@ QToolButton *StepperControl::arrow(Qt::ArrowType type, int direction)
     button->setArrowType(type);
     button->setAutoRepeat(true);
     button->setFocusPolicy(Qt::NoFocus); // the arrow keys work on the whole stepper
+    button->installEventFilter(this);
     connect(button, &QToolButton::clicked, this, [this, direction] { step(direction); });
     return button;
 }
@@ -171,8 +182,29 @@ void StepperControl::setDecreaseName(const QString &name) { m_down->setAccessibl
 
 void StepperControl::step(int direction)
 {
+    if (m_stepping)
+        return;
+    m_stepping = true;
     setValue(m_value + direction * m_increment);
+    const QPointer<StepperControl> self(this); // an alert may outlast the form
     Q_EMIT stepped();
+    if (self)
+        m_stepping = false;
+}
+
+void StepperControl::stopRepeating()
+{
+    m_stopped = true;
+    m_up->setDown(false);
+    m_down->setDown(false);
+}
+
+bool StepperControl::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
+        m_stopped = false;
+    // Moving the mouse over an arrow whose button is still held would press it again.
+    return (m_stopped && event->type() == QEvent::MouseMove) || QWidget::eventFilter(watched, event);
 }
 
 void StepperControl::resizeEvent(QResizeEvent *event)
@@ -185,6 +217,9 @@ void StepperControl::resizeEvent(QResizeEvent *event)
 
 void StepperControl::keyPressEvent(QKeyEvent *event)
 {
+    m_stopped = m_stopped && event->isAutoRepeat();
+    if (m_stopped)
+        return;
     if (event->key() == Qt::Key_Up)
         step(1);
     else if (event->key() == Qt::Key_Down)

@@ -103,7 +103,8 @@ private:
     QStringList m_rows;
 };
 
-/// Two arrows without a text.
+/// Two arrows without a text. One that is held steps on by itself until it is let go or an alert opens: the alert of a
+/// held arrow would otherwise open another one with every repetition, as timers run on beneath it.
 class StepperControl : public QWidget
 {
     Q_OBJECT
@@ -116,6 +117,7 @@ class StepperControl : public QWidget
 
 public:
     explicit StepperControl(QWidget *parent = nullptr);
+    ~StepperControl() override;
 
     double minimum() const { return m_minimum; }
     double maximum() const { return m_maximum; }
@@ -130,7 +132,7 @@ public:
     QString decreaseName() const;
     void setDecreaseName(const QString &name);
 
-    /// For a person: one click on an arrow; `direction` is 1 or -1.
+    /// For a person: one click on an arrow; `direction` is 1 or -1. Nothing while an earlier step is still at work.
     void step(int direction);
 
 Q_SIGNALS:
@@ -139,10 +141,14 @@ Q_SIGNALS:
 protected:
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QToolButton *arrow(Qt::ArrowType type, int direction);
+    void stopRepeating();
 
+    bool m_stepping = false;
+    bool m_stopped = false; // until a mouse button or a key is pressed anew
     double m_minimum = 0;
     double m_maximum = 99;
     double m_increment = 1;

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QToolTip>
 
 #include <algorithm>
@@ -72,19 +73,34 @@ FieldControl::FieldControl(QWidget *parent)
     : QLineEdit(parent)
     , TextControl(static_cast<QWidget &>(*this))
 {
-    connect(this, &QLineEdit::textEdited, this, &FieldControl::edited);
+    connect(this, &QLineEdit::textChanged, this, &FieldControl::takeChange);
+}
+
+void FieldControl::takeChange()
+{
+    if (!m_byCode && (isReadOnly() || !isEnabled()))
+        return setStringValue(m_taken); // assistive technology sets the text of a locked field as well
+    m_taken = text();
+    if (!m_byCode)
+        Q_EMIT edited();
+}
+
+void FieldControl::setTextByCode(const QString &text)
+{
+    const QScopedValueRollback byCode(m_byCode, true);
+    setText(text);
 }
 
 void FieldControl::setStringValue(const QString &text)
 {
     const int cursor = cursorPosition();
-    setText(text);
+    setTextByCode(text);
     setCursorPosition(std::min(cursor, static_cast<int>(text.size())));
 }
 
 void FieldControl::paste(const QString &text)
 {
-    setText(text);
+    setTextByCode(text); // the text that stands already counts as well
     Q_EMIT edited();
 }
 

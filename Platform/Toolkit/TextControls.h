@@ -55,9 +55,12 @@ private:
     QString m_text;
 };
 
+/// Every change of the text that code does not make through `setStringValue` is an edit of a person: by keys, paste,
+/// drop, undo, input method or assistive technology, which Qt reports in different ways.
 class FieldControl : public QLineEdit, public TextControl
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ stringValue WRITE setTextByCode)
 
 public:
     explicit FieldControl(QWidget *parent = nullptr);
@@ -89,7 +92,12 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void setTextByCode(const QString &text);
+    void takeChange();
+
     bool m_expansionToolTips = true;
+    bool m_byCode = false;
+    QString m_taken; // the text before a change
 };
 
 } // namespace toolkit

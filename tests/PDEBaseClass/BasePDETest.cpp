@@ -4,9 +4,8 @@
 #include "Foundation/Bundle.h"
 #include "PPDText.h"
 #include "Print.h"
+#include "RecordingHost.h"
 #include "Results.h"
-
-#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -14,39 +13,9 @@
 #include <cstring>
 
 using support::PPDText;
+using support::RecordingHost;
 
 namespace {
-
-class RecordingHost : public PDEPluginCallback_v100_
-{
-public:
-    const printing::Session *printSession() const override { return &m_session; }
-    const printing::Settings *printSettings() const override { return &m_settings; }
-    const printing::PageFormat *pageFormat() const override { return &m_format; }
-    const printing::Printer *PMPrinter() const override { return &m_printer; }
-    ppd_file_t *ppdFile() const override { return m_ppd.get(); }
-    bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) override
-    {
-        asked.append(key + '=' + choice);
-        ppdMarkOption(m_ppd.get(), key.toUtf8().constData(), choice.toUtf8().constData());
-        return true;
-    }
-
-    void usePPD(const PPDText &text)
-    {
-        m_ppd.reset(ppdOpenFile(QFile::encodeName(text.file()).constData()));
-        ppdMarkDefaults(m_ppd.get());
-    }
-
-    QStringList asked;
-    printing::Printer m_printer;
-
-private:
-    printing::Session m_session;
-    printing::Settings m_settings;
-    printing::PageFormat m_format;
-    printing::PPDFile m_ppd;
-};
 
 /// A panel that writes down which template operations it is sent.
 class RecordingPanel : public BasePDE_v100_

@@ -5,7 +5,10 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
+#include <QInputMethodEvent>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -15,6 +18,8 @@
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 using namespace toolkit;
 
@@ -250,6 +255,137 @@ TEST_F(Steppers, StepUnderMouseAndArrowKeys)
     EXPECT_EQ(m_stepped.size(), 4);
 }
 
+/// An action that is refused with an alert, under hands that do not let go.
+class RefusingSteppers : public Steppers
+{
+protected:
+    void SetUp() override
+    {
+        Steppers::SetUp();
+        m_up = m_control.findChildren<QToolButton *>().first();
+        QObject::connect(&m_control, &StepperControl::stepped, &m_control, [] {
+            Alert alert;
+            alert.addButtonWithTitle("OK");
+            alert.runModal();
+        });
+    }
+
+    // Each way to hold the arrow: how it begins, and what comes again and again.
+    void pressMouse() { QTest::mousePress(m_up, Qt::LeftButton); }
+    void moveMouse() { QTest::mouseEvent(QTest::MouseMove, m_up, Qt::LeftButton, {}, {m_moved++ % 2 + 3, 5}); }
+    void pressKey() { sendKey(false); }
+    void repeatKey() { sendKey(true); }
+    void pressByAssistiveTechnology()
+    {
+        QAccessible::queryAccessibleInterface(m_up)->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+    }
+
+    /// Long enough for an arrow to repeat itself several times.
+    static void hold(const std::function<void()> &begin, const std::function<void()> &repeat = [] {})
+    {
+        QTimer repeating;
+        QObject::connect(&repeating, &QTimer::timeout, repeat);
+        repeating.start(50);
+        QTimer::singleShot(800, &repeating, &QTimer::stop);
+        begin();
+        QTest::qWait(900);
+    }
+    /// How many message boxes stand over the window by then; closes them.
+    int boxesUnder(const std::function<void()> &begin, const std::function<void()> &repeat = [] {})
+    {
+        int boxes = 0;
+        QTimer::singleShot(850, [&] {
+            for (QWidget *window : QApplication::topLevelWidgets())
+                boxes += window->isVisible() && qobject_cast<QMessageBox *>(window) ? 1 : 0;
+            m_control.setEnabled(boxes <= 1); // no more of them, or this test would not end either
+            while (auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                box->done(0);
+        });
+        hold(begin, repeat);
+        return boxes;
+    }
+
+    QToolButton *m_up = nullptr;
+
+private:
+    void sendKey(bool again)
+    {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Up, {}, {}, again);
+        QApplication::sendEvent(&m_control, &press);
+    }
+    int m_moved = 0;
+};
+
+TEST_F(Steppers, RepeatWhileAnArrowOrAKeyIsHeld)
+{
+    auto *const up = m_control.findChildren<QToolButton *>().first();
+    QTest::mousePress(up, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_stepped.size() >= 3; }, 3000));
+    QTest::mouseRelease(up, Qt::LeftButton);
+    const auto steps = m_stepped.size();
+    for (const bool again : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Up, {}, {}, again);
+        QApplication::sendEvent(&m_control, &press);
+    }
+    EXPECT_EQ(m_stepped.size(), steps + 3);
+}
+
+TEST_F(RefusingSteppers, ShowOneMessageBoxHoweverLongTheArrowIsHeld)
+{
+    EXPECT_EQ(boxesUnder([this] { pressMouse(); }), 1);
+    EXPECT_FALSE(m_up->isDown());
+    hold([] {}, [this] { moveMouse(); }); // the button is still held
+    QTest::mouseRelease(m_up, Qt::LeftButton);
+    EXPECT_EQ(m_stepped.size(), 1);
+    EXPECT_EQ(boxesUnder([this] { pressMouse(); }), 1); // pressed anew
+}
+
+TEST_F(RefusingSteppers, ShowOneMessageBoxHoweverLongTheKeyIsHeld)
+{
+    EXPECT_EQ(boxesUnder([this] { pressKey(); }, [this] { repeatKey(); }), 1);
+    EXPECT_EQ(m_stepped.size(), 1);
+    EXPECT_EQ(boxesUnder([this] { pressKey(); }), 1);
+}
+
+TEST_F(RefusingSteppers, ShowOneMessageBoxWhileAssistiveTechnologyPressesOn)
+{
+    const auto press = [this] { pressByAssistiveTechnology(); };
+    EXPECT_EQ(boxesUnder(press,
+                         [&, presses = 0]() mutable {
+                             if (presses++ < 10) // all beneath the message box
+                                 press();
+                         }),
+              1);
+    EXPECT_EQ(boxesUnder(press), 1);
+}
+
+TEST_F(RefusingSteppers, AlertOnceWhoeverPresentsTheAlert)
+{
+    int alerts = 0;
+    const PresentAlerts presented([&](const Alert &) { ++alerts; });
+    hold([this] { pressMouse(); }, [this] { moveMouse(); });
+    QTest::mouseRelease(m_up, Qt::LeftButton);
+    EXPECT_EQ(alerts, 1);
+    hold([this] { pressKey(); }, [this] { repeatKey(); });
+    EXPECT_EQ(alerts, 2);
+    hold([this] { pressByAssistiveTechnology(); });
+    EXPECT_EQ(alerts, 3);
+    hold([this] { pressMouse(); });
+    QTest::mouseRelease(m_up, Qt::LeftButton);
+    EXPECT_EQ(alerts, 4);
+}
+
+TEST_F(Steppers, StopUnderAnAlertThatAnotherControlOpens)
+{
+    auto *const up = m_control.findChildren<QToolButton *>().first();
+    const PresentAlerts presented([](const Alert &) {});
+    QTest::mousePress(up, Qt::LeftButton);
+    Alert().runModal();
+    QTest::qWait(900);
+    EXPECT_EQ(m_stepped.size(), 0);
+}
+
 class Fields : public InWindow<FieldControl>
 {
 protected:
@@ -266,6 +402,126 @@ TEST_F(Fields, ReportEachEditOfAPersonAndNoneOfCode)
     EXPECT_EQ(m_edited.size(), 2);
     m_control.paste("6");
     EXPECT_EQ(m_edited.size(), 3);
+}
+
+/// One way to edit the text "12", and what it leaves.
+struct Edit
+{
+    const char *name;
+    void (*perform)(FieldControl &field, QAccessibleInterface &accessible);
+    const char *becomes;
+};
+
+void PrintTo(const Edit &row, std::ostream *out) { *out << row.name; }
+
+const Edit kEdits[]{
+    {"AKey", [](FieldControl &field, QAccessibleInterface &) { QTest::keyClick(&field, '3'); }, "123"},
+    {"Backspace", [](FieldControl &field, QAccessibleInterface &) { QTest::keyClick(&field, Qt::Key_Backspace); }, "1"},
+    {"Paste",
+     [](FieldControl &field, QAccessibleInterface &) {
+         QApplication::clipboard()->setText("34");
+         QTest::keySequence(&field, QKeySequence::Paste);
+     },
+     "1234"},
+    {"Cut",
+     [](FieldControl &field, QAccessibleInterface &) {
+         field.selectAll();
+         QTest::keySequence(&field, QKeySequence::Cut);
+     },
+     ""},
+    {"Drop",
+     [](FieldControl &field, QAccessibleInterface &) {
+         QMimeData data;
+         data.setText("7");
+         const QPoint end(field.width() - 2, field.height() / 2);
+         QDragEnterEvent enter(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+         QApplication::sendEvent(&field, &enter);
+         QDropEvent drop(end, Qt::CopyAction, &data, Qt::LeftButton, {});
+         QApplication::sendEvent(&field, &drop);
+     },
+     "127"},
+    {"InputMethod",
+     [](FieldControl &field, QAccessibleInterface &) {
+         QInputMethodEvent commit;
+         commit.setCommitString("8");
+         QApplication::sendEvent(&field, &commit);
+     },
+     "128"},
+    {"AccessibleInsert",
+     [](FieldControl &, QAccessibleInterface &accessible) { accessible.editableTextInterface()->insertText(1, "5"); },
+     "152"},
+    {"AccessibleDelete",
+     [](FieldControl &, QAccessibleInterface &accessible) { accessible.editableTextInterface()->deleteText(0, 1); },
+     "2"},
+    {"AccessibleReplace",
+     [](FieldControl &, QAccessibleInterface &accessible) {
+         accessible.editableTextInterface()->replaceText(0, 2, "4.7");
+     },
+     "4.7"},
+    {"AccessibleValue",
+     [](FieldControl &, QAccessibleInterface &accessible) { accessible.setText(QAccessible::Value, "4.7"); }, "4.7"},
+};
+
+class EditedFields : public Fields, public testing::WithParamInterface<Edit>
+{
+protected:
+    void SetUp() override
+    {
+        Fields::SetUp();
+        m_control.setStringValue("12");
+        m_control.setFocus();
+        m_control.setCursorPosition(2);
+    }
+    void perform() { GetParam().perform(m_control, *QAccessible::queryAccessibleInterface(&m_control)); }
+};
+
+TEST_P(EditedFields, ReportOneEdit)
+{
+    perform();
+    EXPECT_EQ(m_control.stringValue(), GetParam().becomes);
+    EXPECT_EQ(m_edited.size(), 1);
+}
+
+TEST_P(EditedFields, TakeACorrectionWhileTheyReport)
+{
+    QObject::connect(&m_control, &FieldControl::edited, &m_control, [this] { m_control.setStringValue("9"); });
+    perform();
+    EXPECT_EQ(m_control.stringValue(), "9");
+    EXPECT_EQ(m_edited.size(), 1);
+}
+
+TEST_P(EditedFields, StayAsTheyAreWhereNobodyMayType)
+{
+    m_control.setEditable(false);
+    perform();
+    m_control.setEditable(true);
+    m_control.setEnabled(false);
+    perform();
+    EXPECT_EQ(m_control.stringValue(), "12");
+    EXPECT_EQ(m_edited.size(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(EachWay, EditedFields, testing::ValuesIn(kEdits),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(Fields, ReportUndoAsAnEdit)
+{
+    QTest::keyClicks(&m_control, "1");
+    QTest::keySequence(&m_control, QKeySequence::Undo);
+    EXPECT_EQ(m_control.stringValue(), "");
+    EXPECT_EQ(m_edited.size(), 2);
+}
+
+TEST_F(Fields, ReportNothingThatCodeSets)
+{
+    TextField field;
+    ASSERT_TRUE(field.connect(&m_control));
+    field.setStringValue("3");
+    field.setIntegerValue(4);
+    field.setDoubleValue(4.5);
+    m_control.setProperty("text", "5"); // as an interface file does
+    EXPECT_EQ(m_control.stringValue(), "5");
+    EXPECT_EQ(m_edited.size(), 0);
 }
 
 TEST_F(Fields, EndEditingWithReturnAndNotByLosingTheFocus)

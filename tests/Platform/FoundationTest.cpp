@@ -14,7 +14,10 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <clocale>
 #include <cmath>
+#include <limits>
+#include <vector>
 
 using namespace foundation;
 
@@ -259,25 +262,97 @@ TEST_F(Notifications, ReachAnObserverThatLeftAndCameBackOnlyTheNextTime)
     EXPECT_EQ(m_heard, QStringList("new"));
 }
 
-TEST(Log, FillsFormatsAndSurvivesBadOnes)
+/// One format with its arguments, and the line that it makes.
+struct Filled
 {
-    const auto filled = [](const QString &format, std::initializer_list<LogArgument> arguments) {
-        return formattedString(format, {arguments.begin(), arguments.size()});
-    };
-    EXPECT_EQ(filled("%@ %s %d %i %f %%", {QString("a"), "b", 3, 4, 1.5}), "a b 3 4 1.500000 %");
-    EXPECT_EQ(filled("%@ and %@", {"one"}), "one and (null)");
-    EXPECT_EQ(filled("%@", {static_cast<const char *>(nullptr)}), "(null)");
-    EXPECT_EQ(filled("100%", {}), "100%");
-    EXPECT_EQ(filled("%q %n", {}), "%q %n");
-    EXPECT_EQ(filled("%p", {static_cast<const void *>(nullptr)}), "0x0");
-    EXPECT_EQ(filled("no letters", {"unused"}), "no letters");
+    const char *format;
+    std::vector<LogArgument> arguments;
+    QString line;
+};
+
+void PrintTo(const Filled &row, std::ostream *out) { *out << '"' << row.format << '"'; }
+
+class LogFormat : public testing::TestWithParam<Filled>
+{};
+
+TEST_P(LogFormat, IsFilled)
+{
+    std::setlocale(LC_ALL, "de_DE.UTF-8"); // where there is one; lines do not change with it
+    EXPECT_EQ(formattedString(GetParam().format, GetParam().arguments), GetParam().line);
+    std::setlocale(LC_ALL, "C");
 }
 
-TEST(Log, GoesToQtsMessages)
+const void *const kNowhere = nullptr;
+const void *const kAddress = reinterpret_cast<const void *>(0xbeef);
+
+INSTANTIATE_TEST_SUITE_P(Conversions, LogFormat,
+                         testing::Values(Filled{"%@", {QString("ä")}, "ä"}, Filled{"%s", {"ä"}, "ä"},
+                                         Filled{"%S", {u"ä"}, "ä"}, Filled{"%d", {-3}, "-3"}, Filled{"%i", {-3}, "-3"},
+                                         Filled{"%u", {-1}, "4294967295"}, Filled{"%x", {48879}, "beef"},
+                                         Filled{"%X", {48879}, "BEEF"}, Filled{"%o", {8}, "10"},
+                                         Filled{"%c", {'A'}, "A"}, Filled{"%C", {u'Ж'}, "Ж"},
+                                         Filled{"%f", {1.5}, "1.500000"}, Filled{"%e", {1500.0}, "1.500000e+03"},
+                                         Filled{"%g", {1.5}, "1.5"}, Filled{"%a", {1.5}, "0x1.8p+0"},
+                                         Filled{"%p", {kAddress}, "0xbeef"}, Filled{"%p", {kNowhere}, "0x0"},
+                                         Filled{"%%", {}, "%"}, Filled{"no letters", {"unused"}, "no letters"},
+                                         Filled{"%@ %s, %d", {QString("a"), "b", 3}, "a b, 3"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Lengths, LogFormat,
+    testing::Values(Filled{"%hd", {65535}, "-1"}, Filled{"%hu", {-1}, "65535"}, Filled{"%hx", {0x12345}, "2345"},
+                    Filled{"%d", {0x1'0000'0001LL}, "1"}, Filled{"%ld", {-0x1'0000'0001LL}, "-4294967297"},
+                    Filled{"%lld", {std::numeric_limits<long long>::min()}, "-9223372036854775808"},
+                    Filled{"%llu", {std::numeric_limits<unsigned long long>::max()}, "18446744073709551615"},
+                    Filled{"%lx", {-1}, "ffffffffffffffff"}, Filled{"%zu", {std::size_t{5'000'000'000}}, "5000000000"},
+                    Filled{"%lf", {1.5}, "1.500000"}, Filled{"%lc", {u'Ж'}, "Ж"}, Filled{"%ls", {u"ä"}, "ä"}));
+
+INSTANTIATE_TEST_SUITE_P(FlagsWidthAndPrecision, LogFormat,
+                         testing::Values(Filled{"%5d|", {3}, "    3|"}, Filled{"%-5d|", {3}, "3    |"},
+                                         Filled{"%05d", {-3}, "-0003"}, Filled{"%+d", {3}, "+3"},
+                                         Filled{"% d", {3}, " 3"}, Filled{"%#x", {255}, "0xff"},
+                                         Filled{"%#o", {8}, "010"}, Filled{"%#d", {8}, "8"}, Filled{"%.3d", {7}, "007"},
+                                         Filled{"%*d", {4, 7}, "   7"}, Filled{"%*d|", {-4, 7}, "7   |"},
+                                         Filled{"%.*f", {1, 2.25}, "2.2"}, Filled{"%.*f", {-1, 2.25}, "2.250000"},
+                                         Filled{"%8.2f", {3.14159}, "    3.14"},
+                                         Filled{"%08.2f", {-3.14159}, "-0003.14"}, Filled{"%.f", {2.6}, "3"},
+                                         Filled{"%.2e", {1500.0}, "1.50e+03"}, Filled{"%.1a", {1.5}, "0x1.8p+0"},
+                                         Filled{"%.3g", {1234.5}, "1.23e+03"}, Filled{"%5s|", {"ab"}, "   ab|"},
+                                         Filled{"%-5@|", {QString("ab")}, "ab   |"}, Filled{"%.2s", {"abc"}, "ab"},
+                                         Filled{"%3c", {'A'}, "  A"}, Filled{"%8p", {kAddress}, "  0xbeef"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Bad, LogFormat,
+    testing::Values(Filled{"%@ and %@", {"one"}, "one and (null)"},
+                    Filled{"%d %f %s %c %p",
+                           {}, // all missing
+                           "(null) (null) (null) (null) (null)"},
+                    Filled{"%@", {static_cast<const char *>(nullptr)}, "(null)"}, Filled{"%d", {"text"}, "text"},
+                    Filled{"%f", {"text"}, "text"}, Filled{"%p", {"text"}, "text"}, Filled{"%c", {"text"}, "text"},
+                    Filled{"%s", {3}, "3"}, Filled{"%@", {2.5}, "2.5"}, Filled{"%f", {3}, "3"},
+                    Filled{"%x", {2.5}, "2.5"}, Filled{"%d", {kAddress}, "0xbeef"}, Filled{"%s", {kAddress}, "0xbeef"},
+                    Filled{"%*d", {"wide", 3}, "3"}, Filled{"%*d", {}, "(null)"}, Filled{"100%", {}, "100%"},
+                    Filled{"%q %n %", {"unused"}, "%q %n %"}, Filled{"%5.", {}, "%5."}, Filled{"%*q%d", {1}, "%*q1"},
+                    Filled{"%5%", {}, "%"}, Filled{"%999999999999d", {1}, QString(999, ' ') + '1'},
+                    Filled{"%.99999999999d", {1}, QString(999, '0') + '1'},
+                    Filled{"%*d", {std::numeric_limits<int>::min(), 1}, '1' + QString(999, ' ')}));
+
+TEST(Log, WritesLinesToStandardError)
 {
-    support::RecordMessages messages;
+    const LogSink tests = setLogSink({});
+    testing::internal::CaptureStderr();
+    NSLog("start is %@", {QString("Größe")});
+    NSLog("100%");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "start is Größe\n100%\n");
+    setLogSink(tests);
+}
+
+TEST(Log, GoesToASinkInstead)
+{
+    QStringList lines;
+    const LogSink tests = setLogSink([&](const QString &line) { lines.append(line); });
     NSLog("start is %@", {"QnMedia"});
-    EXPECT_EQ(messages.messages(), QStringList("start is QnMedia"));
+    setLogSink(tests);
+    EXPECT_EQ(lines, QStringList("start is QnMedia"));
 }
 
 } // namespace

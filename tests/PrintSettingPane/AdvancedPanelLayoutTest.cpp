@@ -107,6 +107,18 @@ TEST_F(AdvancedLifeCycle, HasANameOfItsOwnAndTheKindOfBoth)
     EXPECT_EQ(kind, "org.qnprint.printer.cups.pde.PrintSettingPDEKind");
 }
 
+TEST_F(AdvancedLifeCycle, HasTheSpeedToItself)
+{
+    open(PPDText().allOptions());
+    const auto speedControls = [&](const QString &panel) {
+        return state(panel)["panels"][panel].toObject()["controls"].toObject().keys().filter("Speed");
+    };
+    EXPECT_EQ(speedControls("advanced"), QStringList({"mSpeedPopUp", "mSpeedStr"}));
+    use("advanced");
+    EXPECT_FALSE(isHidden("mSpeedPopUp") || isHidden("mSpeedStr"));
+    EXPECT_TRUE(speedControls("basic").isEmpty());
+}
+
 TEST_F(AdvancedLifeCycle, PrintsWithoutACheckOfItsOwn)
 {
     open(PPDText().allOptions());

@@ -200,6 +200,20 @@ TEST_F(BasicInitialisation, ShowsTheLibrarysCustomChoiceInTheList)
     EXPECT_EQ(selection("mPaperFeed_Selection").toString(), "Custom");
 }
 
+TEST_F(BasicInitialisation, KnowsNoFlagOfTheRollPrinterCaseThatIsSpelledLikeTheOthers)
+{
+    for (const char *flag : {"False", "True"}) {
+        open(PPDText()
+                 .option("QnRollPrinterCase", "Roll Printer Case", "A", {{"A", "a"}, {"B", "b"}})
+                 .attribute("QnRollPrinterCaseObjHidden", flag));
+        show("basic");
+        EXPECT_FALSE(isEnabled("mRollPrintPopUp")) << flag;
+    }
+    open(PPDText().standardOption("QnRollPrinterCase").attribute("QnRollPrinterCaseObjHidden", "True"));
+    show("basic");
+    EXPECT_TRUE(isEnabled("mRollPrintPopUp"));
+}
+
 TEST_F(BasicInitialisation, HappensOnce)
 {
     open(PPDText().allOptions());

@@ -1,5 +1,16 @@
 // Typing, stepping and checking the paper feed amount.
 #include "Dialog.h"
+#include "Results.h"
+
+#include "Foundation/Locale.h"
+#include "Session/DialogSession.h"
+#include "Toolkit/Alert.h"
+
+#include <QAccessible>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
 
 using namespace support;
 
@@ -178,6 +189,36 @@ TEST_F(Amount, GoesToTheFixedTwoInchesEvenWhenThePPDAllowsLess)
     EXPECT_EQ(amount(), "2.0");
 }
 
+// The limit in inches is the PPD's in millimetres over 25.5, in single precision.
+struct LimitInInches
+{
+    const char *millimetres;
+    const char *typed;
+    int alerts;
+};
+
+void PrintTo(const LimitInInches &row, std::ostream *out) { *out << row.millimetres << " mm, " << row.typed; }
+
+class LimitsInInches : public Amount, public testing::WithParamInterface<LimitInInches>
+{};
+
+TEST_P(LimitsInInches, AreThePPDsOver25Point5InSinglePrecision)
+{
+    openIn("inch", PPDText()
+                       .standardOption("QnPaperFeed")
+                       .line("*CustomQnPaperFeed True: \"x\"")
+                       .line("*ParamCustomQnPaperFeed QnPaperFeed: 1 real 0.03 9")
+                       .line(QByteArray("*ParamCustomQnPaperFeed mm: 2 real 1 ") + GetParam().millimetres));
+    type(GetParam().typed);
+    EXPECT_EQ(alerts(), GetParam().alerts);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, LimitsInInches,
+                         testing::Values(LimitInInches{"38.2", "1.5", 1}, // over 25.4 it would do
+                                         LimitInInches{"38.2", "1.4", 0},
+                                         LimitInInches{"56.1", "2.2", 0},   // a little more than 2.2
+                                         LimitInInches{"71.4", "2.8", 1})); // a little less than 2.8
+
 struct NoLimits
 {
     const char *name;
@@ -289,6 +330,73 @@ TEST_F(Amount, StaysAsItIsWhenReturnIsPressed)
     EXPECT_EQ(amount(), "52");
     EXPECT_EQ(alerts(), 0);
     EXPECT_TRUE(marks().empty());
+}
+
+TEST_F(Amount, EndsAtThePPDsOwnMaximumAndNotAtTheDigitsThatShow)
+{
+    openIn("mm", PPDText()
+                     .standardOption("QnPaperFeed")
+                     .line("*CustomQnPaperFeed True: \"x\"")
+                     .line("*ParamCustomQnPaperFeed QnPaperFeed: 1 real 0.03 2.01")
+                     .line("*ParamCustomQnPaperFeed mm: 2 real 1 50.3"));
+    type("50");
+    step(1);
+    EXPECT_EQ(amount(), "50.2999992370605");
+    EXPECT_EQ(stepper(), static_cast<double>(50.3F)); // to the last bit
+}
+
+/// The same entry under a person's hands: the panel's real view, mouse and assistive technology.
+class AmountInHand : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        host::DialogSession::Parameters parameters;
+        parameters.ppdPath = PPDText().allOptions().file();
+        parameters.paperName = "A4";
+        m_session = value(host::DialogSession::open(parameters));
+        m_session->start(host::DialogSession::Prepare::everyPanel);
+        PDEPanel &panel = *m_session->panel("basic");
+        ASSERT_TRUE(m_session->show(panel));
+        panel.panelView()->show();
+        m_field = panel.panelView()->findChild<QLineEdit *>("mPaperFeedTxt");
+        m_stepper = panel.panelView()->findChild<QWidget *>("mPaperFeedStepper");
+        ASSERT_TRUE(m_field && m_stepper);
+    }
+    void set(const QString &text) { QAccessible::queryAccessibleInterface(m_field)->setText(QAccessible::Value, text); }
+
+    QTemporaryDir m_directory;
+    foundation::ScopedDefaults m_defaults{m_directory.filePath("defaults.ini")};
+    foundation::ScopedLocale m_locale{QLocale("de_DE")};
+    std::unique_ptr<host::DialogSession> m_session;
+    QLineEdit *m_field = nullptr;
+    QWidget *m_stepper = nullptr;
+    int m_alerts = 0;
+    toolkit::PresentAlerts m_presented{[this](const toolkit::Alert &) { ++m_alerts; }};
+};
+
+TEST_F(AmountInHand, AlertsOnceHoweverLongAnArrowIsHeld)
+{
+    set("05");
+    auto *const up = m_stepper->findChild<QToolButton *>();
+    QTest::mousePress(up, Qt::LeftButton);
+    QTest::qWait(900);
+    QTest::mouseRelease(up, Qt::LeftButton);
+    EXPECT_EQ(m_alerts, 1);
+    EXPECT_EQ(m_field->text(), "05");
+}
+
+TEST_F(AmountInHand, IsFilteredAndCheckedWhenAssistiveTechnologySetsIt)
+{
+    set("4.7");
+    EXPECT_EQ(m_field->text(), "47");
+    EXPECT_TRUE(m_session->shouldPrint());
+    EXPECT_EQ(m_alerts, 0);
+    set("52");
+    EXPECT_EQ(m_alerts, 1);
+    QAccessible::queryAccessibleInterface(m_field)->editableTextInterface()->deleteText(0, 1);
+    EXPECT_EQ(m_field->text(), "2");
+    EXPECT_EQ(m_stepper->property("value").toDouble(), 2);
 }
 
 } // namespace

@@ -1,6 +1,10 @@
 // What the summaries of both panels say.
 #include "Dialog.h"
 
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
 using namespace support;
 
 namespace {
@@ -197,6 +201,23 @@ TEST_F(Summary, KeepsAnEmptyTitleInTheOrder)
     EXPECT_EQ(entries[order(entries).first()].toString(), "Alpha");
 }
 
+TEST_F(Summary, KeepsATitleInTheOrderThatHasNoCharacterAtAll)
+{
+    // In this encoding the library makes nothing of these two bytes; any text that a PPD spells empty has a default.
+    const QByteArray text = PPDText()
+                                .option("QnMedia", "\xff\xfe", "A", {{"A", "Alpha"}})
+                                .text()
+                                .replace("*LanguageEncoding: UTF-8", "*LanguageEncoding: JIS83-RKSJ");
+    QTemporaryDir directory;
+    QFile file(directory.filePath("empty.ppd"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    file.close();
+    openFile(file.fileName(), {{"paper", "A4"}});
+    const QJsonObject entries = summary("basic");
+    EXPECT_EQ(order(entries), QStringList(""));
+    EXPECT_EQ(entries[""].toString(), "Alpha");
+}
+
 TEST_F(Summary, GivesEqualTitlesTheLaterValueAndTwoPlaces)
 {
     open(PPDText().option("QnDensity", "Same", "A", {{"A", "Dense"}}).option("QnMedia", "Same", "B", {{"B", "Paper"}}));
@@ -281,6 +302,27 @@ TEST_F(Summary, KeepsThePaperFeedWhileTheAmountIsOnlyReadOnly)
     open(PPDText().allOptions(), "PerfA4");
     show("basic");
     EXPECT_FALSE(control("mPaperFeedTxt")["editable"].toBool());
+    EXPECT_TRUE(order(summary("basic")).contains("Paper Feed"));
+}
+
+TEST_F(Summary, OmitsThePaperFeedOfTheAdvancedPanelWhereItsMenuIsDisabled)
+{
+    QTemporaryDir directory;
+    const QString bundle = directory.filePath("Copy.plugin");
+    ASSERT_EQ(QProcess::execute("cp", {"-r", QN_BUNDLE_DIR, bundle}), 0);
+    QFile form(bundle + "/Resources/PrintSettingAdvancedPDE.ui");
+    ASSERT_TRUE(form.open(QIODevice::ReadOnly));
+    const QByteArray menu = "name=\"mPaperFeedPopUp\">";
+    const QByteArray disabled =
+        form.readAll().replace(menu, menu + "<property name=\"enabled\"><bool>false</bool></property>");
+    form.close();
+    ASSERT_TRUE(form.remove() && form.open(QIODevice::WriteOnly) && form.write(disabled) == disabled.size());
+    form.close();
+
+    open(PPDText().allOptions(), "A4");
+    EXPECT_TRUE(order(summary("advanced")).contains("Paper Feed"));
+    open(PPDText().allOptions(), "A4", {{"bundle", bundle}});
+    EXPECT_FALSE(order(summary("advanced")).contains("Paper Feed"));
     EXPECT_TRUE(order(summary("basic")).contains("Paper Feed"));
 }
 

@@ -6,6 +6,7 @@
 #include "Print.h"
 
 #include <QFile>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -104,6 +105,25 @@ TEST(SettingsDump, IsAPropertyListInTheRootDirectoryOrNothingAtAll)
     PDELog_PMPrintSettings_WriteToFile(&settings, std::nullopt);
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(messages.messages().isEmpty());
+}
+
+TEST_F(OptionDump, ShowsTheOnlyChoiceOfAnOption)
+{
+    const QStringList lines = dump(PPDText().option("QnMedia", "Paper Type", "A", {{"A", "Thermal"}}), "A");
+    EXPECT_EQ(lines.value(8), "***** num_choices == 1");
+    EXPECT_EQ(lines.value(10), "***** choices->choice | A");
+    EXPECT_EQ(lines.value(11), "***** choices->text | Thermal");
+}
+
+TEST(TheBundle, CarriesTheKitAlthoughNoPanelCallsIt)
+{
+    QProcess nm;
+    nm.start("nm", {"--dynamic", "--defined-only", "--demangle", QN_BUNDLE_DIR "/QNKVPageSettings15.so"});
+    ASSERT_TRUE(nm.waitForFinished());
+    const QByteArray symbols = nm.readAllStandardOutput();
+    for (const char *function : {" PDEProlog(", " PDEEpilog(", " PDELog(", " Format(", " PDELog_ppd_option_t(",
+                                 " PDELog_PMPrintSettings_WriteToFile("})
+        EXPECT_TRUE(symbols.contains(function)) << function;
 }
 
 } // namespace

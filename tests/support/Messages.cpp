@@ -1,5 +1,7 @@
-// Qt's messages in tests.
+// Qt's messages and lines of the system log in tests.
 #include "Messages.h"
+
+#include "Foundation/SystemLog.h"
 
 #include <QStringList>
 
@@ -21,15 +23,19 @@ bool isPlatformRemark(const QString &message)
     return message.startsWith("This plugin does not support") || message.contains("XDG_RUNTIME_DIR");
 }
 
-void handle(QtMsgType type, const QMessageLogContext &, const QString &message)
+void take(const QString &message)
 {
-    if (type == QtDebugMsg || isPlatformRemark(message))
-        return;
     if (recorder)
         return recorder->record(message);
     if (std::ranges::any_of(expectations, [&](ExpectMessage *expected) { return expected->matches(message); }))
         return;
     ADD_FAILURE() << "unannounced message: " << message.toStdString();
+}
+
+void handle(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtDebugMsg && !isPlatformRemark(message))
+        take(message);
 }
 
 } // namespace
@@ -56,6 +62,10 @@ bool ExpectMessage::matches(const QString &message)
 RecordMessages::RecordMessages() { recorder = this; }
 RecordMessages::~RecordMessages() { recorder = nullptr; }
 
-void watchMessages() { qInstallMessageHandler(handle); }
+void watchMessages()
+{
+    qInstallMessageHandler(handle);
+    foundation::setLogSink(take);
+}
 
 } // namespace support

@@ -1,4 +1,4 @@
-// Qt's messages in tests: one that nobody announced fails the test that is running.
+// Qt's messages and lines of the system log in tests: one that nobody announced fails the test that is running.
 #pragma once
 
 #include <QString>
@@ -22,7 +22,7 @@ private:
     bool m_came = false;
 };
 
-/// Keeps every message of the system log while it lives, and announces them all.
+/// Keeps every message while it lives, and announces them all.
 class RecordMessages
 {
 public:

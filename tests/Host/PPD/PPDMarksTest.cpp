@@ -57,6 +57,22 @@ TEST_F(Marked, ReportsTheOptionAskedForFirstAndWhatMovedWithItsCause)
     EXPECT_EQ(effect->moved[0].cause.choice, "ThermalCopy");
 }
 
+TEST_F(Marked, ReportsTheOthersInTheOrderOfTheFile)
+{
+    open(PPDText()
+             .allOptions()
+             .line("*UIConstraints: *QnSpeed S3 *QnDensity D10")
+             .line("*UIConstraints: *QnSpeed S3 *QnMedia ThermalCopy"));
+    ASSERT_TRUE(m_marks->mark("QnMedia", "ThermalCopy"));
+    ASSERT_TRUE(m_marks->mark("QnDensity", "D10"));
+    const auto effect = m_marks->mark("QnSpeed", "S3");
+    ASSERT_TRUE(effect);
+    QStringList keywords;
+    for (const auto &changed : effect->changed)
+        keywords.append(changed.keyword);
+    EXPECT_EQ(keywords, QStringList({"QnSpeed", "QnDensity", "QnMedia"}));
+}
+
 TEST_F(Marked, ReportsNothingWhenAllIsAsBefore)
 {
     open(PPDText().allOptions());
@@ -83,6 +99,28 @@ TEST_F(Marked, GiveAJobEveryDigitAndOnlyWhatTheFileDoesNotDeclare)
     ASSERT_TRUE(m_marks->mark("QnPaperFeed", "1.0236220472"));
     EXPECT_EQ(m_marks->forJob(), (OptionValues{{"PageSize", "A4"}, {"QnPaperFeed", "Custom.1.0236220472"}}));
     EXPECT_EQ(m_marks->all()["QnPaperFeed"], "Custom.1.02362");
+}
+
+struct SavedSize
+{
+    const char *text;
+    printing::Paper points;
+    const char *inAJob;
+};
+
+TEST_F(Marked, TakeSavedSizesInEachUnit)
+{
+    for (const auto &[text, points, inAJob] :
+         {SavedSize{"Custom.100x200mm", {283.465, 566.929}, "Custom.283.465x566.929"},
+          SavedSize{"Custom.10x20cm", {283.465, 566.929}, "Custom.283.465x566.929"},
+          SavedSize{"Custom.4x6in", {288, 432}, "Custom.288x432"},
+          SavedSize{"Custom.0.5x1ft", {432, 864}, "Custom.432x864"},
+          SavedSize{"Custom.400x500pt", {400, 500}, "Custom.400x500"}}) {
+        open(PPDText().allOptions());
+        m_marks->adoptDefaults({{"PageSize", text}});
+        EXPECT_EQ(m_marks->customPageSize(), points) << text;
+        EXPECT_EQ(m_marks->forJob()["PageSize"], inAJob) << text;
+    }
 }
 
 TEST_F(Marked, TakeSizesOfTheUsersOwnWithinTheLimitsOnly)

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -66,6 +67,22 @@ TEST_F(DamagedBundle, WithoutInterfaceFilesHasPanelsThatCannotBeShown)
     EXPECT_EQ(error(), "panel \"basic\" has no interface to show");
     EXPECT_TRUE(print());
     EXPECT_EQ(marked("QnPaperSizeType"), "QnCutSize");
+}
+
+TEST_F(DamagedBundle, IsToldOfInTheLogWhateverTheEnvironmentSays)
+{
+    remove("*.ui");
+    QProcess program;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_LOGGING_RULES", "*=false");
+    environment.insert("QT_MESSAGE_PATTERN", "%{if-fatal}%{message}%{endif}");
+    program.setProcessEnvironment(environment);
+    program.start(QN_PROGRAM, {"script"});
+    program.write(QJsonDocument({{"do", "open"}, {"ppd", PPDText().allOptions().file()}, {"bundle", m_path}})
+                      .toJson(QJsonDocument::Compact));
+    program.closeWriteChannel();
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_TRUE(program.readAllStandardError().contains("has no interface file PrintSettingPDE.ui\n"));
 }
 
 class UnreadableInterface : public DamagedBundle, public testing::WithParamInterface<const char *>

@@ -1,5 +1,13 @@
 // Who is called when: opening, showing, marking, changing the paper, printing.
 #include "Dialog.h"
+#include "Results.h"
+
+#include "Session/DialogSession.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QTemporaryDir>
 
 using namespace support;
 
@@ -277,5 +285,46 @@ INSTANTIATE_TEST_SUITE_P(Versions, SystemTest,
                          testing::Values(SystemRow{"10.4.11", false}, SystemRow{"10.5.0", true},
                                          SystemRow{"10.6.0", true}, SystemRow{"11.0.0", true},
                                          SystemRow{"9.9.9", false}, SystemRow{QJsonValue(), false}));
+
+/// A bundle of two panels, of which the first marks a choice when it goes, and the second is still there.
+class LastWords : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(QDir().mkdir(m_path) && QFile::copy(QN_LAST_WORDS, m_path + "/LastWords.so"));
+        QFile info(m_path + "/Info.json");
+        ASSERT_TRUE(info.open(QIODevice::WriteOnly));
+        info.write(
+            QJsonDocument(
+                {{"executable", "LastWords.so"}, {"principalClass", "LastWords"}, {"abiVersion", kPDEInterfaceVersion}})
+                .toJson());
+        info.close();
+        host::DialogSession::Parameters parameters;
+        parameters.ppdPath = PPDText().standardOption("QnMedia").file();
+        parameters.bundlePath = m_path;
+        m_session = value(host::DialogSession::open(parameters));
+        m_session->start(host::DialogSession::Prepare::nothing);
+        ASSERT_EQ(m_session->panels().size(), 2U);
+    }
+    /// How many reports the second panel has heard.
+    QString reports() const
+    {
+        return value(host::PlugIn::load(m_path, "none")).entry->remembered().front().value.value_or("none");
+    }
+
+    QTemporaryDir m_directory;
+    QString m_path = m_directory.filePath("LastWords.plugin");
+    std::unique_ptr<host::DialogSession> m_session;
+};
+
+TEST_F(LastWords, AreReportedToNobody)
+{
+    ASSERT_TRUE(m_session->mark("QnMedia", "ThermalCopy"));
+    ASSERT_TRUE(m_session->mark("QnMedia", "Thermal"));
+    ASSERT_EQ(reports(), "2");
+    m_session.reset();
+    EXPECT_EQ(reports(), "2");
+}
 
 } // namespace
