@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
@@ -114,7 +115,7 @@ private:
 class Partner
 {
 public:
-    /// Null when it can't be started.
+    /// Null when it can't be started; `errno` says why.
     static std::unique_ptr<Partner> start(const QByteArray &program)
     {
         std::array<int, 2> ends{};
@@ -124,8 +125,9 @@ public:
         const Descriptor theirs(ends[1]);
         std::array<char *, 3> arguments{const_cast<char *>("qnprint"), const_cast<char *>(kConversation), nullptr};
         pid_t process = 0;
-        if (::posix_spawn(&process, program.constData(), SpawnFiles(theirs.number()).get(), SpawnAttributes().get(),
-                          arguments.data(), environ) != 0)
+        errno = ::posix_spawn(&process, program.constData(), SpawnFiles(theirs.number()).get(), SpawnAttributes().get(),
+                              arguments.data(), environ);
+        if (errno != 0)
             return nullptr;
         return std::unique_ptr<Partner>(new Partner(std::move(ours), process));
     }
@@ -334,7 +336,8 @@ Or<QJsonObject> converse(const QJsonObject &question, const Patience &patience, 
 {
     const auto partner = begin(question, patience, descriptor);
     if (!partner)
-        return Problem{ConversationTexts::tr("no process can be started: %1").arg(foundation::systemErrorText(errno))};
+        return Problem{ConversationTexts::tr("no process can be started: %1").arg(foundation::systemErrorText(errno)),
+                       Problem::Kind::unanswered};
     return Listening(*partner, patience, stop).answer(tell);
 }
 

@@ -6,7 +6,6 @@
 namespace host {
 
 using foundation::Or;
-using foundation::Problem;
 
 PrinterFinder::PrinterFinder(QObject *parent)
     : QObject(parent)

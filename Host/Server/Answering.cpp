@@ -120,13 +120,13 @@ void tell(const QJsonObject &json)
 }
 
 /// Whatever comes after the question asks us to stop: a line, or the end of the dialog.
-void stopWhenTold(std::stop_source stop)
+void stopWhenTold(const std::stop_source &stop)
 {
     char byte = 0;
     ssize_t count = 1;
     while (count > 0 || (count < 0 && errno == EINTR)) {
         count = ::recv(kDialog, &byte, 1, 0);
-        dialogHasGone = count == 0;
+        dialogHasGone = count == 0 || (count < 0 && errno != EINTR);
         stop.request_stop();
     }
     std::this_thread::sleep_for(kTimeAlone);

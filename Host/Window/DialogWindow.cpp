@@ -3,6 +3,7 @@
 
 #include "ui_DialogWindow.h"
 
+#include "Foundation/PlainText.h"
 #include "Jobs/PageRanges.h"
 #include "Toolkit/TextControls.h"
 
@@ -23,7 +24,7 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
     , m_cancel(nullptr)
 {
     m_ui->setupUi(this);
-    const QString title = m_dialog.documentName();
+    const QString title = foundation::plainLine(m_dialog.documentName());
     setWindowTitle(title.isEmpty() ? tr("Print") : tr("Print %1").arg(title));
     m_ui->tabs->setDrawBase(false);
     m_ui->tabs->setExpanding(false);
@@ -128,7 +129,7 @@ void DialogWindow::showAmount()
 
 void DialogWindow::showMessage()
 {
-    m_ui->message->setText(m_dialog.message());
+    m_ui->message->setText(foundation::withoutControls(m_dialog.message()));
     m_ui->message->setVisible(!m_dialog.message().isEmpty());
 }
 

@@ -1,8 +1,10 @@
 // User defaults over QSettings.
 #include "UserDefaults.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 
 #include <utility>
 
@@ -15,11 +17,14 @@ constexpr auto kNowhere = "/proc/none/qnprint.conf"; // nothing is read there, a
 /// Reading what is no file might never end.
 std::unique_ptr<QSettings> ownStore()
 {
-    auto store = std::make_unique<QSettings>();
-    const QFileInfo file(store->fileName());
-    if (!file.exists() || file.isFile())
-        return store;
-    return std::make_unique<QSettings>(kNowhere, QSettings::IniFormat);
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + '/';
+    const QString organization = QCoreApplication::organizationName();
+    for (const QString &name : {organization, organization + '/' + QCoreApplication::applicationName()}) {
+        const QFileInfo file(folder + name + ".conf");
+        if (file.exists() && !file.isFile())
+            return std::make_unique<QSettings>(kNowhere, QSettings::IniFormat);
+    }
+    return std::make_unique<QSettings>();
 }
 
 } // namespace

@@ -4,12 +4,16 @@
 #include "Foundation/Bundle.h"
 #include "Foundation/Locale.h"
 #include "Foundation/NotificationCenter.h"
+#include "Foundation/PlainText.h"
 #include "Foundation/SystemLog.h"
 #include "Foundation/SystemVersion.h"
 #include "Foundation/Text.h"
 #include "Foundation/UserDefaults.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <QTextDocument>
 
 #include <gtest/gtest.h>
 
@@ -17,6 +21,7 @@
 #include <clocale>
 #include <cmath>
 #include <limits>
+#include <sys/stat.h>
 #include <vector>
 
 using namespace foundation;
@@ -353,6 +358,62 @@ TEST(Log, GoesToASinkInstead)
     NSLog("start is %@", {"QnMedia"});
     setLogSink(tests);
     EXPECT_EQ(lines, QStringList("start is QnMedia"));
+}
+
+struct Outside
+{
+    QString text;
+    QString line;
+};
+
+void PrintTo(const Outside &row, std::ostream *out) { *out << row.line.left(20).toStdString(); }
+
+class TextFromOutside : public testing::TestWithParam<Outside>
+{};
+
+TEST_P(TextFromOutside, IsOneHarmlessLine) { EXPECT_EQ(foundation::plainLine(GetParam().text), GetParam().line); }
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, TextFromOutside,
+    testing::Values(Outside{"plain", "plain"}, Outside{"", ""}, Outside{"two\nlines", "two lines"},
+                    Outside{"\x1b]0;title\x07 red \x1b[31m", "]0;title red [31m"},
+                    Outside{QString("a\u2028b\u2029c\u0085d"), "a b c d"}, Outside{QString("gnp\u202exe"), "gnp xe"},
+                    Outside{QString("\u2066x\u2069\ufeff"), "x"},
+                    Outside{QString("Grüße 印刷 😀"), QString("Grüße 印刷 😀")},
+                    Outside{"<b>&amp;</b>", "<b>&amp;</b>"},
+                    Outside{QString(1000, 'x'), QString(299, 'x') + QChar(0x2026)},
+                    Outside{QString(298, 'x') + QString("😀").repeated(9), QString(298, 'x') + QChar(0x2026)}));
+
+TEST(TextForToolTips, ShowsAsItIs)
+{
+    const QString text = "<img src='/dev/zero'> & \"a\"\n  b";
+    QTextDocument shown;
+    shown.setHtml(foundation::asHtml(text));
+    EXPECT_EQ(shown.toPlainText(), text);
+    EXPECT_TRUE(Qt::mightBeRichText(foundation::asHtml(text))); // or the escapes would be seen
+}
+
+TEST(TextForPrograms, StaysWhole)
+{
+    const QString path = "/out/" + QString(2000, 'x') + "/a  b.pdf";
+    EXPECT_EQ(foundation::withoutControls(path), path);
+    EXPECT_EQ(foundation::withoutControls("a\nb\x1b"), "a b ");
+}
+
+TEST(OwnDefaults, AreNotReadFromAPipe)
+{
+    const QTemporaryDir folder;
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    const QString path = folder.filePath("qnprint/qnprint-tests.conf");
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    auto &defaults = foundation::UserDefaults::standard();
+    const auto earlier = defaults.useStore(nullptr);
+    EXPECT_EQ(defaults.objectForKey("x"), std::nullopt); // and nobody waits for a writer
+    defaults.setObjectForKey("1", "x");
+    EXPECT_EQ(defaults.objectForKey("x"), "1");
+    defaults.useStore(nullptr);
+    EXPECT_FALSE(QFileInfo(path).isFile());
 }
 
 } // namespace

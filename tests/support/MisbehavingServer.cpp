@@ -357,6 +357,12 @@ void MisbehavingServer::adoptEnvironment() const
     host::setConversationProgram(QN_PROGRAM);
 }
 
+void MisbehavingServer::mend()
+{
+    const std::scoped_lock lock(m_mutex);
+    m_faults.clear();
+}
+
 QList<Step> MisbehavingServer::asked() const
 {
     const std::scoped_lock lock(m_mutex);
@@ -391,14 +397,16 @@ void MisbehavingServer::serve(int socket)
         const int operation = request->isGet ? 0 : at[2] << 8 | at[3];
         const quint32 id = request->isGet ? 0 : quint32{at[4]} << 24 | at[5] << 16 | at[6] << 8 | at[7];
         const Step step = request->isGet ? Step::ppd : stepOf(operation);
+        std::optional<Mode> fault;
         {
             const std::scoped_lock lock(m_mutex);
             m_asked.append(step);
+            if (m_faults.contains(step))
+                fault = m_faults[step];
         }
         const QByteArray type = request->isGet ? "application/vnd.cups-ppd" : kIpp;
         const QByteArray body = request->isGet ? kPPD : answerTo(step, id, m_port);
-        const bool goesOn = m_faults.contains(step) ? misbehave(connection, m_faults[step], body, id, type)
-                                                    : connection.say(http(body, type));
+        const bool goesOn = fault ? misbehave(connection, *fault, body, id, type) : connection.say(http(body, type));
         if (!goesOn)
             return;
     }

@@ -50,6 +50,8 @@ public:
     MisbehavingServer(const MisbehavingServer &) = delete;
     MisbehavingServer &operator=(const MisbehavingServer &) = delete;
 
+    /// From now on it answers well.
+    void mend();
     /// Makes it the server of this process, once and for good; files of the user go into a folder of its own.
     void adoptEnvironment() const;
     /// The environment in which programs find this server and no other.

@@ -10,6 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <sys/wait.h>
+#include <thread>
+
 using namespace host;
 using namespace std::chrono_literals;
 using support::MisbehavingServer;
@@ -127,6 +131,28 @@ INSTANTIATE_TEST_SUITE_P(At, FaultsWhileLooking,
 INSTANTIATE_TEST_SUITE_P(AtAFile, FaultsWhileLooking,
                          testing::Values(Fault{{Step::ppd, "PPD"}, {Mode::hugeLength, "HugeLength"}}), nameOf);
 
+class FaultsOfThePPD : public Faults
+{};
+
+TEST_P(FaultsOfThePPD, AreForgottenWhenTheServerIsWellAgain)
+{
+    begin({{step(), mode()}});
+    EXPECT_FALSE(findQueue({"counter", {}}, {}, kPatience));
+    m_server->mend();
+    const auto queue = value(findQueue({"counter", {}}, {}, kPatience));
+    ASSERT_TRUE(queue.ppd);
+    const auto ppd = value(PPDDocument::open(queue.ppd->path));
+    EXPECT_TRUE(ppd->hasOption("QnReversal")); // in the last part of the file
+    EXPECT_TRUE(ppd->hasOption("QnMedia"));
+}
+
+INSTANTIATE_TEST_SUITE_P(At, FaultsOfThePPD,
+                         testing::Values(Fault{{Step::ppd, "PPD"}, {Mode::halfAnAnswer, "HalfAnAnswer"}},
+                                         Fault{{Step::ppd, "PPD"}, {Mode::rubbishInTheAnswer, "RubbishInTheAnswer"}},
+                                         Fault{{Step::ppd, "PPD"}, {Mode::hugeLength, "HugeLength"}},
+                                         Fault{{Step::ppd, "PPD"}, {Mode::endlessBody, "EndlessBody"}}),
+                         nameOf);
+
 class FaultsWhilePrinting : public Faults
 {};
 
@@ -158,6 +184,48 @@ TEST(AnAnswer, CountsWhenItIsWholeWhateverItsLengthIsSaidToBe)
         EXPECT_EQ(value(sink.submit({document, "invoice", 1, {}, {}}, [](qint64, qint64) {}, {})), "counter-7")
             << step.name;
     }
+}
+
+TEST(AConversation, SpeaksTheLanguageOfTheDialog)
+{
+    const MisbehavingServer server({{Step::standard, Mode::rubbish}});
+    server.adoptEnvironment();
+    setConversationLanguage("de_AT");
+    EXPECT_EQ(sentence(findQueue({"counter", {}}, {}, kPatience)),
+              "counter: der CUPS-Server hat keine richtige Antwort gegeben");
+}
+
+TEST(AConversation, EndsAtOnceWhenItIsStopped)
+{
+    const MisbehavingServer server({{Step::standard, Mode::endlessContinue}});
+    server.adoptEnvironment();
+    std::stop_source stop;
+    std::jthread person([&] {
+        while (!server.wasAsked(Step::standard))
+            std::this_thread::sleep_for(1ms);
+        stop.request_stop();
+    });
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(sentence(findQueue({"counter", {}}, stop.get_token())), "counter: stopped");
+    EXPECT_LT(clock.elapsed(), 10000); // a third of its patience
+}
+
+TEST(AConversation, IsLedByAProcessThatIsGoneAfterwards)
+{
+    const MisbehavingServer server({});
+    server.adoptEnvironment();
+    ASSERT_TRUE(findQueue({"counter", {}}, {}, kPatience));
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1); // no child is left, not even a dead one
+    EXPECT_EQ(errno, ECHILD);
+}
+
+TEST(AConversation, SaysThatItCannotBegin)
+{
+    setConversationProgram("/no/such/program");
+    EXPECT_EQ(sentence(findQueue({"counter", {}}, {}, kPatience)),
+              "counter: no process can be started: No such file or directory");
+    setConversationProgram(QN_PROGRAM);
 }
 
 TEST(AWellBehavedServer, IsFoundAndPrintedOn)

@@ -211,6 +211,40 @@ TEST_F(Saved, SurviveWhateverTheFileHolds)
     EXPECT_EQ(content(), odd + "\nDest counter/mine QnSpeed=S1\n"); // what is not understood is kept all the same
 }
 
+TEST_F(Saved, RefuseAValueThatWouldBeMoreThanOneLine)
+{
+    ASSERT_TRUE(SavedOptions("counter").save("kept", {{"a", "1"}}));
+    const auto saved = SavedOptions("counter").save("bad", {{"x", "a\nDest third y=1"}, {"tab", "1"}});
+    EXPECT_TRUE(support::sentence(saved).contains("line end"));
+    EXPECT_EQ(SavedOptions("counter").presets(), QStringList("kept"));
+    EXPECT_EQ(SavedOptions("third").options(), OptionValues());
+}
+
+TEST_F(Saved, LeaveNoFileBehindNotEvenOneOfAnEarlierCrash)
+{
+    const QDir folder(QDir::homePath() + "/.cups");
+    ASSERT_TRUE(QDir().mkpath(folder.path()));
+    QFile left(folder.filePath("lpoptions.qnprint-new"));
+    ASSERT_TRUE(left.open(QIODevice::WriteOnly) && left.write("half a li") > 0);
+    left.close();
+    ASSERT_TRUE(SavedOptions("counter").save("kept", {{"a", "1"}}));
+    EXPECT_EQ(folder.entryList(QDir::Files | QDir::Hidden), QStringList("lpoptions"));
+    EXPECT_EQ(SavedOptions("counter").options("kept"), (OptionValues{{"a", "1"}}));
+}
+
+TEST_F(Saved, GoIntoTheFileBehindALink)
+{
+    const QDir folder(QDir::homePath() + "/.cups");
+    ASSERT_TRUE(QDir().mkpath(folder.path()));
+    QFile real(folder.filePath("mine"));
+    ASSERT_TRUE(real.open(QIODevice::WriteOnly));
+    real.close();
+    ASSERT_TRUE(QFile::link(real.fileName(), folder.filePath("lpoptions")));
+    ASSERT_TRUE(SavedOptions("counter").save("kept", {{"a", "1"}}));
+    EXPECT_TRUE(QFileInfo(folder.filePath("lpoptions")).isSymLink());
+    EXPECT_GT(QFileInfo(real).size(), 0);
+}
+
 TEST_F(Saved, AreNotWrittenOverAFileThatCannotBeRead)
 {
     QDir(m_home.path()).mkpath(".cups/lpoptions"); // a folder in its place

@@ -4,6 +4,7 @@
 #include "Print.h"
 #include "Results.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -104,6 +105,7 @@ TEST_F(Documents, AreReadByDescriptorOnceTheyAreOpen)
 
 TEST_F(Documents, ComeFromStandardInputToo)
 {
+    qputenv("TMPDIR", m_directory.path().toUtf8());
     int ends[2];
     ASSERT_EQ(::pipe(ends), 0);
     const int before = ::dup(STDIN_FILENO);
@@ -117,6 +119,8 @@ TEST_F(Documents, ComeFromStandardInputToo)
     ::close(ends[0]);
     const auto document = value(opened);
     EXPECT_EQ(document->title(), "standard input");
+    EXPECT_EQ(QDir(m_directory.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList()); // not even while it is open
     EXPECT_EQ(document->read(), text);
 }
 

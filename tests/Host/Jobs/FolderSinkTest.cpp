@@ -12,8 +12,16 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstddef>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <thread>
+#include <utility>
 
 using namespace host;
 using support::sentence;
@@ -108,6 +116,135 @@ TEST_F(Folder, KeepsNothingWhenTheDiskIsFull)
     EXPECT_TRUE(sentence(result).startsWith(m_out + ": ")) << sentence(result).toStdString();
     EXPECT_TRUE(files().isEmpty()) << files().join(' ').toStdString();
 }
+
+/// What becomes of the file after its first part has gone.
+struct Change
+{
+    const char *name;
+    void (*make)(QFile &file);
+};
+
+void PrintTo(const Change &row, std::ostream *out) { *out << row.name; }
+
+class ChangesOfTheDocument : public Folder, public testing::WithParamInterface<Change>
+{};
+
+TEST_P(ChangesOfTheDocument, WhileItIsPrintedAreNoticed)
+{
+    document("growing.txt", QByteArray(400000, 'x'));
+    QFile file(m_directory.filePath("growing.txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    FolderSink sink(m_out);
+    bool isChanged = false;
+    const auto sent = sink.submit({m_document, "growing.txt", 1, {}, {}},
+                                  [&](qint64, qint64) {
+                                      if (!std::exchange(isChanged, true))
+                                          GetParam().make(file);
+                                  },
+                                  {});
+    EXPECT_EQ(sentence(sent), m_out + ": growing.txt: has changed while it was printed");
+    EXPECT_TRUE(files().isEmpty()) << files().join(' ').toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, ChangesOfTheDocument,
+                         testing::Values(Change{"Cut", [](QFile &file) { file.resize(100000); }},
+                                         Change{"Emptied", [](QFile &file) { file.resize(0); }},
+                                         Change{"Longer",
+                                                [](QFile &file) {
+                                                    file.seek(file.size());
+                                                    file.write("more");
+                                                    file.flush();
+                                                }},
+                                         Change{"WrittenAnew",
+                                                [](QFile &file) {
+                                                    file.write(QByteArray(400000, 'y'));
+                                                    file.flush();
+                                                }}),
+                         [](const auto &row) { return row.param.name; });
+
+TEST_F(Folder, TakesADocumentThatChangedBeforeItWasPrinted)
+{
+    QFile file(m_directory.filePath("ticket.pdf"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("%PDF-1.4 another ticket") > 0);
+    file.close();
+    ASSERT_TRUE(submit());
+    EXPECT_EQ(content("ticket.pdf"), "%PDF-1.4 another ticket");
+}
+
+/// Titles and what is left of them: at most 240 bytes, and whole characters.
+struct Title
+{
+    QString title;
+    QString base;
+};
+
+void PrintTo(const Title &row, std::ostream *out) { *out << row.title.left(10).toStdString() << "..."; }
+
+class LongTitles : public Folder, public testing::WithParamInterface<Title>
+{};
+
+TEST_P(LongTitles, FitIntoTheFolder)
+{
+    ASSERT_TRUE(submit(GetParam().title)); // no dot in it: nothing to take off
+    ASSERT_TRUE(submit(GetParam().title));
+    EXPECT_TRUE(files().contains(GetParam().base + ".pdf")) << files().join(' ').toStdString();
+    EXPECT_TRUE(files().contains(GetParam().base + "-2.json"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, LongTitles,
+                         testing::Values(Title{QString(90, u'\u5370'), QString(80, u'\u5370')},
+                                         Title{QString(300, u'a'), QString(240, u'a')},
+                                         Title{QString("😀").repeated(100), QString("😀").repeated(60)},
+                                         Title{"a" + QString("😀").repeated(100), "a" + QString("😀").repeated(59)},
+                                         Title{QString(239, u'a') + "ü", QString(239, u'a')}));
+
+/// Makes system calls fail in this thread, as on a file system that lacks them.
+void refuse(const std::vector<std::pair<int, int>> &callsAndErrors)
+{
+    std::vector<sock_filter> program{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
+    for (const auto &[call, error] : callsAndErrors) {
+        program.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(call), 0, 1));
+        program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | static_cast<unsigned>(error)));
+    }
+    program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
+    const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
+    ASSERT_EQ(::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0), 0);
+    ASSERT_EQ(::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter), 0);
+}
+
+struct FileSystem
+{
+    const char *name;
+    std::vector<std::pair<int, int>> lacks; // system calls and their errors
+};
+
+void PrintTo(const FileSystem &row, std::ostream *out) { *out << row.name; }
+
+class FileSystems : public Folder, public testing::WithParamInterface<FileSystem>
+{};
+
+TEST_P(FileSystems, TakeJobsBesideEachOther)
+{
+    std::thread([this] {
+        refuse(GetParam().lacks);
+        EXPECT_EQ(value(submit()), m_out + "/ticket.pdf");
+        QFile other(m_out + "/ticket-2.json"); // of somebody else: the second job's ticket can't have its name
+        ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+        EXPECT_EQ(value(submit()), m_out + "/ticket-3.pdf");
+    }).join();
+    EXPECT_EQ(files(), QStringList({"ticket-2.json", "ticket-3.json", "ticket-3.pdf", "ticket.json", "ticket.pdf"}));
+    EXPECT_EQ(content("ticket.pdf"), "%PDF-1.4 a ticket");
+    EXPECT_EQ(content("ticket-3.pdf"), "%PDF-1.4 a ticket");
+    EXPECT_EQ(content("ticket-2.json"), "");
+    EXPECT_TRUE(content("ticket-3.json").contains("ticket-3.pdf"));
+    EXPECT_EQ(QFile::permissions(m_out + "/ticket.pdf") & (QFile::ReadGroup | QFile::ReadOther), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, FileSystems,
+                         testing::Values(FileSystem{"WithLinks", {}}, FileSystem{"WithoutLinks", {{SYS_linkat, EPERM}}},
+                                         FileSystem{"WithoutLinksAndSafeRenames",
+                                                    {{SYS_linkat, EPERM}, {SYS_renameat2, EINVAL}}}),
+                         [](const auto &row) { return row.param.name; });
 
 TEST_F(Folder, ThatCannotBeWrittenIsNamed)
 {

@@ -41,6 +41,24 @@ TEST_F(Marked, AreTheDefaultsAtFirst)
     EXPECT_EQ(m_marks->choiceOf("QnNothing"), "");
 }
 
+class NamesOfOthers : public Marked, public testing::WithParamInterface<const char *>
+{};
+
+TEST_P(NamesOfOthers, AreNoOptionsOfAJobWhateverThePPDSays)
+{
+    const QString name = GetParam();
+    open(PPDText().allOptions().option(GetParam(), "Text", "C0", {{"C0", "First"}, {"C1", "Second"}}));
+    ASSERT_TRUE(m_marks->mark(name, "C1"));
+    ASSERT_TRUE(m_marks->mark("QnMedia", "ThermalCopy"));
+    EXPECT_FALSE(m_marks->forJob().contains(name));
+    EXPECT_TRUE(m_marks->forJob().contains("QnMedia"));
+    EXPECT_EQ(m_document->unknownAmong({{name, "2"}, {"QnMedia", "Thermal"}}), (OptionValues{{name, "2"}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, NamesOfOthers,
+                         testing::Values("copies", "media", "job-name", "document-format", "Job-Name", "raw", "sides",
+                                         "requesting-user-name", "job-sheets=classified"));
+
 TEST_F(Marked, ReportsTheOptionAskedForFirstAndWhatMovedWithItsCause)
 {
     open(withConstraint());

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 using support::CupsServer;
 
 namespace {
@@ -321,7 +323,29 @@ TEST_F(CupsPrinting, EndsWhenTheServerKeepsSilent)
     EXPECT_EQ(m_server.recordCount(), 0);
 }
 
-TEST_F(CupsPrinting, CancelsTheJobWhenItIsInterrupted)
+TEST_F(CupsPrinting, FetchesAPPDAgainWhenTheKeptOneIsDamaged)
+{
+    QThread::msleep(2100); // in the second of a change the server can't tell whether there was a further one
+    ASSERT_EQ(print({"-d", "counter", kTicket}), 0);
+    const auto files = QDir(m_server.path("home/cache/qnprint/qnprint/ppd")).entryInfoList(QDir::Files);
+    ASSERT_EQ(files.size(), 1);
+    ASSERT_TRUE(QFile::resize(files[0].filePath(), 3721));
+    EXPECT_EQ(print({"-d", "counter", "-o", "QnReversal=NONSENSE", kTicket}), 1); // as the whole one knows
+    EXPECT_GT(QFileInfo(files[0].filePath()).size(), 3721);
+}
+
+struct Ending
+{
+    const char *name;
+    int signal;
+};
+
+void PrintTo(const Ending &row, std::ostream *out) { *out << row.name; }
+
+class Endings : public CupsPrinting, public testing::WithParamInterface<Ending>
+{};
+
+TEST_P(Endings, LeaveNoJobBehind)
 {
     ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0); // nothing of the job may be printed before
     const QString large = m_server.path("tmp/large.txt");
@@ -336,13 +360,23 @@ TEST_F(CupsPrinting, CancelsTheJobWhenItIsInterrupted)
     for (int i = 0; i < 1000 && !isReceiving(); ++i)
         QThread::msleep(5);
     ASSERT_TRUE(isReceiving());
-    program.terminate();
+    ::kill(static_cast<pid_t>(program.processId()), GetParam().signal);
     ASSERT_TRUE(program.waitForFinished(20000));
-    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(program.exitCode(), 1);
-    EXPECT_TRUE(program.readAllStandardError().contains("qnprint: counter: stopped"));
-    EXPECT_EQ(m_server.openJobs(), "");
-    EXPECT_EQ(m_server.spooled(), QStringList());
+    if (GetParam().signal != SIGKILL) {
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(program.exitCode(), 1);
+        EXPECT_TRUE(program.readAllStandardError().endsWith("qnprint: counter: stopped\n"));
+    }
+    // After a kill, what talks with the server finds itself alone and takes the job back.
+    const auto isGone = [this] { return m_server.openJobs().isEmpty() && m_server.spooled().isEmpty(); };
+    for (int i = 0; i < 100 && GetParam().signal == SIGKILL && !isGone(); ++i)
+        QThread::msleep(100);
+    EXPECT_TRUE(isGone());
 }
+
+INSTANTIATE_TEST_SUITE_P(By, Endings,
+                         testing::Values(Ending{"Interrupt", SIGINT}, Ending{"Terminate", SIGTERM},
+                                         Ending{"HangUp", SIGHUP}, Ending{"Kill", SIGKILL}),
+                         [](const auto &row) { return row.param.name; });
 
 } // namespace

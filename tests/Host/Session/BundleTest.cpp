@@ -1,6 +1,7 @@
 // Bundles that lack something, or are something else: one clear sentence, and whatever works goes on working.
 #include "Dialog.h"
 #include "Messages.h"
+#include "Session/PlugIn.h"
 
 #include <QDir>
 #include <QFile>
@@ -204,6 +205,30 @@ TEST_F(DamagedBundle, WithoutItsCodeOrWithOtherCodeIsRefused)
     EXPECT_TRUE(refusal().size() > 2);
     ASSERT_TRUE(QFile::remove(m_path + "/QNKVPageSettings15.so"));
     EXPECT_TRUE(refusal().size() > 2);
+}
+
+TEST_F(DamagedBundle, WithAPipeInPlaceOfAFileIsRefusedAtOnce)
+{
+    for (const QString &name : {QString("QNKVPageSettings15.so"), QString("Info.json")}) {
+        ASSERT_TRUE(QFile::remove(m_path + '/' + name));
+        ASSERT_EQ(::mkfifo(QFile::encodeName(m_path + '/' + name).constData(), 0600), 0);
+        EXPECT_TRUE(refusal().contains(": not a file")) << refusal().toStdString();
+    }
+}
+
+TEST_F(DamagedBundle, OfAnotherInterfaceVersionDoesNotStandInTheWayOfOneThatFits)
+{
+    write("Info.json", R"({"executable":"x","principalClass":"y","abiVersion":99})");
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QFile::link(m_path, folder.filePath("A.plugin")));
+    ASSERT_TRUE(QFile::link(QN_BUNDLE_DIR, folder.filePath("B.plugin")));
+    const QByteArray before = qgetenv("QNPRINT_PLUGIN_PATH");
+    qputenv("QNPRINT_PLUGIN_PATH", folder.path().toUtf8());
+    EXPECT_EQ(host::findBundle(std::nullopt), folder.filePath("B.plugin"));
+    ASSERT_TRUE(QFile::remove(folder.filePath("B.plugin")));
+    ASSERT_TRUE(QFile::link(m_path, folder.filePath("B.plugin")));
+    EXPECT_EQ(host::findBundle("B.plugin"), folder.filePath("B.plugin")); // the PPD's own, whatever it is like
+    qputenv("QNPRINT_PLUGIN_PATH", before);
 }
 
 TEST_F(DamagedBundle, OfAnotherPrincipalClassIsNotAccepted)
