@@ -2,6 +2,8 @@
 // filters of a printer do.
 #include "PPDDocument.h"
 
+#include "PPDLimits.h"
+
 #include "Foundation/RegularFile.h"
 
 #include <cstring>
@@ -65,6 +67,8 @@ Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path)
         return content.problem();
     if ((*content)->size() == 0)
         return Problem{tr("%1: not a PPD file (the file is empty)").arg(path)};
+    if (const auto within = checkPPDLimits(**content); !within)
+        return Problem{tr("%1: not opened (%2)").arg(path, within.problem().sentence)};
     printing::PPDFile file(ppdOpenFd(::dup((*content)->handle()))); // closes the descriptor that it is given
     if (!file) {
         int line = 0;

@@ -3,12 +3,17 @@
 #include "PPDMarks.h"
 
 #include <cstring>
+#include <span>
 
 namespace host {
 
 namespace {
 
 constexpr auto kPageRegion = "PageRegion";
+
+/// Conflicts times constraints: beyond this the library looks for a way out for longer than a person waits, and where
+/// so much conflicts there is hardly one. The choices stay then as they were made.
+constexpr qint64 kMostToCompare = 1'500'000;
 
 QString text(const char *bytes) { return QString::fromUtf8(bytes); }
 
@@ -22,7 +27,38 @@ PPDMarks::PPDMarks(PPDDocument &document)
         if (auto custom = CustomValue::fromText(text(option->defchoice)))
             m_customValues.insert(option, *std::move(custom));
     }
+    findConstrainedOptions();
     ppdMarkDefaults(m_document.file());
+}
+
+void PPDMarks::findConstrainedOptions()
+{
+    ppd_file_t *const ppd = m_document.file();
+    const auto add = [&](const QByteArray &keyword) {
+        if (const ppd_option_t *option = ppdFindOption(ppd, keyword.constData()))
+            m_constrained.insert(option);
+    };
+    for (const ppd_const_t &each : std::span(ppd->consts, static_cast<std::size_t>(ppd->num_consts))) {
+        add(each.option1);
+        add(each.option2);
+    }
+    m_constraints = ppd->num_consts;
+    const char *const name = "cupsUIConstraints"; // whose value is "*Option Choice *Option Choice …"
+    for (const ppd_attr_t *each = ppdFindAttr(ppd, name, nullptr); each; each = ppdFindNextAttr(ppd, name, nullptr)) {
+        ++m_constraints;
+        for (const QByteArray &word : QByteArray(each->value).split(' '))
+            if (word.startsWith('*'))
+                add(word.sliced(1));
+    }
+}
+
+/// All that resolving depends on.
+QByteArray PPDMarks::situation(const ppd_option_t *asked) const
+{
+    QByteArray text = m_constrained.contains(asked) ? QByteArray(asked->keyword) : QByteArray();
+    for (const ppd_option_t *option : m_constrained)
+        text += QByteArray(" ") + markedKeyword(*option);
+    return text;
 }
 
 void PPDMarks::adoptDefaults(const OptionValues &values)
@@ -84,14 +120,20 @@ void PPDMarks::markOne(ppd_option_t &option, const ChoiceValue &choice)
 /// Without an option asked for, every choice may be moved.
 std::vector<PPDMarks::Move> PPDMarks::resolveConflicts(const ppd_option_t *asked, const ChoiceValue &choice)
 {
-    if (ppdConflicts(m_document.file()) == 0)
+    const int conflicts = ppdConflicts(m_document.file());
+    if (conflicts == 0 || qint64{conflicts} * m_constraints > kMostToCompare)
+        return {};
+    const QByteArray now = situation(asked);
+    if (now == m_hopeless)
         return {};
     std::vector<Move> moves;
     printing::CupsOptions resolved;
     const QByteArray favoured = choice.text().toUtf8();
     if (!printing::resolveConflicts(m_document.file(), asked ? asked->keyword : nullptr,
-                                    asked ? favoured.constData() : nullptr, resolved))
+                                    asked ? favoured.constData() : nullptr, resolved)) {
+        m_hopeless = now;
         return {};
+    }
     for (const cups_option_t &each : resolved) {
         ppd_option_t *const moved = ppdFindOption(m_document.file(), each.name);
         if (!moved || moved == asked)

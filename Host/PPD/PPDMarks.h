@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+#include <set>
+
 namespace host {
 
 class PPDMarks
@@ -63,6 +65,8 @@ private:
     void markOne(ppd_option_t &option, const ChoiceValue &choice);
     std::vector<Move> resolveConflicts(const ppd_option_t *asked, const ChoiceValue &choice);
     Choice causeOf(const Choice &moved, const ppd_option_t *asked) const;
+    void findConstrainedOptions();
+    QByteArray situation(const ppd_option_t *asked) const;
     const char *markedKeyword(const ppd_option_t &option) const;
     ChoiceValue marked(const ppd_option_t &option) const;
     Keywords keywords() const;
@@ -71,6 +75,9 @@ private:
     PPDDocument &m_document;
     std::vector<QByteArray> m_declaredDefaults;              // beside the document's options
     QHash<const ppd_option_t *, CustomValue> m_customValues; // as they were asked for
+    std::set<const ppd_option_t *> m_constrained;            // options that a constraint names
+    int m_constraints = 0;
+    QByteArray m_hopeless; // the last situation in which no choices agree
 };
 
 } // namespace host

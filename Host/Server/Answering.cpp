@@ -33,6 +33,12 @@ constexpr rlim_t kBytesOfMemory = rlim_t{200} * 1024 * 1024; // beyond those tha
 constexpr rlim_t kBytesOfFile = rlim_t{64} * 1024 * 1024;
 constexpr auto kTimeAlone = 10s; // to cancel a job after the dialog has gone
 
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool kHasShadow = true; // of the sanitizer, larger than any limit
+#else
+constexpr bool kHasShadow = false;
+#endif
+
 std::atomic<bool> dialogHasGone = false;
 
 void limit(__rlimit_resource resource, rlim_t most)
@@ -58,9 +64,8 @@ void limitOurselves()
     std::set_terminate([] { ::_exit(EXIT_FAILURE); });
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, kBytesOfFile);
-#ifndef __SANITIZE_ADDRESS__ // whose shadow is larger than any limit
-    limit(RLIMIT_AS, bytesMapped() + kBytesOfMemory);
-#endif
+    if (!kHasShadow)
+        limit(RLIMIT_AS, bytesMapped() + kBytesOfMemory);
 }
 
 /// What came along with the question: a descriptor, or -1.

@@ -226,6 +226,37 @@
         <source>%1: not a PPD file (line %2: %3)</source>
         <translation>%1: keine PPD-Datei (Zeile %2: %3)</translation>
     </message>
+    <message>
+        <source>%1: not opened (%2)</source>
+        <translation>%1: nicht geöffnet (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDLimits</name>
+    <message>
+        <source>keywords</source>
+        <translation>Schlüsselwörter</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>Papierformate</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>Einschränkungen</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>more than %1 %2</source>
+        <translation>mehr als %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>host::PPDTarget</name>

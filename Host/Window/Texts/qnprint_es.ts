@@ -226,6 +226,37 @@
         <source>%1: not a PPD file (line %2: %3)</source>
         <translation>%1: no es un archivo PPD (línea %2: %3)</translation>
     </message>
+    <message>
+        <source>%1: not opened (%2)</source>
+        <translation>%1: no se ha abierto (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDLimits</name>
+    <message>
+        <source>keywords</source>
+        <translation>palabras clave</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>opciones</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>tamaños de papel</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>restricciones</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>el archivo es demasiado grande</translation>
+    </message>
+    <message>
+        <source>more than %1 %2</source>
+        <translation>más de %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>host::PPDTarget</name>

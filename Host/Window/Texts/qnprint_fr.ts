@@ -226,6 +226,37 @@
         <source>%1: not a PPD file (line %2: %3)</source>
         <translation>%1 : pas un fichier PPD (ligne %2 : %3)</translation>
     </message>
+    <message>
+        <source>%1: not opened (%2)</source>
+        <translation>%1 : non ouvert (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDLimits</name>
+    <message>
+        <source>keywords</source>
+        <translation>mots-clés</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>options</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>formats de papier</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>contraintes</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>le fichier est trop volumineux</translation>
+    </message>
+    <message>
+        <source>more than %1 %2</source>
+        <translation>plus de %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>host::PPDTarget</name>

@@ -226,6 +226,37 @@
         <source>%1: not a PPD file (line %2: %3)</source>
         <translation>%1: PPD ファイルではありません（%2 行目: %3）</translation>
     </message>
+    <message>
+        <source>%1: not opened (%2)</source>
+        <translation>%1：開けません（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDLimits</name>
+    <message>
+        <source>keywords</source>
+        <translation>キーワード</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>制約</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>more than %1 %2</source>
+        <translation>%2が %1 を超えています</translation>
+    </message>
 </context>
 <context>
     <name>host::PPDTarget</name>

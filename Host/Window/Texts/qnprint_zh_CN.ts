@@ -226,6 +226,37 @@
         <source>%1: not a PPD file (line %2: %3)</source>
         <translation>%1：不是 PPD 文件（第 %2 行：%3）</translation>
     </message>
+    <message>
+        <source>%1: not opened (%2)</source>
+        <translation>%1：未打开（%2）</translation>
+    </message>
+</context>
+<context>
+    <name>host::PPDLimits</name>
+    <message>
+        <source>keywords</source>
+        <translation>关键字</translation>
+    </message>
+    <message>
+        <source>options</source>
+        <translation>选项</translation>
+    </message>
+    <message>
+        <source>page sizes</source>
+        <translation>纸张尺寸</translation>
+    </message>
+    <message>
+        <source>constraints</source>
+        <translation>约束</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>more than %1 %2</source>
+        <translation>%2超过 %1</translation>
+    </message>
 </context>
 <context>
     <name>host::PPDTarget</name>
