@@ -3,7 +3,6 @@
 #include "PPDMarks.h"
 
 #include <cstring>
-#include <span>
 
 namespace host {
 
@@ -21,44 +20,14 @@ QString text(const char *bytes) { return QString::fromUtf8(bytes); }
 
 PPDMarks::PPDMarks(PPDDocument &document)
     : m_document(document)
+    , m_constraints(document)
 {
     for (const ppd_option_t *option : m_document.options()) {
         m_declaredDefaults.emplace_back(option->defchoice);
         if (auto custom = CustomValue::fromText(text(option->defchoice)))
             m_customValues.insert(option, *std::move(custom));
     }
-    findConstrainedOptions();
     ppdMarkDefaults(m_document.file());
-}
-
-void PPDMarks::findConstrainedOptions()
-{
-    ppd_file_t *const ppd = m_document.file();
-    const auto add = [&](const QByteArray &keyword) {
-        if (const ppd_option_t *option = ppdFindOption(ppd, keyword.constData()))
-            m_constrained.insert(option);
-    };
-    for (const ppd_const_t &each : std::span(ppd->consts, static_cast<std::size_t>(ppd->num_consts))) {
-        add(each.option1);
-        add(each.option2);
-    }
-    m_constraints = ppd->num_consts;
-    const char *const name = "cupsUIConstraints"; // whose value is "*Option Choice *Option Choice …"
-    for (const ppd_attr_t *each = ppdFindAttr(ppd, name, nullptr); each; each = ppdFindNextAttr(ppd, name, nullptr)) {
-        ++m_constraints;
-        for (const QByteArray &word : QByteArray(each->value).split(' '))
-            if (word.startsWith('*'))
-                add(word.sliced(1));
-    }
-}
-
-/// All that resolving depends on.
-QByteArray PPDMarks::situation(const ppd_option_t *asked) const
-{
-    QByteArray text = m_constrained.contains(asked) ? QByteArray(asked->keyword) : QByteArray();
-    for (const ppd_option_t *option : m_constrained)
-        text += QByteArray(" ") + markedKeyword(*option);
-    return text;
 }
 
 void PPDMarks::adoptDefaults(const OptionValues &values)
@@ -121,17 +90,14 @@ void PPDMarks::markOne(ppd_option_t &option, const ChoiceValue &choice)
 std::vector<PPDMarks::Move> PPDMarks::resolveConflicts(const ppd_option_t *asked, const ChoiceValue &choice)
 {
     const int conflicts = ppdConflicts(m_document.file());
-    if (conflicts == 0 || qint64{conflicts} * m_constraints > kMostToCompare)
-        return {};
-    const QByteArray now = situation(asked);
-    if (now == m_hopeless)
+    if (conflicts == 0 || qint64{conflicts} * m_constraints.count() > kMostToCompare || isHopeless(asked))
         return {};
     std::vector<Move> moves;
     printing::CupsOptions resolved;
     const QByteArray favoured = choice.text().toUtf8();
     if (!printing::resolveConflicts(m_document.file(), asked ? asked->keyword : nullptr,
                                     asked ? favoured.constData() : nullptr, resolved)) {
-        m_hopeless = now;
+        noteHopeless(asked);
         return {};
     }
     for (const cups_option_t &each : resolved) {
@@ -144,6 +110,20 @@ std::vector<PPDMarks::Move> PPDMarks::resolveConflicts(const ppd_option_t *asked
             moves.push_back({before, causeOf(before, asked)});
     }
     return moves;
+}
+
+/// Resolving fails as a whole when the choices of one group can't agree, and what is marked in other groups has no part
+/// in it.
+bool PPDMarks::isHopeless(const ppd_option_t *asked) const
+{
+    return m_hopelessGroup && m_hopelessMarks == m_constraints.marksOfGroup(m_hopelessGroup, asked);
+}
+
+void PPDMarks::noteHopeless(const ppd_option_t *asked)
+{
+    m_hopelessGroup = m_constraints.onlyGroupInConflict();
+    if (m_hopelessGroup)
+        m_hopelessMarks = m_constraints.marksOfGroup(m_hopelessGroup, asked);
 }
 
 /// The choice that now forbids another one; the one asked for before others.

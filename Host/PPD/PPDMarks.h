@@ -1,11 +1,10 @@
 // The choices that are marked in a PPD: the only place that marks any. Constraints move other options with them.
 #pragma once
 
+#include "Constraints.h"
 #include "PPDDocument.h"
 
 #include <QHash>
-
-#include <set>
 
 namespace host {
 
@@ -65,8 +64,8 @@ private:
     void markOne(ppd_option_t &option, const ChoiceValue &choice);
     std::vector<Move> resolveConflicts(const ppd_option_t *asked, const ChoiceValue &choice);
     Choice causeOf(const Choice &moved, const ppd_option_t *asked) const;
-    void findConstrainedOptions();
-    QByteArray situation(const ppd_option_t *asked) const;
+    bool isHopeless(const ppd_option_t *asked) const;
+    void noteHopeless(const ppd_option_t *asked);
     const char *markedKeyword(const ppd_option_t &option) const;
     ChoiceValue marked(const ppd_option_t &option) const;
     Keywords keywords() const;
@@ -75,9 +74,9 @@ private:
     PPDDocument &m_document;
     std::vector<QByteArray> m_declaredDefaults;              // beside the document's options
     QHash<const ppd_option_t *, CustomValue> m_customValues; // as they were asked for
-    std::set<const ppd_option_t *> m_constrained;            // options that a constraint names
-    int m_constraints = 0;
-    QByteArray m_hopeless; // the last situation in which no choices agree
+    Constraints m_constraints;
+    const ppd_option_t *m_hopelessGroup = nullptr; // in which no choices agree
+    QByteArray m_hopelessMarks;                    // as long as these stand
 };
 
 } // namespace host

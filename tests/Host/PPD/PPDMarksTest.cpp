@@ -5,6 +5,11 @@
 #include "Print.h"
 #include "Results.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 using namespace host;
@@ -149,6 +154,123 @@ TEST_F(Marked, TakeSizesOfTheUsersOwnWithinTheLimitsOnly)
     m_marks->restore({{"PageSize", "Custom.10x500"}}); // narrower than the PPD's least
     EXPECT_EQ(m_marks->pageSizeName(), "A4");
     EXPECT_EQ(m_marks->customPageSize(), std::nullopt);
+}
+
+/// `count` options of three choices each; every choice of one forbids every choice of the next.
+PPDText withoutAWayOut(PPDText ppd, int count)
+{
+    for (int i = 0; i < count; ++i)
+        ppd.option("Bound" + QByteArray::number(i), "Bound", "C0", {{"C0", "0"}, {"C1", "1"}, {"C2", "2"}});
+    for (int i = 0; i < count; ++i)
+        for (int a = 0; a < 3; ++a)
+            for (int b = 0; b < 3; ++b)
+                ppd.line("*UIConstraints: *Bound" + QByteArray::number(i) + " C" + QByteArray::number(a) + " *Bound" +
+                         QByteArray::number((i + 1) % count) + " C" + QByteArray::number(b));
+    return ppd;
+}
+
+class WithoutAWayOut : public Marked, public testing::WithParamInterface<int>
+{};
+
+/// Where the library gives up, choices stay as they were made, also those of constraints that could be resolved.
+TEST_P(WithoutAWayOut, StaysAsItWasMarked)
+{
+    open(withoutAWayOut(withConstraint(), GetParam()));
+    ASSERT_TRUE(m_marks->mark("QnSpeed", "S3"));
+    for (const char *choice : {"ThermalCopy", "Thermal", "ThermalCopy"}) {
+        const auto effect = m_marks->mark("QnMedia", choice);
+        ASSERT_TRUE(effect);
+        EXPECT_TRUE(effect->moved.empty());
+        EXPECT_EQ(m_marks->choiceOf("QnMedia"), choice);
+        EXPECT_EQ(m_marks->choiceOf("QnSpeed"), "S3");
+    }
+    const auto bound = m_marks->mark("Bound1", "C2"); // another situation, as hopeless as the one before
+    ASSERT_TRUE(bound);
+    EXPECT_EQ(bound->changed.size(), 1U);
+    EXPECT_EQ(m_marks->choiceOf("Bound1"), "C2");
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, WithoutAWayOut, testing::Values(3, 300, 900)); // the last is more than is tried
+
+TEST_F(Marked, FindsAWayOutAgainWhenThereIsOne)
+{
+    // Two groups, each with a way out.
+    open(withConstraint()
+             .option("Bound", "Bound", "C0", {{"C0", "0"}, {"C1", "1"}})
+             .option("Free", "Free", "F2", {{"F0", "0"}, {"F2", "2"}})
+             .line("*UIConstraints: *Bound C1 *Free F0")
+             .line("*UIConstraints: *Free F0 *Bound C1"));
+    ASSERT_TRUE(m_marks->mark("Bound", "C1"));
+    const auto effect = m_marks->mark("Free", "F0");
+    ASSERT_TRUE(effect);
+    EXPECT_EQ(m_marks->choiceOf("Bound"), "C0");
+    ASSERT_TRUE(m_marks->mark("QnSpeed", "S3"));
+    ASSERT_TRUE(m_marks->mark("QnMedia", "ThermalCopy"));
+    EXPECT_NE(m_marks->choiceOf("QnSpeed"), "S3");
+}
+
+struct TooMuch
+{
+    const char *name;
+    QByteArray (*lines)(int count);
+    int most;
+    const char *sentence;
+};
+
+void PrintTo(const TooMuch &row, std::ostream *out) { *out << row.name; }
+
+QByteArray repeated(int count, const QByteArray &before, const QByteArray &after)
+{
+    QByteArray lines;
+    for (int i = 0; i < count; ++i)
+        lines += before + QByteArray::number(i) + after + '\n';
+    return lines;
+}
+
+class LargePPDs : public testing::TestWithParam<TooMuch>
+{};
+
+TEST_P(LargePPDs, AreOpenedUpToALimitAndRefusedBeyondIt)
+{
+    const int already = 200; // what a small printer has of each, at most
+    const auto within = PPDDocument::open(PPDText().line(GetParam().lines(GetParam().most - already)).file());
+    EXPECT_TRUE(within) << (within ? "" : within.problem().sentence.toStdString());
+    const QString path = PPDText().line(GetParam().lines(GetParam().most + 1)).file();
+    EXPECT_EQ(support::sentence(PPDDocument::open(path)), path + ": not opened (" + GetParam().sentence + ')');
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    By, LargePPDs,
+    testing::Values(TooMuch{"Keywords", [](int count) { return repeated(count, "*Word", " S/T: \"v\""); }, 50000,
+                            "more than 50000 keywords"},
+                    TooMuch{"Options",
+                            [](int count) {
+                                QByteArray lines;
+                                for (int i = 0; i < count; ++i)
+                                    lines += "*OpenUI *O/O: PickOne\n*DefaultO: A\n*O A/A: \"\"\n*CloseUI: *O\n";
+                                return lines;
+                            },
+                            4000, "more than 4000 options"},
+                    TooMuch{"PageSizes", [](int count) { return repeated(count, "*PageSize P", "/P: \"\""); }, 4000,
+                            "more than 4000 page sizes"},
+                    TooMuch{"Constraints", [](int count) { return repeated(count, "*UIConstraints: *A C", " *B C0"); },
+                            10000, "more than 10000 constraints"}),
+    [](const auto &row) { return row.param.name; });
+
+TEST(APPDOfManyMegabytes, IsRefusedAlsoWhenItIsPackedSmall)
+{
+    const QByteArray large = PPDText().text() + QByteArray("*% nothing\n").repeated(1 << 21);
+    const QTemporaryDir folder;
+    QFile plain(folder.filePath("large.ppd"));
+    ASSERT_TRUE(plain.open(QIODevice::WriteOnly) && plain.write(large) == large.size());
+    plain.close();
+    EXPECT_TRUE(support::sentence(PPDDocument::open(plain.fileName())).endsWith("not opened (the file is too large)"));
+    QProcess gzip;
+    gzip.start("gzip", {plain.fileName()});
+    ASSERT_TRUE(gzip.waitForFinished() && gzip.exitCode() == 0);
+    const QString packed = plain.fileName() + ".gz";
+    ASSERT_LT(QFileInfo(packed).size(), 1 << 20);
+    EXPECT_TRUE(support::sentence(PPDDocument::open(packed)).endsWith("not opened (the file is too large)"));
 }
 
 } // namespace
