@@ -23,7 +23,6 @@ void PrinterFinder::find(const QueueName &name)
 
 void PrinterFinder::answer(const Or<Queue> &queue)
 {
-    prepareConversation(); // for what comes next
     if (queue)
         Q_EMIT found(*queue);
     else
@@ -33,7 +32,12 @@ void PrinterFinder::answer(const Or<Queue> &queue)
 void PrinterFinder::findNames()
 {
     m_naming = BackgroundWork(
-        *this, [](const std::stop_token &stop) { return queueNames(stop); },
+        *this,
+        [](const std::stop_token &stop) {
+            auto names = queueNames(stop);
+            prepareConversation(); // for another printer, or the job
+            return names;
+        },
         [this](const Or<QueueNames> &names) {
             if (names)
                 Q_EMIT named(*names);
