@@ -2,6 +2,7 @@
 #include "Bundle.h"
 
 #include "RegularFile.h"
+#include "StringTable.h"
 
 #include <QDir>
 #include <QFile>
@@ -66,8 +67,8 @@ void Bundle::loadTable(const QString &localization)
         const auto file = pathForResource("Localizable_" + candidate, "qm");
         if (!file)
             continue;
-        auto table = std::make_unique<QTranslator>();
-        if (!table->load(*file))
+        auto table = loadStringTable(*file);
+        if (!table)
             continue;
         m_localization = candidate;
         m_table = std::move(table);

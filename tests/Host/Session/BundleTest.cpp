@@ -3,11 +3,14 @@
 #include "Messages.h"
 #include "Session/PlugIn.h"
 
+#include "Foundation/StringTable.h"
+
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 using namespace support;
 
@@ -152,6 +155,52 @@ TEST_F(DamagedBundle, WithAnUnreadableStringTableFallsBackToEnglish)
     openCopy("de");
     request({{"do", "name"}, {"panel", "basic"}});
     EXPECT_EQ(reply()["result"].toString(), "Print Settings");
+}
+
+/// Every key of a table is asked of it, as far as it is one.
+void readAll(const QString &path)
+{
+    const auto table = foundation::loadStringTable(path);
+    for (const char *key : {"STEXT_TAB1", "STEXT_TAB2", "RS_STitle_Model", "AX_HalftonePreview", "no such key"})
+        if (table)
+            table->translate("Localizable", key);
+}
+
+TEST_F(DamagedBundle, WithAnyDamageToItsStringTableIsReadWithinIt)
+{
+    QFile original(QN_BUNDLE_DIR "/Resources/Localizable_de.qm");
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray whole = original.readAll();
+    const QString path = m_path + "/Resources/Localizable_de.qm";
+    ASSERT_TRUE(foundation::loadStringTable(original.fileName()));
+    for (qsizetype length = 0; length < whole.size(); length += 7) {
+        write("Resources/Localizable_de.qm", whole.first(length));
+        readAll(path);
+    }
+    for (qsizetype at = 16; at < whole.size(); at += at < 2000 ? 1 : 41) {
+        for (const char value : {'\x00', '\x7f', '\xff'}) {
+            QByteArray damaged = whole;
+            damaged[at] = value;
+            write("Resources/Localizable_de.qm", damaged);
+            readAll(path);
+        }
+    }
+}
+
+TEST_F(DamagedBundle, WhoseStringTableLeadsOutOfItselfFallsBackToEnglish)
+{
+    QFile original(QN_BUNDLE_DIR "/Resources/Localizable_de.qm");
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    const QByteArray whole = original.readAll();
+    const qsizetype hashes = whole.indexOf('\x42', 16);
+    for (const qsizetype far : {hashes + 1, hashes + 1 + 4 + 4}) { // the section's length; the first message's place
+        QByteArray damaged = whole;
+        damaged[far] = '\x7f';
+        write("Resources/Localizable_de.qm", damaged);
+        openCopy("de");
+        request({{"do", "name"}, {"panel", "basic"}});
+        EXPECT_EQ(reply()["result"].toString(), "Print Settings");
+    }
 }
 
 TEST_F(DamagedBundle, TakesTheLanguageOfARegionItDoesNotKnow)
