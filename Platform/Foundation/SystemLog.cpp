@@ -54,11 +54,12 @@ public:
     explicit Arguments(std::span<const LogArgument> arguments)
         : m_left(arguments)
     {}
-    LogArgument::Value next()
+    const LogArgument::Value &next()
     {
+        static const LogArgument::Value kNothing;
         if (m_left.empty())
-            return {};
-        LogArgument::Value value = m_left.front().value();
+            return kNothing;
+        const LogArgument::Value &value = m_left.front().value();
         m_left = m_left.subspan(1);
         return value;
     }
@@ -115,7 +116,7 @@ private:
     std::optional<int> readSize()
     {
         if (takeIf('*')) {
-            const LogArgument::Value value = m_arguments.next();
+            const LogArgument::Value &value = m_arguments.next();
             const auto *number = std::get_if<qint64>(&value);
             return number ? std::optional(static_cast<int>(std::clamp<qint64>(*number, -kWidest, kWidest)))
                           : std::nullopt;
