@@ -117,6 +117,7 @@ TEST_F(OnScreen, StopsAnAmountThatIsOutOfRangeAndLetsThePersonMendIt)
         "qnprint", [](const Seen &each) { return each.role == "text" && each.isEnabled && each.label != "Pages:"; });
     ASSERT_TRUE(amount);
     m_screen.click(*amount);
+    ASSERT_TRUE(m_screen.waitFor("qnprint", [](const Seen &each) { return each.role == "text" && each.isFocused; }));
     m_screen.press("ctrl+a");
     m_screen.type("0");
     m_screen.press("alt+p");
