@@ -14,7 +14,12 @@ PrinterFinder::PrinterFinder(QObject *parent)
 void PrinterFinder::find(const QueueName &name)
 {
     m_search = BackgroundWork(
-        *this, [name](const std::stop_token &stop) { return findQueue(name, stop); },
+        *this,
+        [name](const std::stop_token &stop) {
+            auto queue = findQueue(name, stop);
+            prepareConversation(); // for the names of the others, or the job
+            return queue;
+        },
         [this, request = ++m_request](const Or<Queue> &queue) {
             if (request == m_request)
                 answer(queue);
@@ -35,7 +40,7 @@ void PrinterFinder::findNames()
         *this,
         [](const std::stop_token &stop) {
             auto names = queueNames(stop);
-            prepareConversation(); // for another printer, or the job
+            prepareConversation(); // for the job, or another printer
             return names;
         },
         [this](const Or<QueueNames> &names) {
