@@ -16,7 +16,7 @@ namespace {
 constexpr qsizetype kBytesOfMagic = 16;
 constexpr qsizetype kBytesOfNumber = 4;
 constexpr qsizetype kBytesOfHash = 2 * kBytesOfNumber; // the hash, and where its message begins
-constexpr qint64 kLargestTable = 16 * 1024 * 1024;
+constexpr qint64 kLargestTable = qint64{16} * 1024 * 1024;
 
 enum Section : unsigned char {
     contexts = 0x2f, // of an older form
