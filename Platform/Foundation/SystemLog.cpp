@@ -94,7 +94,7 @@ public:
             result.precision = std::nullopt;
         for (const Length &length : kLengths)
             if (m_text.startsWith(QLatin1String(length.name))) {
-                m_text = m_text.sliced(qstrlen(length.name));
+                m_text = m_text.sliced(static_cast<qsizetype>(qstrlen(length.name)));
                 result.bits = length.bits;
                 break;
             }
