@@ -64,7 +64,7 @@ void openWindow(benchmark::State &state)
         benchmark::DoNotOptimize(window.grab());
         reach(until == Until::firstFrame);
         const auto canPrint = [&] { return dialog.state() == PrintDialog::State::ready; };
-        while (!(canPrint() && dialog.printers().size() == state.range(0))) {
+        while (!(canPrint() && std::ssize(dialog.printers()) == state.range(0))) {
             if (clock.elapsed() > kMilliseconds)
                 return state.SkipWithError("the printers do not come");
             QThread::usleep(100); // leaves the processor to the server

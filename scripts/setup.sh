@@ -4,7 +4,7 @@
 build_packages=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev
     libgl1-mesa-dev libcups2-dev fonts-dejavu-core)
 test_packages=(libgtest-dev cups cups-daemon cups-client fonts-noto-cjk xvfb openbox xdotool dbus at-spi2-core
-    libatspi2.0-dev pkg-config)
+    libatspi2.0-dev pkg-config qt6-translations-l10n)
 lint_packages=(clang-format-19 clang-tidy-19 shellcheck python3)
 
 say() { printf '%s\n' "$*"; }
@@ -29,6 +29,12 @@ install_packages() {
     say "Installing: ${missing[*]}"
     "${sudo[@]}" apt-get update -qq
     "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# The fuzz targets' compiler, its runtime, and what gives a finding its lines.
+install_fuzz_packages() {
+    install_packages clang llvm
+    install_packages "libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"
 }
 
 # Configures and builds a preset; shows the compiler's words only when it fails.

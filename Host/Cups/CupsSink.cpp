@@ -40,22 +40,27 @@ Or<QString> CupsSink::submit(const Job &job, const JobProgress &progress, std::s
     const auto sent = converse(question(job), m_patience, stop, job.document->descriptor(), hear);
     if (sent)
         return QStringLiteral("%1-%2").arg(m_queue, QString::number((*sent)[wire::kId].toInt()));
+    const bool isStopped = stop.stop_requested();
     Problem problem = sent.problem();
-    problem.sentence = QStringLiteral("%1: %2").arg(m_queue, stop.stop_requested() ? tr("stopped") : problem.sentence);
-    if (problem.kind == Problem::Kind::unanswered && id)
-        return withdraw(problem.sentence, *id, stop.stop_requested() ? kForCancellingInHaste : kForCancelling);
+    if (problem.kind == Problem::Kind::unanswered && id) {
+        const QString reason = isStopped ? tr("cancelled") : problem.sentence;
+        if (auto left = withdraw(reason, *id, isStopped ? kForCancellingInHaste : kForCancelling); !left)
+            return left.problem();
+    }
+    const QString reason = isStopped ? tr("cancelled; nothing was printed") : problem.sentence;
+    problem.sentence = QStringLiteral("%1: %2").arg(m_queue, reason);
     return problem;
 }
 
-Problem CupsSink::withdraw(const QString &sentence, int id, const Patience &patience) const
+Or<void> CupsSink::withdraw(const QString &reason, int id, const Patience &patience) const
 {
     if (id == 0)
-        return {tr("%1; a job may be there, so look before you print again").arg(sentence)};
+        return Problem{tr("%1: %2; a job may be there, so look before you print again").arg(m_queue, reason)};
     const QJsonObject question{{wire::kAsk, wire::kCancel}, {wire::kJob, QJsonObject{{wire::kId, id}}}};
     if (converse(question, patience, {}))
-        return {sentence};
-    return {tr("%1; job %2-%3 may still be there, so look before you print again")
-                .arg(sentence, m_queue, QString::number(id))};
+        return {};
+    return Problem{tr("%1: %2; job %1-%3 may still be there, so look before you print again")
+                       .arg(m_queue, reason, QString::number(id))};
 }
 
 } // namespace host

@@ -28,9 +28,9 @@ public:
 
 private:
     QJsonObject question(const Job &job) const;
-    /// Cancels a job that could not be sent to its end, and says what may be left of it. `id`: 0 when the server was
-    /// asked for one and has not said which.
-    foundation::Problem withdraw(const QString &sentence, int id, const Patience &patience) const;
+    /// Cancels a job that could not be sent to its end, for whatever reason; a problem when something may be left of
+    /// it. `id`: 0 when the server was asked for one and has not said which.
+    foundation::Or<void> withdraw(const QString &reason, int id, const Patience &patience) const;
 
     QString m_queue;
     std::optional<CachedPPD> m_ppd;

@@ -16,12 +16,12 @@ FileToRemove::~FileToRemove() { QFile::remove(m_path); }
 
 QueueName QueueName::fromText(const QString &text) { return {text.section('/', 0, 0), text.section('/', 1)}; }
 
-Or<QueueNames> queueNames(const std::stop_token &stop, const Patience &patience)
+Or<Queues> allQueues(const std::stop_token &stop, const Patience &patience)
 {
-    const auto answer = converse({{wire::kAsk, wire::kNames}}, patience, stop);
+    const auto answer = converse({{wire::kAsk, wire::kQueues}}, patience, stop);
     if (!answer)
         return answer.problem();
-    return queueNamesFrom(*answer);
+    return queuesFrom(*answer);
 }
 
 Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Patience &patience)

@@ -50,6 +50,16 @@ struct CachedPPD
     std::shared_ptr<FileToRemove> removal = nullptr; // of a temporary file, by the dialog
 };
 
+/// What the server says of a queue to whoever chooses one. Texts are the server's.
+struct QueueEntry
+{
+    QString name;
+    QString description; // empty where it says no more than the name
+    QString location;
+    QString note; // one clause on its state; empty when it just prints
+    bool takesJobs = true;
+};
+
 struct Queue
 {
     QString name;
@@ -58,17 +68,19 @@ struct Queue
     std::optional<CachedPPD> ppd;   // nil: it has none
     std::vector<PaperEntry> papers; // of a queue without PPD; their names are those that a job may ask for
     QString note;                   // one clause on its state; empty when it just prints
+    bool takesJobs = true;
+    std::optional<QString> whyJobsWait = std::nullopt; // one clause; nil when they don't
 };
 
-struct QueueNames
+struct Queues
 {
-    QStringList names;
-    QString standard; // the default queue; empty when there is none
+    std::vector<QueueEntry> queues; // sorted by name
+    QString standard;               // the default queue; empty when there is none
 };
 
-foundation::Or<QueueNames> queueNames(const std::stop_token &stop, const Patience &patience = {});
+foundation::Or<Queues> allQueues(const std::stop_token &stop, const Patience &patience = {});
 
-/// A problem names the queue.
+/// A problem names the queue, or is of the kind `noService` or `noChoice`.
 foundation::Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Patience &patience = {});
 
 } // namespace host

@@ -9,6 +9,7 @@
 #include <QLockFile>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <unistd.h>
@@ -65,6 +66,13 @@ QByteArray quotedValue(const QString &value)
     QString escaped = value;
     escaped.replace('\\', "\\\\").replace('"', "\\\"");
     return '"' + escaped.toUtf8() + '"';
+}
+
+/// Other programs take each of these for the end of a line, or of all of it, inside quotation marks too.
+bool hasLineEnd(const OptionValues &options)
+{
+    const QString words = (options.keys() + options.values()).join(' ');
+    return std::ranges::any_of(words, [](QChar each) { return each == '\n' || each == '\r' || each.isNull(); });
 }
 
 QByteArray lineText(const Line &line, const OptionValues &options)
@@ -165,6 +173,8 @@ Or<void> SavedOptions::remove(const QString &preset) const { return replace(pres
 Or<void> SavedOptions::replace(const QString &preset, const OptionValues *options) const
 {
     const QString path = userFile();
+    if (options && hasLineEnd(*options))
+        return Problem{tr("%1: can't hold a value with a line end").arg(path)};
     const QString folder = QFileInfo(path).path();
     if (!QDir().exists(folder) && QDir().mkpath(folder))
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -179,8 +189,6 @@ Or<void> SavedOptions::replace(const QString &preset, const OptionValues *option
     QByteArray content;
     for (const QByteArray &line : replaced(*lines, preset, options))
         content += line + '\n';
-    if (content.count('\n') > lines->size() + 1) // more than one line for the preset
-        return Problem{tr("%1: can't hold a value with a line end").arg(path)};
     return replaceFile(path, content);
 }
 

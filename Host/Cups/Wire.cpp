@@ -45,14 +45,25 @@ QJsonObject toJson(const QueueName &name) { return {{"queue", name.queue}, {"pre
 
 QueueName queueNameFrom(const QJsonObject &json) { return {json["queue"].toString(), json["preset"].toString()}; }
 
-QJsonObject toJson(const QueueNames &names)
+QJsonObject toJson(const Queues &queues)
 {
-    return {{"names", QJsonArray::fromStringList(names.names)}, {"standard", names.standard}};
+    QJsonArray entries;
+    for (const QueueEntry &each : queues.queues)
+        entries.append(QJsonObject{{"name", each.name},
+                                   {"description", each.description},
+                                   {"location", each.location},
+                                   {"note", each.note},
+                                   {"takesJobs", each.takesJobs}});
+    return {{"queues", entries}, {"standard", queues.standard}};
 }
 
-QueueNames queueNamesFrom(const QJsonObject &json)
+Queues queuesFrom(const QJsonObject &json)
 {
-    return {json["names"].toVariant().toStringList(), json["standard"].toString()};
+    Queues queues{{}, json["standard"].toString()};
+    for (const QJsonValue each : json["queues"].toArray())
+        queues.queues.push_back({each["name"].toString(), each["description"].toString(), each["location"].toString(),
+                                 each["note"].toString(), each["takesJobs"].toBool()});
+    return queues;
 }
 
 QJsonObject toJson(const CachedPPD &ppd)
@@ -71,10 +82,15 @@ CachedPPD ppdFrom(const QJsonObject &json)
 
 QJsonObject toJson(const Queue &queue)
 {
-    QJsonObject json{
-        {"name", queue.name}, {"preset", queue.preset}, {"papers", papersToJson(queue.papers)}, {"note", queue.note}};
+    QJsonObject json{{"name", queue.name},
+                     {"preset", queue.preset},
+                     {"papers", papersToJson(queue.papers)},
+                     {"note", queue.note},
+                     {"takesJobs", queue.takesJobs}};
     if (queue.uri)
         json["uri"] = *queue.uri;
+    if (queue.whyJobsWait)
+        json["whyJobsWait"] = *queue.whyJobsWait;
     if (queue.ppd)
         json[wire::kPPD] = toJson(*queue.ppd);
     return json;
@@ -83,9 +99,11 @@ QJsonObject toJson(const Queue &queue)
 Queue queueFrom(const QJsonObject &json)
 {
     Queue queue{json["name"].toString(), json["preset"].toString(), {}, {}, papersFrom(json["papers"].toArray()),
-                json["note"].toString()};
+                json["note"].toString(), json["takesJobs"].toBool()};
     if (json.contains("uri"))
         queue.uri = json["uri"].toString();
+    if (json.contains("whyJobsWait"))
+        queue.whyJobsWait = json["whyJobsWait"].toString();
     if (json.contains(wire::kPPD))
         queue.ppd = ppdFrom(json[wire::kPPD].toObject());
     return queue;

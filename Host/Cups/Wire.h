@@ -11,7 +11,7 @@ namespace host {
 
 QJsonObject toJson(const foundation::Problem &problem);
 QJsonObject toJson(const QueueName &name);
-QJsonObject toJson(const QueueNames &names);
+QJsonObject toJson(const Queues &queues);
 QJsonObject toJson(const CachedPPD &ppd);
 QJsonObject toJson(const Queue &queue);
 /// All but the document.
@@ -19,7 +19,7 @@ QJsonObject toJson(const Job &job);
 
 foundation::Problem problemFrom(const QJsonObject &json);
 QueueName queueNameFrom(const QJsonObject &json);
-QueueNames queueNamesFrom(const QJsonObject &json);
+Queues queuesFrom(const QJsonObject &json);
 CachedPPD ppdFrom(const QJsonObject &json);
 Queue queueFrom(const QJsonObject &json);
 Job jobFrom(const QJsonObject &json);
@@ -27,7 +27,7 @@ Job jobFrom(const QJsonObject &json);
 // The members of a line.
 namespace wire {
 inline constexpr auto kAsk = "ask"; // one of the next four
-inline constexpr auto kNames = "names";
+inline constexpr auto kQueues = "queues";
 inline constexpr auto kQueue = "queue";
 inline constexpr auto kSend = "send";
 inline constexpr auto kCancel = "cancel";

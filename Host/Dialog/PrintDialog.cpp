@@ -4,26 +4,58 @@
 
 #include "PrinterFinder.h"
 
+#include "Foundation/Locale.h"
+#include "Foundation/UserDefaults.h"
 #include "Jobs/PageRanges.h"
+#include "Printing/Units.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace host {
 
 using foundation::Or;
 using foundation::Problem;
+using foundation::UserDefaults;
+
+namespace {
+
+constexpr auto kLastPrinter = "LastPrinter"; // with its preset, as `lp -d` takes it
+
+QString inUsersUnit(const printing::Paper &size)
+{
+    const bool isMetric = foundation::IsMetric();
+    const double unit = isMetric ? printing::kPointsPerMillimetre : printing::kPointsPerInch;
+    const auto side = [unit](double points) {
+        return foundation::Locale::current().locale().toString(points / unit, 'g', 4);
+    };
+    return QString("%1 × %2 %3").arg(side(size.width), side(size.height), isMetric ? "mm" : "in");
+}
+
+QString whatToKnowOf(const PrintTarget &target)
+{
+    QStringList sentences = target.doubts();
+    if (!target.note().isEmpty())
+        sentences.prepend(target.note());
+    if (!target.remark().isEmpty())
+        sentences.append(target.remark());
+    return sentences.join('\n');
+}
+
+} // namespace
 
 PrintDialog::PrintDialog(PrintRequest request, std::shared_ptr<Document> document)
     : m_request(std::move(request))
-    , m_document(std::move(document))
     , m_finder(new PrinterFinder(this))
     , m_wanted(QueueName::fromText(m_request.queue))
 {
+    if (document)
+        m_documents.push_back(std::move(document));
     connect(m_finder, &PrinterFinder::found, this,
             [this](const Queue &queue) { whenFree([this, queue] { finderFound(queue); }); });
     connect(m_finder, &PrinterFinder::failed, this,
             [this](const Problem &problem) { whenFree([this, problem] { finderFailed(problem); }); });
-    connect(m_finder, &PrinterFinder::named, this, &PrintDialog::finderNamed);
+    connect(m_finder, &PrinterFinder::foundAll, this, &PrintDialog::finderFoundAll);
 }
 
 PrintDialog::~PrintDialog() = default;
@@ -31,8 +63,12 @@ PrintDialog::~PrintDialog() = default;
 Or<void> PrintDialog::start()
 {
     if (m_request.ppd.isEmpty()) {
+        if (m_wanted.queue.isEmpty() && m_request.prefersLastPrinter) {
+            m_wanted = lastPrinter();
+            m_wantsLastPrinter = true;
+        }
         if (!m_wanted.queue.isEmpty())
-            offerPrinters({m_wanted.queue}, m_wanted.queue);
+            offerPrinters({{m_wanted.queue, {}, {}, {}}}, m_wanted.queue);
         look(m_wanted);
         return {};
     }
@@ -43,7 +79,35 @@ Or<void> PrintDialog::start()
     return {};
 }
 
-QString PrintDialog::jobTitle() const { return m_request.title.isEmpty() ? documentName() : m_request.title; }
+QString PrintDialog::jobTitle() const
+{
+    return m_request.title.isEmpty() ? m_documents.front()->title() : m_request.title;
+}
+
+bool PrintDialog::canPrint() const { return m_state == State::ready && m_target->takesJobs() && !m_documents.empty(); }
+
+bool PrintDialog::canLookAgain() const
+{
+    if (m_state == State::ready)
+        return !m_target->takesJobs();
+    const bool isToBeChosen = m_problem.kind == Problem::Kind::noChoice && !(m_hasAllPrinters && m_printers.empty());
+    return m_state == State::noPrinter && !isToBeChosen;
+}
+
+/// A preset may have gone since.
+QueueName PrintDialog::lastPrinter() const
+{
+    auto last = QueueName::fromText(UserDefaults::standard().objectForKey(kLastPrinter).value_or(QString()));
+    if (!SavedOptions(last.queue).presets().contains(last.preset, Qt::CaseInsensitive))
+        last.preset.clear();
+    return last;
+}
+
+void PrintDialog::rememberPrinter() const
+{
+    if (m_asksServer && m_request.prefersLastPrinter) // whoever does not ask for it does not move it either
+        UserDefaults::standard().setObjectForKey(m_target->name() + '/' + m_target->preset(), kLastPrinter);
+}
 
 void PrintDialog::setState(State state)
 {
@@ -51,29 +115,39 @@ void PrintDialog::setState(State state)
     Q_EMIT stateChanged();
 }
 
-void PrintDialog::setMessage(const QString &sentences)
+void PrintDialog::say(About about, const QString &sentences)
 {
-    m_message = sentences;
-    m_messageIsForNow = false;
-    Q_EMIT messageChanged();
+    if (m_messages.say(about, sentences))
+        Q_EMIT messageChanged();
 }
 
-void PrintDialog::sayForNow(const QString &sentence)
+void PrintDialog::setCopies(int copies)
 {
-    setMessage(sentence);
-    m_messageIsForNow = true;
+    m_amount.copies = copies;
+    settleSoon();
+}
+
+void PrintDialog::setPages(const QString &pages)
+{
+    m_amount.pages = pages;
+    say(About::pages, {});
+    settleSoon();
 }
 
 void PrintDialog::choosePrinter(const QString &name)
 {
-    if (m_state != State::sending)
-        look({name, {}});
+    if (m_state == State::sending)
+        return;
+    m_wantsLastPrinter = false;
+    look({name, {}});
 }
 
 void PrintDialog::lookAgain()
 {
-    if (m_state != State::sending)
-        look(m_wanted);
+    if (m_state == State::sending)
+        return;
+    m_hasAllPrinters = false; // there may be others now
+    look(m_wanted);
 }
 
 void PrintDialog::look(const QueueName &name, const OptionValues &carried)
@@ -84,7 +158,9 @@ void PrintDialog::look(const QueueName &name, const OptionValues &carried)
     m_waiting.clear(); // answers to an earlier search
     if (!name.queue.isEmpty())
         m_chosenPrinter = name.queue;
-    setMessage(tr("Looking for the printer…"));
+    say(About::printer, tr("Looking for the printer…"));
+    say(About::job, {});
+    say(About::settings, {});
     setState(State::looking);
     m_finder->find(name);
 }
@@ -97,32 +173,50 @@ void PrintDialog::finderFound(const Queue &queue)
         return finderFailed(target.problem());
     adopt(*std::move(target));
     if (!carried.isEmpty())
-        setMessage(tr("The printer's description has changed on the server. Please look over the settings."));
+        say(About::printer, tr("The printer's description has changed on the server. Please look over the settings."));
 }
 
 void PrintDialog::finderFailed(const Problem &problem)
 {
+    if (problem.kind == Problem::Kind::notFound && std::exchange(m_wantsLastPrinter, false))
+        return look({}); // the default queue, then
     m_problem = problem;
-    setMessage(problem.sentence);
+    say(About::printer, problem.kind == Problem::Kind::noService
+                            ? tr("The print service does not run. Start it (“systemctl start cups”), or ask whoever "
+                                 "looks after this computer.")
+                            : problem.sentence);
     setState(State::noPrinter);
 }
 
 void PrintDialog::lookForOthers()
 {
     if (m_asksServer && !m_hasAllPrinters)
-        m_finder->findNames();
+        m_finder->findAll();
 }
 
-void PrintDialog::finderNamed(const QueueNames &names)
+void PrintDialog::finderFoundAll(const Queues &queues)
 {
     m_hasAllPrinters = true;
-    const QString wanted = m_wanted.queue.isEmpty() ? names.standard : m_wanted.queue;
-    offerPrinters(names.names, m_state == State::looking || !m_target ? wanted : m_target->name());
+    const QString wanted = m_wanted.queue.isEmpty() ? queues.standard : m_wanted.queue;
+    offerPrinters(queues.queues, m_state == State::looking || !m_target ? wanted : m_target->name());
+    if (m_state == State::noPrinter && m_problem.kind == Problem::Kind::noChoice)
+        chooseAmong(queues.queues);
 }
 
-void PrintDialog::offerPrinters(const QStringList &names, const QString &chosen)
+/// Nobody has said which: the only one, or the person says.
+void PrintDialog::chooseAmong(const std::vector<QueueEntry> &printers)
 {
-    m_printers = names;
+    if (printers.size() == 1)
+        choosePrinter(printers.front().name);
+    else if (printers.empty())
+        say(About::printer, tr("The print service has no printer yet."));
+    else
+        say(About::printer, tr("Choose a printer."));
+}
+
+void PrintDialog::offerPrinters(std::vector<QueueEntry> printers, const QString &chosen)
+{
+    m_printers = std::move(printers);
     m_chosenPrinter = chosen;
     Q_EMIT printersChanged();
 }
@@ -145,14 +239,16 @@ void PrintDialog::adopt(std::unique_ptr<PrintTarget> target)
 
     m_target.reset(); // only one may have been started at a time
     m_target = std::move(target);
+    m_isPrepared = false;
     m_target->start([this] { settleSoon(); });
 
-    QStringList names = m_printers;
-    if (!names.contains(m_target->name()))
-        names.append(m_target->name());
-    offerPrinters(names, m_target->name());
-    const QString note = m_target->note().isEmpty() ? QString() : m_target->note() + '.';
-    setMessage((note + ' ' + m_target->remark()).trimmed());
+    auto printers = m_printers;
+    if (std::ranges::find(printers, m_target->name(), &QueueEntry::name) == printers.end())
+        printers.push_back({m_target->name(), {}, {}, {}});
+    offerPrinters(std::move(printers), m_target->name());
+    say(About::printer, whatToKnowOf(*m_target));
+    say(About::panel, {});
+    say(About::paper, {});
     Q_EMIT amountChanged();
     Q_EMIT targetChanged();
     setState(State::ready);
@@ -160,16 +256,52 @@ void PrintDialog::adopt(std::unique_ptr<PrintTarget> target)
 
 void PrintDialog::prepareAll()
 {
-    if (m_target)
-        m_target->prepareAll();
+    if (!m_target)
+        return;
+    m_target->prepareAll();
+    if (!std::exchange(m_isPrepared, true))
+        m_restored = settings();
+}
+
+OptionValues PrintDialog::settings() const
+{
+    OptionValues values = m_target->jobOptions();
+    values["copies"] = QString::number(m_amount.copies);
+    values["page-ranges"] = m_amount.pages;
+    return values;
+}
+
+bool PrintDialog::isPresetChanged() const { return m_target && m_isPrepared && m_restored != settings(); }
+
+bool PrintDialog::hasPreset(const QString &name) const
+{
+    return m_target && m_target->savedOptions() &&
+           m_target->savedOptions()->presets().contains(name, Qt::CaseInsensitive);
+}
+
+std::vector<SummaryRow> PrintDialog::summary() const
+{
+    if (!m_target)
+        return {};
+    std::vector<SummaryRow> rows{{tr("Printer"), m_target->name()}};
+    const ChosenPaper chosen = m_target->paper();
+    for (const PaperEntry &paper : m_target->papers())
+        if (paper.name == chosen.name)
+            rows.push_back({tr("Paper"), paper.text});
+    if (chosen.name == printing::kUserDefinedPaper && chosen.size)
+        rows.push_back({tr("Paper"), inUsersUnit(*chosen.size)});
+    rows.push_back({tr("Copies"), QString::number(m_amount.copies)});
+    rows.push_back({tr("Pages"), m_amount.pages.isEmpty() ? tr("all") : m_amount.pages});
+    std::ranges::copy(m_target->differences(), std::back_inserter(rows));
+    return rows;
 }
 
 bool PrintDialog::show(PDEPanel &panel)
 {
-    if (m_target->show(panel))
-        return true;
-    setMessage(tr("%1: the plug-in has no interface for this panel.").arg(panel.panelName()));
-    return false;
+    const bool isShown = m_target->show(panel);
+    say(About::panel,
+        isShown ? QString() : tr("%1: the plug-in has no interface for this panel.").arg(panel.panelName()));
+    return isShown;
 }
 
 void PrintDialog::choosePaper(const ChosenPaper &paper)
@@ -177,6 +309,7 @@ void PrintDialog::choosePaper(const ChosenPaper &paper)
     if (!m_target || m_state == State::sending)
         return;
     m_target->choosePaper(paper);
+    say(About::paper, {});
     settleSoon();
 }
 
@@ -193,8 +326,7 @@ void PrintDialog::settle()
     if (!m_target || m_state == State::sending)
         return;
     const QStringList remarks = m_target->takeRemarks();
-    if (!remarks.isEmpty() || m_messageIsForNow)
-        sayForNow(remarks.join(' '));
+    say(About::settings, remarks.join(' ')); // of the latest choice only
     if (!remarks.isEmpty())
         Q_EMIT remarked(remarks);
 }
@@ -208,6 +340,7 @@ void PrintDialog::restorePreset(const QString &name)
         m_amount.copies = m_target->amount().copies;
     if (values.contains("page-ranges"))
         m_amount.pages = m_target->amount().pages;
+    m_restored = settings();
     Q_EMIT amountChanged();
     Q_EMIT paperChanged();
     Q_EMIT presetsChanged();
@@ -219,12 +352,15 @@ void PrintDialog::savePreset(const QString &name)
     if (!m_target || !m_target->savedOptions() || m_state == State::sending)
         return;
     const auto checked = name.isEmpty() ? Or<void>() : SavedOptions::checkName(name);
-    const auto saved = checked ? m_target->save(name) : checked;
+    // Copies in the defaults would be those of every program.
+    const auto copies = name.isEmpty() ? std::nullopt : std::optional(m_amount.copies);
+    const auto saved = checked ? m_target->save(name, copies) : checked;
     if (!saved)
-        return setMessage(saved.problem().sentence);
+        return say(About::settings, saved.problem().sentence);
+    m_restored = settings();
     Q_EMIT presetsChanged();
-    sayForNow(name.isEmpty() ? tr("Saved as your defaults for %1.").arg(m_target->name())
-                             : tr("Saved as “%1” for %2.").arg(name, m_target->name()));
+    say(About::settings, name.isEmpty() ? tr("Saved as your defaults for %1.").arg(m_target->name())
+                                        : tr("Saved as “%1” for %2.").arg(name, m_target->name()));
 }
 
 void PrintDialog::removePreset()
@@ -233,40 +369,60 @@ void PrintDialog::removePreset()
         return;
     const QString name = m_target->preset();
     if (const auto removed = m_target->removePreset(); !removed)
-        return setMessage(removed.problem().sentence);
+        return say(About::settings, removed.problem().sentence);
+    m_restored.reset();
     Q_EMIT presetsChanged();
-    sayForNow(tr("“%1” was deleted.").arg(name));
+    say(About::settings, tr("“%1” was deleted.").arg(name));
+}
+
+void PrintDialog::chooseDocuments(const QStringList &paths)
+{
+    if (m_state == State::sending)
+        return;
+    m_documents.clear();
+    QStringList problems;
+    for (const QString &path : paths) {
+        if (auto document = Document::open(path))
+            m_documents.push_back(*std::move(document));
+        else
+            problems.append(document.problem().sentence);
+    }
+    say(About::document, problems.join('\n'));
+    Q_EMIT documentsChanged();
 }
 
 void PrintDialog::print()
 {
     if (m_state != State::ready)
         return;
-    if (!m_document)
-        return setMessage(tr("There is no document to print."));
+    if (m_documents.empty())
+        return say(About::document, tr("There is no document to print."));
     const auto pages = readPageRanges(m_amount.pages);
     if (!pages) {
-        setMessage(tr("“%1” are no pages. Write single pages and ranges, such as 1-3,5.").arg(m_amount.pages));
+        say(About::pages, tr("“%1” are no pages. Write single pages and ranges, such as 1-3,5.").arg(m_amount.pages));
         Q_EMIT pagesRefused();
         return;
     }
     prepareAll();
     const bool agrees = m_target->agrees();
     if (const QStringList remarks = m_target->takeRemarks(); !remarks.isEmpty()) {
-        sayForNow(remarks.join(' '));
+        say(About::settings, remarks.join(' '));
         Q_EMIT remarked(remarks);
     }
-    if (agrees)
-        send(*pages);
-    else
+    if (!agrees) {
         Q_EMIT refused();
+        return;
+    }
+    m_pagesToSend = *pages;
+    m_isStopping = false;
+    say(About::job, {});
+    setState(State::sending);
+    sendNext();
 }
 
-void PrintDialog::send(const QString &pages)
+void PrintDialog::sendNext()
 {
-    setMessage({});
-    setState(State::sending);
-    const Job job{m_document, jobTitle(), m_amount.copies, pages, m_target->jobOptions()};
+    const Job job{m_documents.front(), jobTitle(), m_amount.copies, m_pagesToSend, m_target->jobOptions()};
     m_job = BackgroundWork(
         *this,
         [this, job, sink = m_target->sink()](const std::stop_token &stop) {
@@ -285,24 +441,37 @@ void PrintDialog::send(const QString &pages)
 void PrintDialog::finish(const Or<QString> &sent)
 {
     m_job = {};
+    if (!sent)
+        return fail(sent.problem());
+    rememberPrinter();
+    const QString fate = m_target->fateOf(jobTitle());
+    m_documents.erase(m_documents.begin());
+    Q_EMIT documentsChanged();
+    Q_EMIT printed(*sent, fate);
+    if (!m_documents.empty() && m_isStopping) // the stop came too late for this one
+        return fail({tr("Cancelled. What is left was not printed.")});
+    if (!m_documents.empty())
+        return sendNext();
+    say(About::job, {});
     setState(State::ready);
-    if (sent) {
-        Q_EMIT printed(*sent);
-    } else if (sent.problem().kind == Problem::Kind::outdated) {
-        Q_EMIT failed(sent.problem());
-        // What was chosen is kept, as far as the printer still has it.
+    Q_EMIT finished();
+}
+
+void PrintDialog::fail(const Problem &problem)
+{
+    say(About::job, problem.sentence);
+    setState(State::ready);
+    Q_EMIT failed(problem);
+    if (problem.kind == Problem::Kind::outdated) // what was chosen is kept, as far as the printer still has it
         look({m_target->name(), m_target->preset()}, m_target->jobOptions());
-    } else {
-        setMessage(sent.problem().sentence);
-        Q_EMIT failed(sent.problem());
-    }
 }
 
 void PrintDialog::stop()
 {
     if (m_state != State::sending)
         return;
-    setMessage(tr("Stopping…"));
+    m_isStopping = true;
+    say(About::job, tr("Stopping…"));
     m_job.requestStop();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "BackgroundWork.h"
+#include "Messages.h"
 #include "PrintTarget.h"
 
 namespace host {
@@ -22,7 +23,7 @@ public:
     };
     Q_ENUM(State)
 
-    /// `document` may be null: then there is nothing to print.
+    /// `document` may be null: then there is nothing to print yet.
     PrintDialog(PrintRequest request, std::shared_ptr<Document> document);
     /// A job that is on its way is stopped, and waited for so that nothing is left half sent.
     ~PrintDialog() override;
@@ -38,20 +39,29 @@ public:
     /// the dialog is held, or while a job is on its way, waits.
     PrintTarget *target() const { return m_target.get(); }
 
-    /// Names of the printers to choose from, and the one that is chosen or looked for; empty for none.
-    const QStringList &printers() const { return m_printers; }
+    /// The printers to choose from, and the name of the one that is chosen or looked for; empty for none.
+    const std::vector<QueueEntry> &printers() const { return m_printers; }
     const QString &chosenPrinter() const { return m_chosenPrinter; }
 
     const Amount &amount() const { return m_amount; }
-    /// Empty when there is no document.
-    QString documentName() const { return m_document ? m_document->title() : QString(); }
+    /// What is still to be printed, in order, each as a job of its own.
+    const std::vector<std::shared_ptr<Document>> &documents() const { return m_documents; }
+    /// What will come out, in the words of a person: printer, paper, copies, pages, and what differs from the defaults.
+    std::vector<SummaryRow> summary() const;
+    /// Whether the settings are others than those of the preset, or of the defaults, that is shown as chosen.
+    bool isPresetChanged() const;
+    /// Whether looking for the printer once more can help.
+    bool canLookAgain() const;
+    /// Whether there is a printer that takes jobs, and something to print.
+    bool canPrint() const;
     /// What the person is to know now, in sentences; empty for nothing.
-    const QString &message() const { return m_message; }
+    const Messages &messages() const { return m_messages; }
+    QString message() const { return m_messages.text(); }
 
     // What a person does. Nothing of it while a job is on its way.
     void choosePrinter(const QString &name);
     void lookAgain();
-    /// Asks for the names of all printers, unless they are known. A server with many queues is busy for a while then,
+    /// Asks for all printers, unless they are known. A server with many queues is busy for a while then,
     /// so not before the printer that is wanted has been found.
     void lookForOthers();
     /// The target must not be started yet.
@@ -59,19 +69,24 @@ public:
     void choosePaper(const ChosenPaper &paper);
     /// False when the panel has no view; the message says so.
     bool show(PDEPanel &panel);
-    void setCopies(int copies) { m_amount.copies = copies; }
-    void setPages(const QString &pages) { m_amount.pages = pages; }
+    void setCopies(int copies);
+    void setPages(const QString &pages);
     void restorePreset(const QString &name);
     /// An empty name saves the user's own defaults.
     void savePreset(const QString &name);
     void removePreset();
+    /// Takes other documents in place of those that there are; those that can't be printed are named, and left out.
+    void chooseDocuments(const QStringList &paths);
     void print();
     /// Ends a job that is on its way; the dialog stays.
     void stop();
 
+    /// Whether a preset goes by that name already.
+    bool hasPreset(const QString &name) const;
+
     /// Readies the panels that have not been shown yet: after the first picture, and before any choice.
     void prepareAll();
-    void setMessage(const QString &sentences);
+    void say(About about, const QString &sentences);
 
     // While a box is open over the dialog, answers from elsewhere wait: code of a panel may stand on the target.
     void hold();
@@ -85,6 +100,7 @@ Q_SIGNALS:
     void paperChanged();
     void amountChanged();
     void messageChanged();
+    void documentsChanged();
     /// Choices were made; once for all that one act of a person sets off.
     void settingsChanged();
     void remarked(const QStringList &sentences);
@@ -93,30 +109,38 @@ Q_SIGNALS:
     /// A panel did not agree to print, and has told why.
     void refused();
     void progressed(int percent);
-    /// The job went out; the sentence says where to.
-    void printed(const QString &where);
+    /// A job went out: where to, and what became of it, which may be empty.
+    void printed(const QString &where, const QString &fate);
+    /// So did the last one.
+    void finished();
     void failed(const foundation::Problem &problem);
 
 private:
     QString jobTitle() const;
+    void sendNext();
     void setState(State state);
     void look(const QueueName &name, const OptionValues &carried = {});
     void finderFound(const Queue &queue);
     void finderFailed(const foundation::Problem &problem);
-    void finderNamed(const QueueNames &names);
+    void finderFoundAll(const Queues &queues);
+    void chooseAmong(const std::vector<QueueEntry> &printers);
+    QueueName lastPrinter() const;
+    void rememberPrinter() const;
     void adopt(std::unique_ptr<PrintTarget> target);
-    void offerPrinters(const QStringList &names, const QString &chosen);
-    void sayForNow(const QString &sentence);
+    void offerPrinters(std::vector<QueueEntry> printers, const QString &chosen);
+    OptionValues settings() const;
     void settleSoon();
     void settle();
-    void send(const QString &pages);
     void finish(const foundation::Or<QString> &sent);
+    void fail(const foundation::Problem &problem);
     void whenFree(std::function<void()> act);
     void doWaiting();
     bool isFree() const { return m_holds == 0 && m_state != State::sending; }
 
     PrintRequest m_request;
-    std::shared_ptr<Document> m_document;
+    std::vector<std::shared_ptr<Document>> m_documents;
+    bool m_isStopping = false;
+    QString m_pagesToSend; // in the form that servers take
     PrinterFinder *m_finder;
     std::unique_ptr<PrintTarget> m_target;
     State m_state = State::looking;
@@ -124,14 +148,16 @@ private:
 
     QueueName m_wanted;
     OptionValues m_carried; // choices to take over into the printer that is looked for
-    QStringList m_printers;
+    std::vector<QueueEntry> m_printers;
     QString m_chosenPrinter;
     bool m_asksServer = false;
     bool m_hasAllPrinters = false;
+    bool m_wantsLastPrinter = false; // and nobody has chosen another
 
     Amount m_amount;
-    QString m_message;
-    bool m_messageIsForNow = false; // it goes with the next choice
+    std::optional<OptionValues> m_restored; // what the preset has led to; nil when it has gone
+    bool m_isPrepared = false;              // all panels have made their first choices
+    Messages m_messages;
     bool m_isToSettle = false;
 
     int m_holds = 0;

@@ -9,10 +9,11 @@ namespace host {
 
 struct PrintRequest
 {
-    QString queue;  // empty: the default queue; a preset may follow behind a slash
-    QString ppd;    // a PPD file instead of a queue
-    QString output; // the folder that goes with it
-    QString title;  // of the job; empty: the document's
+    QString queue;                   // empty: the default queue; a preset may follow behind a slash
+    bool prefersLastPrinter = false; // to the default queue
+    QString ppd;                     // a PPD file instead of a queue
+    QString output;                  // the folder that goes with it
+    QString title;                   // of the job; empty: the document's
     QString language = "en";
     OptionValues options;
     std::optional<int> copies;

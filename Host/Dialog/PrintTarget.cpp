@@ -6,6 +6,8 @@
 #include "Jobs/FolderSink.h"
 #include "Jobs/PageRanges.h"
 
+#include <QFileInfo>
+
 namespace host {
 
 using foundation::Or;
@@ -25,9 +27,27 @@ void PrintTarget::setAmount(const PrintRequest &request)
         m_amount.pages = request.pages;
 }
 
+void PrintTarget::describe(const Queue &queue)
+{
+    m_isQueue = true;
+    m_name = queue.name;
+    m_note = queue.note;
+    m_takesJobs = queue.takesJobs;
+    m_whyJobsWait = queue.whyJobsWait;
+    m_preset = queue.preset;
+}
+
+QString PrintTarget::fateOf(const QString &title) const
+{
+    if (!m_isQueue)
+        return {};
+    return m_whyJobsWait ? tr("%1 waits: %2", "a document, and why").arg(title, *m_whyJobsWait)
+                         : tr("%1: sent to %2").arg(title, m_name);
+}
+
 OptionValues PrintTarget::restore(const QString &) { return {}; }
 
-Or<void> PrintTarget::save(const QString &) { return {}; }
+Or<void> PrintTarget::save(const QString &, std::optional<int>) { return {}; }
 
 Or<void> PrintTarget::removePreset()
 {
@@ -51,7 +71,37 @@ Or<void> checkChoices(const OptionValues &asked, const PPDDocument &ppd, const Q
     return {};
 }
 
+/// A preset that is not there would print with the defaults.
+Or<void> checkPreset(const Queue &queue)
+{
+    const QStringList presets = SavedOptions(queue.name).presets();
+    if (queue.preset.isEmpty() || presets.contains(queue.preset, Qt::CaseInsensitive))
+        return {};
+    if (presets.isEmpty())
+        return Problem{PPDTarget::tr("%1: no preset “%2”, and no other").arg(queue.name, queue.preset)};
+    return Problem{PPDTarget::tr("%1: no preset “%2”; there are: %3")
+                       .arg(queue.name, queue.preset, presets.join(PPDTarget::tr(", ")))};
+}
+
 } // namespace
+
+void PPDTarget::doubtUnknownOptions(const OptionValues &asked)
+{
+    QStringList known;
+    for (const ppd_option_t *option : m_session->ppd().options())
+        known.append(QString::fromLatin1(option->keyword));
+    for (const auto &[keyword, value] : asked.asKeyValueRange()) {
+        if (known.contains(keyword) || isServerOption(keyword))
+            continue;
+        const QString similar = similarOption(keyword, known);
+        m_doubts.append(
+            similar.isEmpty()
+                ? tr("-o %1=%2: neither the printer nor the server is known to have this option.").arg(keyword, value)
+                : tr("-o %1=%2: neither the printer nor the server is known to have this option. Did you "
+                     "mean “%3”?")
+                      .arg(keyword, value, similar));
+    }
+}
 
 Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues &carried,
                                 DialogSession::Parameters parameters)
@@ -67,6 +117,7 @@ Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues 
     if (auto checked = checkChoices(request.options, m_session->ppd(), tr("-o %1=%2: the printer has no such choice"));
         !checked)
         return checked;
+    doubtUnknownOptions(request.options);
     setServerOptions(m_session->ppd().unknownAmong(parameters.defaults));
     setAmount(request);
     return {};
@@ -80,6 +131,8 @@ Or<std::unique_ptr<PrintTarget>> PPDTarget::ofFile(const PrintRequest &request)
     if (const auto opened = target->openSession(request, {}, parameters); !opened)
         return opened.problem();
     target->m_name = target->m_session->ppd().attribute("NickName").value_or(request.ppd);
+    if (!QFileInfo(request.output).isDir())
+        target->m_doubts.append(tr("--output %1: there is no such folder; it will be made.").arg(request.output));
     target->m_sink = std::make_shared<FolderSink>(request.output);
     return std::unique_ptr<PrintTarget>(std::move(target));
 }
@@ -88,9 +141,7 @@ Or<std::unique_ptr<PrintTarget>> PPDTarget::ofQueue(const PrintRequest &request,
                                                     const OptionValues &carried)
 {
     auto target = std::make_unique<PPDTarget>();
-    target->m_name = queue.name;
-    target->m_note = queue.note;
-    target->m_preset = queue.preset;
+    target->describe(queue);
     target->m_saved = SavedOptions(queue.name);
     DialogSession::Parameters parameters;
     parameters.ppdPath = queue.ppd->path;
@@ -125,12 +176,14 @@ OptionValues PPDTarget::restore(const QString &preset)
     return values;
 }
 
-Or<void> PPDTarget::save(const QString &preset)
+Or<void> PPDTarget::save(const QString &preset, std::optional<int> copies)
 {
     OptionValues options =
         m_session->ppd().unknownAmong(withMediaAsPageSize(m_saved->options(preset))); // not ours to drop
     options.insert(m_serverOptions);
     options.insert(m_session->settings(m_saved->options()));
+    if (copies)
+        options["copies"] = QString::number(*copies);
     auto saved = m_saved->save(preset, options);
     if (saved)
         m_preset = preset;
@@ -147,9 +200,7 @@ OptionValues PPDTarget::jobOptions() const
 PlainTarget::PlainTarget(const PrintRequest &request, const Queue &queue)
     : m_papers(queue.papers)
 {
-    m_name = queue.name;
-    m_note = queue.note;
-    m_preset = queue.preset;
+    describe(queue);
     OptionValues options = SavedOptions(queue.name).options(queue.preset);
     options.insert(request.options);
     setServerOptions(std::move(options));
@@ -180,6 +231,8 @@ const PDEPanels &PlainTarget::panels() const
 Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, const Queue &queue,
                                                const OptionValues &carried)
 {
+    if (const auto checked = checkPreset(queue); !checked)
+        return checked.problem();
     if (queue.ppd)
         return PPDTarget::ofQueue(request, queue, carried);
     return std::unique_ptr<PrintTarget>(std::make_unique<PlainTarget>(request, queue));

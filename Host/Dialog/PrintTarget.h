@@ -19,6 +19,8 @@ struct Amount
 
 class PrintTarget
 {
+    Q_DECLARE_TR_FUNCTIONS(host::PrintTarget)
+
 public:
     virtual ~PrintTarget() = default;
     PrintTarget(const PrintTarget &) = delete;
@@ -27,8 +29,13 @@ public:
     const QString &name() const { return m_name; }
     /// One clause on what to expect of the printer now; mostly empty.
     const QString &note() const { return m_note; }
+    bool takesJobs() const { return m_takesJobs; }
+    /// What became of a document that was sent, for people; empty where the place that it went to says it all.
+    QString fateOf(const QString &title) const;
     /// What is known of the printer's settings besides that, in sentences for people.
     virtual QString remark() const = 0;
+    /// What is odd about the request, one sentence each.
+    const QStringList &doubts() const { return m_doubts; }
     /// As the saved options and the request say.
     const Amount &amount() const { return m_amount; }
     /// Where jobs go: the target's own queue or folder, unless another was set.
@@ -56,9 +63,13 @@ public:
     /// Readies the panels that have not been shown yet, so that showing one never undoes a choice.
     virtual void prepareAll() {}
 
+    /// What a job will do otherwise than by the printer's own defaults.
+    virtual std::vector<SummaryRow> differences() const { return {}; }
+
     // Presets, where there are saved options. Restoring answers what the preset says of copies and pages.
     virtual OptionValues restore(const QString &preset);
-    virtual foundation::Or<void> save(const QString &preset);
+    /// `copies`: nil when they are no part of what is saved.
+    virtual foundation::Or<void> save(const QString &preset, std::optional<int> copies);
     foundation::Or<void> removePreset();
 
     /// What a person is to know of choices that did not stay as they were made, one sentence each, told once.
@@ -71,6 +82,7 @@ public:
 
 protected:
     PrintTarget() = default;
+    void describe(const Queue &queue);
 
     /// Takes options that no PPD knows. Copies and pages have places of their own; invalid ones are ignored, like every
     /// saved option that the printer no longer has.
@@ -80,6 +92,10 @@ protected:
 
     QString m_name;
     QString m_note;
+    bool m_isQueue = false;
+    bool m_takesJobs = true;
+    std::optional<QString> m_whyJobsWait;
+    QStringList m_doubts;
     Amount m_amount;
     OptionValues m_serverOptions;
     std::shared_ptr<JobSink> m_sink;
@@ -109,14 +125,16 @@ public:
     void choosePaper(const ChosenPaper &paper) override { m_session->changePaper(paper); }
     const PDEPanels &panels() const override { return m_session->panels(); }
     bool show(PDEPanel &panel) override { return m_session->show(panel); }
+    std::vector<SummaryRow> differences() const override { return m_session->differences(); }
     void prepareAll() override { m_session->prepareAll(); }
     OptionValues restore(const QString &preset) override;
-    foundation::Or<void> save(const QString &preset) override;
+    foundation::Or<void> save(const QString &preset, std::optional<int> copies) override;
     QStringList takeRemarks() override { return m_session->takeRemarks(); }
     bool agrees() override { return m_session->shouldPrint(); }
     OptionValues jobOptions() const override;
 
 private:
+    void doubtUnknownOptions(const OptionValues &asked);
     foundation::Or<void> openSession(const PrintRequest &request, const OptionValues &carried,
                                      DialogSession::Parameters parameters);
 

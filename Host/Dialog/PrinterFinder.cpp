@@ -17,7 +17,7 @@ void PrinterFinder::find(const QueueName &name)
         *this,
         [name](const std::stop_token &stop) {
             auto queue = findQueue(name, stop);
-            prepareConversation(); // for the names of the others, or the job
+            prepareConversation(); // for the others, or the job
             return queue;
         },
         [this, request = ++m_request](const Or<Queue> &queue) {
@@ -34,18 +34,18 @@ void PrinterFinder::answer(const Or<Queue> &queue)
         Q_EMIT failed(queue.problem());
 }
 
-void PrinterFinder::findNames()
+void PrinterFinder::findAll()
 {
-    m_naming = BackgroundWork(
+    m_searchForAll = BackgroundWork(
         *this,
         [](const std::stop_token &stop) {
-            auto names = queueNames(stop);
+            auto queues = allQueues(stop);
             prepareConversation(); // for the job, or another printer
-            return names;
+            return queues;
         },
-        [this](const Or<QueueNames> &names) {
-            if (names)
-                Q_EMIT named(*names);
+        [this](const Or<Queues> &queues) {
+            if (queues)
+                Q_EMIT foundAll(*queues);
         });
 }
 

@@ -16,19 +16,19 @@ public:
 
     /// Answers once, with `found` or with `failed`. Drops what an earlier call has not found yet.
     void find(const QueueName &name);
-    /// Answers with `named`, or not at all: without names a printer that is known by its name still serves.
-    void findNames();
+    /// Answers with `foundAll`, or not at all: without the others a printer that is known by its name still serves.
+    void findAll();
 
 Q_SIGNALS:
     void found(const host::Queue &queue);
     void failed(const foundation::Problem &problem);
-    void named(const host::QueueNames &names);
+    void foundAll(const host::Queues &queues);
 
 private:
     void answer(const foundation::Or<Queue> &queue);
 
     BackgroundWork m_search;
-    BackgroundWork m_naming;
+    BackgroundWork m_searchForAll;
     int m_request = 0; // number of the latest search; answers to earlier ones are dropped
 };
 

@@ -4,6 +4,7 @@
 #include "Foundation/RegularFile.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryFile>
 
 #include <algorithm>
@@ -29,12 +30,34 @@ struct Format
     const char *extension = "";
 };
 
+/// The whole of what a format begins with: a note of 10 MM is a text.
+template <std::size_t size>
+constexpr QByteArrayView magic(const char (&bytes)[size])
+{
+    return {bytes, size - 1}; // zeros count
+}
+
 constexpr std::array kFormats{
-    Format{"%PDF-", "application/pdf", "pdf"},   Format{"\x89PNG", "image/png", "png"},
-    Format{"\xff\xd8\xff", "image/jpeg", "jpg"}, Format{"GIF8", "image/gif", "gif"},
-    Format{"II*", "image/tiff", "tif"},          Format{"MM", "image/tiff", "tif"},
+    Format{magic("%PDF-"), "application/pdf", "pdf"},
+    Format{magic("%!PS"), "application/postscript", "ps"},
+    Format{magic("\x04%!PS"), "application/postscript", "ps"}, // as drivers of another system write it
+    Format{magic("\x89PNG\r\n\x1a\n"), "image/png", "png"},
+    Format{magic("\xff\xd8\xff"), "image/jpeg", "jpg"},
+    Format{magic("GIF87a"), "image/gif", "gif"},
+    Format{magic("GIF89a"), "image/gif", "gif"},
+    Format{magic("II*\0"), "image/tiff", "tif"},
+    Format{magic("MM\0*"), "image/tiff", "tif"},
 };
 constexpr Format kText{"", "text/plain", "txt"};
+
+/// Text for a program that lays it out. Printed as it is, it would be pages of source.
+bool isSource(const QByteArray &sample)
+{
+    static const QRegularExpression kBeginning(
+        R"(\A(\xef\xbb\xbf)?\s*((<\?.*?\?>|<!--.*?-->)\s*)*<(!doctype\s+)?(html|svg)\b|\A\{\\rtf)",
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    return kBeginning.match(QString::fromLatin1(sample)).hasMatch();
+}
 
 bool copyAll(QFile &from, QFile &to)
 {
@@ -56,7 +79,9 @@ Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
     QFile input;
     if (!copy->open() || ::unlink(QFile::encodeName(copy->fileName()).constData()) != 0 ||
         !input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, *copy))
-        return Problem{tr("standard input: %1").arg(copy->errorString())};
+        return Problem{
+            tr("standard input: %1")
+                .arg(copy->error() == QFileDevice::NoError ? foundation::systemErrorText(errno) : copy->errorString())};
     return std::unique_ptr<QFile>(std::move(copy));
 }
 
@@ -84,7 +109,8 @@ Or<std::shared_ptr<Document>> Document::checked(std::shared_ptr<Document> docume
     if (document->size() == 0)
         return Problem{tr("%1: the document is empty").arg(document->title())};
     if (!document->recognise())
-        return Problem{tr("%1: neither a PDF nor an image nor a text").arg(document->title())};
+        return Problem{tr("%1: can't be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can")
+                           .arg(document->title())};
     document->rewind();
     return document;
 }
@@ -93,7 +119,7 @@ bool Document::recognise()
 {
     const QByteArray sample = part(kSniffBytes);
     const auto *format = std::ranges::find_if(kFormats, [&](const Format &f) { return sample.startsWith(f.magic); });
-    if (format == kFormats.end() && sample.contains('\0'))
+    if (format == kFormats.end() && (sample.contains('\0') || isSource(sample)))
         return false;
     const Format &found = format == kFormats.end() ? kText : *format;
     m_format = found.mimeType;

@@ -16,8 +16,8 @@ class Document
     Q_DECLARE_TR_FUNCTIONS(host::Document)
 
 public:
-    /// Opens a PDF, an image or a text; "-" is standard input, which is first copied into a private temporary file.
-    /// A problem when it can't be printed.
+    /// Opens a PDF, PostScript, an image or a text; "-" is standard input, which is first copied into a private
+    /// temporary file. A problem when it can't be printed.
     static foundation::Or<std::shared_ptr<Document>> open(const QString &path);
 
     /// The document of another process that has opened it; the descriptor becomes ours.

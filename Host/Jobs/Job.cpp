@@ -24,7 +24,7 @@ Or<void> streamDocument(Document &document, const JobProgress &progress, const s
         done += part->size();
         progress(done, document.size());
         if (stop.stop_requested())
-            return Problem{JobSink::tr("stopped")};
+            return Problem{JobSink::tr("cancelled; nothing was printed")};
     }
 }
 

@@ -3,6 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
+#include <utility>
+#include <vector>
 
 namespace host {
 
@@ -111,6 +114,31 @@ constexpr std::array kWordsOfServers{"attributes-charset",
                                      "time-at-creation",
                                      "wrap"};
 
+/// Words that filters take for themselves, but that a PPD may take over.
+constexpr std::array kWordsOfFilters{"collate", "media-color", "media-size", "media-source", "media-type"};
+
+bool isAmong(const auto &words, const QString &keyword)
+{
+    return std::ranges::any_of(
+        words, [&keyword](const char *word) { return keyword.compare(QLatin1String(word), Qt::CaseInsensitive) == 0; });
+}
+
+/// How many letters have to be put in, taken out or replaced to make one word of the other.
+qsizetype distance(const QString &one, const QString &other)
+{
+    std::vector<qsizetype> row(static_cast<std::size_t>(other.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 0; i < one.size(); ++i) {
+        qsizetype diagonal = std::exchange(row[0], i + 1);
+        for (std::size_t j = 1; j < row.size(); ++j) {
+            const bool isSame = one[i] == other[static_cast<qsizetype>(j) - 1];
+            const qsizetype best = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (isSame ? 0 : 1)});
+            diagonal = std::exchange(row[j], best);
+        }
+    }
+    return row.back();
+}
+
 bool isWord(const QString &text)
 {
     const auto isOfWords = [](QChar each) {
@@ -121,12 +149,29 @@ bool isWord(const QString &text)
 
 } // namespace
 
-bool canBeDriverOption(const QString &keyword)
+bool canBeDriverOption(const QString &keyword) { return isWord(keyword) && !isAmong(kWordsOfServers, keyword); }
+
+bool isServerOption(const QString &keyword)
 {
-    const auto isSame = [&keyword](const char *word) {
-        return keyword.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
-    };
-    return isWord(keyword) && std::ranges::none_of(kWordsOfServers, isSame);
+    return isAmong(kWordsOfServers, keyword) || isAmong(kWordsOfFilters, keyword);
+}
+
+QString similarOption(const QString &keyword, const QStringList &known)
+{
+    constexpr qsizetype kLongest = 40; // as PPDs have them
+    if (keyword.size() > kLongest)
+        return {};
+    QStringList words = known;
+    for (const char *const word : kWordsOfServers)
+        words.append(QString::fromLatin1(word));
+    QString nearest;
+    qsizetype least = keyword.size() / 3 + 1; // more is another word
+    for (const QString &word : words)
+        if (const qsizetype letters = distance(keyword.toLower(), word.toLower()); letters < least) {
+            nearest = word;
+            least = letters;
+        }
+    return nearest;
 }
 
 OptionValues withMediaAsPageSize(OptionValues options)

@@ -129,6 +129,12 @@ bool PPDDocument::accepts(const QString &keyword, const QString &text) const
     return found && savedChoice(*found, text);
 }
 
+bool PPDDocument::hasCustomParameter(const QString &keyword, const char *parameter) const
+{
+    ppd_coption_t *const custom = ppdFindCustomOption(m_file.get(), keyword.toUtf8().constData());
+    return custom && ppdFindCustomParam(custom, parameter);
+}
+
 OptionValues PPDDocument::unknownAmong(const OptionValues &options) const
 {
     OptionValues result;

@@ -56,6 +56,9 @@ public:
     /// Whether the PPD has the option and takes the choice, as saved options and command lines write it.
     bool accepts(const QString &keyword, const QString &text) const;
 
+    /// Whether the custom choice of an option has a parameter of that name.
+    bool hasCustomParameter(const QString &keyword, const char *parameter) const;
+
     /// Those that the PPD does not know or can't mean: they concern the server and not the panels.
     OptionValues unknownAmong(const OptionValues &options) const;
 

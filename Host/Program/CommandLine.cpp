@@ -18,7 +18,8 @@ namespace {
 
 void addOptions(QCommandLineParser &parser)
 {
-    parser.addPositionalArgument("file", "the document: PDF, image or text, - for standard input", "[file]");
+    parser.addPositionalArgument("file", "the document: PDF, PostScript, image or text; - for standard input",
+                                 "[file]");
     parser.addOptions({{{"h", "help"}, "Show this help."},
                        {"version", "Show the version."},
                        {{"d", "destination"}, "CUPS queue; the default queue when not given.", "queue"},
@@ -94,6 +95,10 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser)
     request.pages = *pages;
     if (!request.ppd.isEmpty() && !request.queue.isEmpty())
         return Problem{"-d and --ppd do not go together"};
+    if (parser.isSet("output") && request.ppd.isEmpty())
+        return Problem{"--output goes with --ppd only; a queue has its own way"};
+    if (parser.isSet("panel") && parser.isSet("no-dialog"))
+        return Problem{"--panel and --no-dialog do not go together"};
     auto options = readOptions(parser.values("o"));
     if (!options)
         return options.problem();

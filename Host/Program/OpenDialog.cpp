@@ -4,6 +4,7 @@
 #include "Cups/Conversation.h"
 #include "Interrupts.h"
 #include "Window/DialogWindow.h"
+#include "Window/Notification.h"
 #include "Window/WindowTexts.h"
 
 #include <QApplication>
@@ -50,11 +51,17 @@ int showUntilClosed(DialogWindow &window, PrintDialog &dialog)
 }
 
 /// Opens the dialog in its window and hands that over; the exit status.
-int withWindow(const CommandLine &line, const std::shared_ptr<Document> &document,
+int withWindow(const CommandLine &line, const QStringList &files,
                const std::function<int(DialogWindow &window, PrintDialog &dialog)> &use)
 {
-    PrintDialog dialog(line.request, document);
-    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &where) { report(where); });
+    PrintDialog dialog(line.request, nullptr);
+    if (!files.isEmpty())
+        dialog.chooseDocuments(files);
+    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &where, const QString &fate) {
+        report(where);
+        if (!fate.isEmpty())
+            notify(fate);
+    });
     if (const auto started = dialog.start(); !started) {
         complain(started.problem().sentence);
         return kRefused;
@@ -68,22 +75,9 @@ int withWindow(const CommandLine &line, const std::shared_ptr<Document> &documen
 
 int openDialog(const CommandLine &line)
 {
-    if (line.files.size() > 1) {
-        complain(QString("%1: only one document at a time").arg(line.files[1]));
-        return kWrongUse;
-    }
     useWindowTexts(line.request.language);
     setConversationLanguage(line.request.language);
-    std::shared_ptr<Document> document;
-    if (!line.files.isEmpty()) {
-        auto opened = Document::open(line.files.first());
-        if (!opened) {
-            complain(opened.problem().sentence);
-            return kRefused;
-        }
-        document = *std::move(opened);
-    }
-    return withWindow(line, document, showUntilClosed);
+    return withWindow(line, line.files, showUntilClosed);
 }
 
 int takeShot(const CommandLine &line)
@@ -93,7 +87,7 @@ int takeShot(const CommandLine &line)
         return kWrongUse;
     }
     useWindowTexts(line.request.language);
-    return withWindow(line, nullptr, [&line](DialogWindow &window, PrintDialog &) {
+    return withWindow(line, {}, [&line](DialogWindow &window, PrintDialog &) {
         window.show();
         QCoreApplication::processEvents();
         if (window.grab().save(line.files.first()))

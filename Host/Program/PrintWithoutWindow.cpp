@@ -4,6 +4,7 @@
 #include "Interrupts.h"
 
 #include "Dialog/PrintDialog.h"
+#include "Foundation/PlainText.h"
 #include "Toolkit/Alert.h"
 
 #include <QEventLoop>
@@ -25,11 +26,11 @@ public:
         });
         QObject::connect(&dialog, &PrintDialog::refused, &m_loop, [this] { m_loop.exit(kRefused); });
         QObject::connect(&dialog, &PrintDialog::failed, &m_loop,
-                         [this](const foundation::Problem &problem) { refuse(problem.sentence); });
-        QObject::connect(&dialog, &PrintDialog::printed, &m_loop, [this](const QString &where) {
-            report(where);
-            m_loop.exit(kDone);
+                         [this](const foundation::Problem &problem) { fail(problem); });
+        QObject::connect(&dialog, &PrintDialog::printed, &m_loop, [](const QString &where, const QString &fate) {
+            report(fate.isEmpty() ? where : where + ' ' + foundation::plainLine(fate));
         });
+        QObject::connect(&dialog, &PrintDialog::finished, &m_loop, [this] { m_loop.exit(kDone); });
     }
 
     /// The exit status.
@@ -50,12 +51,20 @@ private:
         complain(sentence);
         m_loop.exit(kRefused);
     }
+    void fail(const foundation::Problem &problem)
+    {
+        refuse(problem.sentence);
+        for (std::size_t i = 1; i < m_dialog.documents().size(); ++i)
+            complain(QString("%1: not printed").arg(m_dialog.documents()[i]->title()));
+    }
     void go()
     {
         if (m_dialog.state() == PrintDialog::State::noPrinter)
             return refuse(m_dialog.problem().sentence);
         if (!m_dialog.target()->note().isEmpty())
             complain(m_dialog.target()->note());
+        for (const QString &doubt : m_dialog.target()->doubts())
+            complain(doubt);
         m_dialog.print();
     }
     void interrupt()
@@ -63,7 +72,7 @@ private:
         if (m_dialog.state() == PrintDialog::State::sending)
             m_dialog.stop(); // the program would leave half a job behind
         else
-            refuse("stopped");
+            refuse("cancelled; nothing was printed");
     }
 
     PrintDialog &m_dialog;
@@ -74,20 +83,19 @@ private:
 
 int printWithoutWindow(const CommandLine &line)
 {
-    if (line.files.size() != 1) {
-        complain(line.files.isEmpty() ? QString("--no-dialog: no document to print")
-                                      : QString("%1: only one document at a time").arg(line.files[1]));
+    if (line.files.isEmpty()) {
+        complain("--no-dialog: no document to print");
         return kWrongUse;
-    }
-    auto document = Document::open(line.files.first());
-    if (!document) {
-        complain(document.problem().sentence);
-        return kRefused;
     }
     const toolkit::PresentAlerts toStandardError([](const toolkit::Alert &alert) {
         complain((alert.messageText() + ' ' + alert.informativeText()).simplified());
     });
-    PrintDialog dialog(line.request, *std::move(document));
+    PrintDialog dialog(line.request, nullptr);
+    dialog.chooseDocuments(line.files);
+    if (dialog.documents().size() < static_cast<std::size_t>(line.files.size())) {
+        complain(dialog.message()); // and none of the others is printed either
+        return kRefused;
+    }
     if (const auto started = dialog.start(); !started) {
         complain(started.problem().sentence);
         return kRefused;

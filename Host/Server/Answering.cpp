@@ -179,8 +179,8 @@ Or<QJsonObject> answer(const Question &question, const std::stop_token &stop)
     const QString asked = question.json[wire::kAsk].toString();
     const QJsonObject job = question.json[wire::kJob].toObject();
     const std::chrono::milliseconds patience(question.json[wire::kSilence].toInteger());
-    if (asked == wire::kNames)
-        return inJson(askForNames(patience));
+    if (asked == wire::kQueues)
+        return inJson(askForQueues(patience));
     if (asked == wire::kQueue)
         return inJson(askForQueue(queueNameFrom(question.json[wire::kQueue].toObject()), patience));
     if (asked == wire::kSend)

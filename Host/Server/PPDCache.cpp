@@ -84,11 +84,7 @@ QByteArray resourceOf(const QString &queue)
 /// The queues of a class; none when it is a queue itself.
 QStringList membersOf(const ServerConnection &server, const QString &queue)
 {
-    ipp_t *const request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-    const QByteArray uri = "ipp://localhost/printers/" + QUrl::toPercentEncoding(queue);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.constData());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "member-names");
-    const auto answer = server.ask(request);
+    const auto answer = server.attributesOf(queue, "member-names");
     ipp_attribute_t *const names = answer ? ippFindAttribute(answer->get(), "member-names", IPP_TAG_NAME) : nullptr;
     QStringList members;
     for (int i = 0; i < ippGetCount(names); ++i)

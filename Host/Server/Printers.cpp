@@ -2,10 +2,14 @@
 #include "Printers.h"
 
 #include "PPDCache.h"
+#include "PrinterState.h"
 
 #include "ServerConnection.h"
 
+#include "Foundation/PlainText.h"
 #include "Printing/Units.h"
+
+#include <algorithm>
 
 namespace host {
 
@@ -38,14 +42,14 @@ const char *optionOf(const cups_dest_t &destination, const char *name)
     return cupsGetOption(name, destination.num_options, destination.options);
 }
 
-QString noteOn(const cups_dest_t &destination)
+QueueEntry entryOf(const ServerConnection &server, const cups_dest_t &destination)
 {
+    const PrinterState state(server, destination);
     const QString name = QString::fromUtf8(destination.name);
-    if (qstrcmp(optionOf(destination, "printer-is-accepting-jobs"), "false") == 0)
-        return ServerConnection::tr("%1: the queue does not take jobs now").arg(name);
-    if (qstrcmp(optionOf(destination, "printer-state"), "5") == 0)
-        return ServerConnection::tr("%1: the queue is stopped; jobs wait until it is started").arg(name);
-    return {};
+    const QString description = foundation::plainLine(QString::fromUtf8(optionOf(destination, "printer-info")));
+    return {name, description == name ? QString() : description,
+            foundation::plainLine(QString::fromUtf8(optionOf(destination, "printer-location"))), state.inShort(),
+            state.takesJobs()};
 }
 
 const char *orNull(const QByteArray &text) { return text.isEmpty() ? nullptr : text.constData(); }
@@ -53,16 +57,22 @@ const char *orNull(const QByteArray &text) { return text.isEmpty() ? nullptr : t
 Or<Destination> findDestination(const ServerConnection &server, const QueueName &name)
 {
     const auto owner = [&] { return name.queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue; };
-    if (!server)
-        return Problem{owner() + ": " + server.problem().sentence};
+    if (!server) {
+        Problem problem = server.problem();
+        problem.sentence.prepend(owner() + ": ");
+        if (problem.kind == Problem::Kind::unanswered)
+            problem.kind = Problem::Kind::failed; // nothing was asked for that could have been done
+        return problem;
+    }
     server.forgetLastAnswer();
     Destination found(cupsGetNamedDest(server.get(), orNull(name.queue.toUtf8()), orNull(name.preset.toUtf8())));
     if (found)
         return found;
     if (lastAnswer() == Answer::refused)
         return Problem{owner() + ": " + server.problem().sentence};
-    return Problem{name.queue.isEmpty() ? ServerConnection::tr("there is no default queue")
-                                        : ServerConnection::tr("%1: no such queue").arg(name.queue)};
+    if (name.queue.isEmpty())
+        return Problem{ServerConnection::tr("there is no default queue"), Problem::Kind::noChoice};
+    return Problem{ServerConnection::tr("%1: no such queue").arg(name.queue), Problem::Kind::notFound};
 }
 
 /// What the library answers to `cupsGetDests2`.
@@ -87,24 +97,25 @@ private:
 
 } // namespace
 
-Or<QueueNames> askForNames(std::chrono::milliseconds patience)
+Or<Queues> askForQueues(std::chrono::milliseconds patience)
 {
     const ServerConnection server({}, patience);
     if (!server)
         return server.problem();
     server.forgetLastAnswer();
     const Destinations destinations(server.get());
-    if (destinations.isEmpty() && lastAnswer() != Answer::granted)
+    if (destinations.isEmpty() && lastAnswer() == Answer::refused) // a server without queues finds none
         return server.problem();
-    QueueNames found;
+    Queues found;
     for (const cups_dest_t &each : destinations) {
-        const QString name = QString::fromUtf8(each.name);
         if (each.is_default)
-            found.standard = name;
+            found.standard = QString::fromUtf8(each.name);
         if (!each.instance) // presets share the name of their queue
-            found.names.append(name);
+            found.queues.push_back(entryOf(server, each));
     }
-    found.names.sort(Qt::CaseInsensitive);
+    std::ranges::sort(found.queues, [](const QueueEntry &one, const QueueEntry &other) {
+        return one.name.compare(other.name, Qt::CaseInsensitive) < 0;
+    });
     return found;
 }
 
@@ -115,8 +126,15 @@ Or<Queue> askForQueue(const QueueName &name, std::chrono::milliseconds patience)
     if (!found)
         return found.problem();
     cups_dest_t &destination = **found;
-    Queue queue{
-        QString::fromUtf8(destination.name), QString::fromUtf8(destination.instance), {}, {}, {}, noteOn(destination)};
+    const PrinterState state(server, destination);
+    Queue queue{QString::fromUtf8(destination.name),
+                QString::fromUtf8(destination.instance),
+                {},
+                {},
+                {},
+                state.note(),
+                state.takesJobs(),
+                state.whyJobsWait()};
     if (const char *uri = optionOf(destination, "device-uri"))
         queue.uri = QString::fromUtf8(uri);
     auto ppd = fetchPPD(server, queue.name);

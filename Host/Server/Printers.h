@@ -5,9 +5,9 @@
 
 namespace host {
 
-foundation::Or<QueueNames> askForNames(std::chrono::milliseconds patience);
+foundation::Or<Queues> askForQueues(std::chrono::milliseconds patience);
 
-/// A problem names the queue.
+/// A problem names the queue, or is of the kind `noService` or `noChoice`.
 foundation::Or<Queue> askForQueue(const QueueName &name, std::chrono::milliseconds patience);
 
 } // namespace host

@@ -113,7 +113,7 @@ Or<void> SentJob::sendDocument(int id, const JobProgress &progress)
 Problem withReason(Problem problem, const std::stop_token &stop)
 {
     if (stop.stop_requested())
-        problem.sentence = ServerConnection::tr("stopped");
+        problem.sentence = ServerConnection::tr("cancelled");
     return problem;
 }
 

@@ -3,6 +3,8 @@
 
 #include "Foundation/PlainText.h"
 
+#include <QUrl>
+
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -20,10 +22,13 @@ constexpr std::chrono::milliseconds kTick{200};
 constexpr qsizetype kLargestFile = qsizetype{16} * 1024 * 1024;
 constexpr int kMostTries = 3; // of a GET: a connection gone stale, and credentials that need no person
 
+/// A number, as is the status of HTTP here: a server may say one that the library's enumerations have no room for.
+int lastStatus() { return cupsLastError(); }
+
 /// Whether the last answer is what `forgetLastAnswer` has left.
 bool isForgotten()
 {
-    return cupsLastError() == IPP_STATUS_ERROR_INTERNAL && qstrcmp(cupsLastErrorString(), std::strerror(EINVAL)) == 0;
+    return lastStatus() == IPP_STATUS_ERROR_INTERNAL && qstrcmp(cupsLastErrorString(), std::strerror(EINVAL)) == 0;
 }
 
 /// The library asks for passwords by thread, not by connection: whose turn it is, the innermost last.
@@ -33,7 +38,7 @@ thread_local std::vector<ServerConnection *> connectionsOfThread;
 
 Answer lastAnswer()
 {
-    const ipp_status_t status = cupsLastError();
+    const int status = lastStatus();
     if (status <= IPP_STATUS_OK_CONFLICTING)
         return Answer::granted;
     return status == IPP_STATUS_ERROR_NOT_FOUND ? Answer::notFound : Answer::refused;
@@ -82,6 +87,15 @@ Or<Response> ServerConnection::ask(ipp_t *request, const char *resource) const
     return granted(cupsDoRequest(m_http.get(), request, resource));
 }
 
+Or<Response> ServerConnection::attributesOf(const QString &queue, const char *attribute) const
+{
+    ipp_t *const request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+    const QByteArray uri = "ipp://localhost/printers/" + QUrl::toPercentEncoding(queue);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, attribute);
+    return ask(request);
+}
+
 Or<Response> ServerConnection::answerTo(const char *resource) const
 {
     forgetLastAnswer();
@@ -102,7 +116,7 @@ Or<Response> ServerConnection::granted(ipp_t *response) const
 /// The library reports what it makes of an answer that is none in the same place as the server's own word.
 bool ServerConnection::hasRefused() const
 {
-    const ipp_status_t answer = cupsLastError();
+    const int answer = lastStatus();
     return httpGetStatus(m_http.get()) == HTTP_STATUS_OK && httpError(m_http.get()) == 0 && !isForgotten() &&
            answer >= IPP_STATUS_ERROR_BAD_REQUEST && answer <= IPP_STATUS_ERROR_TOO_MANY_DOCUMENTS;
 }
@@ -110,20 +124,22 @@ bool ServerConnection::hasRefused() const
 Problem ServerConnection::problem() const
 {
     if (!m_http)
-        return {tr("no CUPS server answers")};
+        return {tr("no CUPS server answers"), Problem::Kind::noService};
     if (m_askedForPassword)
         return {tr("the CUPS server asks for a password")};
     if (hasRefused())
         return {foundation::plainLine(QString::fromUtf8(cupsLastErrorString()))};
-    const http_status_t status = httpGetStatus(m_http.get());
-    if (status >= HTTP_STATUS_BAD_REQUEST && status < HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED)
-        return {tr("the CUPS server refuses it (%1)").arg(QString::fromUtf8(httpStatus(status)))};
+    const int status = httpGetStatus(m_http.get());
+    if (status >= HTTP_STATUS_BAD_REQUEST && status < HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
+        const char *const reason = httpStatus(static_cast<http_status_t>(status));
+        return {tr("the CUPS server refuses it (%1)").arg(QString::fromUtf8(reason))};
+    }
     return {m_ticksOfSilence >= m_ticksOfPatience ? tr("the CUPS server does not answer")
                                                   : tr("the CUPS server gave no proper answer"),
             Problem::Kind::unanswered};
 }
 
-http_status_t ServerConnection::getOnce(const QByteArray &resource, std::time_t knownAsOf) const
+int ServerConnection::getOnce(const QByteArray &resource, std::time_t knownAsOf) const
 {
     http_t *const http = m_http.get();
     httpClearFields(http);
@@ -135,15 +151,15 @@ http_status_t ServerConnection::getOnce(const QByteArray &resource, std::time_t 
     }
     if (httpGet(http, resource.constData()) != 0)
         return HTTP_STATUS_ERROR;
-    http_status_t status = HTTP_STATUS_CONTINUE;
+    int status = HTTP_STATUS_CONTINUE;
     while (status == HTTP_STATUS_CONTINUE)
         status = httpUpdate(http);
     return status;
 }
 
-http_status_t ServerConnection::get(const QByteArray &resource, std::time_t knownAsOf)
+int ServerConnection::get(const QByteArray &resource, std::time_t knownAsOf)
 {
-    http_status_t status = HTTP_STATUS_ERROR;
+    int status = HTTP_STATUS_ERROR;
     for (int i = 0; i < kMostTries; ++i) {
         status = getOnce(resource, knownAsOf);
         if (status == HTTP_STATUS_UNAUTHORIZED) {
@@ -183,7 +199,7 @@ Or<QByteArray> ServerConnection::readBody() const
 Or<Download> ServerConnection::download(const QByteArray &resource, std::time_t knownAsOf)
 {
     forgetLastAnswer();
-    const http_status_t status = get(resource, knownAsOf);
+    const int status = get(resource, knownAsOf);
     // Dates are in seconds: in the one of the answer the file may change once more.
     const std::time_t date = httpGetDateTime(httpGetField(m_http.get(), HTTP_FIELD_DATE));
     Download file{status == HTTP_STATUS_OK, qMax<std::time_t>(date - 1, 0), {}};

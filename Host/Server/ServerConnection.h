@@ -52,6 +52,8 @@ public:
 
     /// The server's whole answer to a request, which it takes, when it grants it.
     foundation::Or<Response> ask(ipp_t *request, const char *resource = "/") const;
+    /// An attribute of a queue's.
+    foundation::Or<Response> attributesOf(const QString &queue, const char *attribute) const;
     /// The same for a request that has been written already.
     foundation::Or<Response> answerTo(const char *resource) const;
     /// A file, unless it is the one of a known time. A problem of the kind `notFound` when there is none.
@@ -66,8 +68,8 @@ private:
     static const char *refusePassword(const char *, http_t *, const char *, const char *, void *);
     foundation::Or<Response> granted(ipp_t *response) const;
     bool hasRefused() const;
-    http_status_t get(const QByteArray &resource, std::time_t knownAsOf);
-    http_status_t getOnce(const QByteArray &resource, std::time_t knownAsOf) const;
+    int get(const QByteArray &resource, std::time_t knownAsOf); // the HTTP status, whatever number it is
+    int getOnce(const QByteArray &resource, std::time_t knownAsOf) const;
     foundation::Or<QByteArray> readBody() const;
     bool isAtEnd() const;
 

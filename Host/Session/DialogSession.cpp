@@ -72,7 +72,8 @@ DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDo
     , m_panelType(parameters.panelType)
     , m_language(parameters.localization)
     , m_callback(std::make_unique<Callback>(*this))
-    , m_remarks(*m_ppd, m_marks, *m_plugIn.bundle, m_language)
+    , m_words(*m_ppd, *m_plugIn.bundle, m_language)
+    , m_remarks(*m_ppd, m_marks, m_words)
     , m_panels(&kNoPanels)
 {
     m_marks.adoptDefaults(parameters.defaults);
@@ -105,7 +106,7 @@ void DialogSession::start(Prepare what)
     for (const auto &panel : *m_panels) {
         panel->panelName();
         panel->panelKind();
-        panel->supportedPPDOptionKeys();
+        m_claimed += panel->supportedPPDOptionKeys().value_or(QStringList());
     }
     for (const auto &panel : *m_panels)
         panel->restoreValuesAndReturnError(nullptr);
@@ -189,7 +190,34 @@ void DialogSession::markPageSize()
         report(m_marks.markCustomPageSize(*m_paper.size));
 }
 
+/// Those that a panel takes care of; the paper has a place of its own.
+OptionValues DialogSession::claimedAmong(OptionValues values) const
+{
+    values.removeIf([this](const auto &value) { return !m_claimed.contains(value.key()); });
+    return values;
+}
+
+std::vector<SummaryRow> DialogSession::differences() const
+{
+    std::vector<SummaryRow> rows;
+    const OptionValues values = claimedAmong(m_marks.forJob());
+    for (const ppd_option_t *option : m_ppd->options())
+        if (const auto value = values.find(QLatin1String(option->keyword)); value != values.end())
+            rows.push_back(
+                {m_words.option(value.key()), m_words.choice(value.key(), ChoiceValue::fromText(value.value()))});
+    return rows;
+}
+
 void DialogSession::changePaper(const ChosenPaper &paper)
+{
+    const OptionValues before = m_marks.all();
+    putPaper(paper);
+    OptionValues moved = claimedAmong(m_marks.all());
+    moved.removeIf([&before](const auto &value) { return before.value(value.key()) == value.value(); });
+    m_remarks.addPaper(m_words.choice(kPageSize, paper.name.value_or(QString())), moved);
+}
+
+void DialogSession::putPaper(const ChosenPaper &paper)
 {
     setPaper(paper);
     markPageSize();

@@ -18,6 +18,12 @@ struct ChosenPaper
     std::optional<printing::Paper> size;
 };
 
+struct SummaryRow
+{
+    QString title;
+    QString value;
+};
+
 class DialogSession
 {
     Q_DECLARE_TR_FUNCTIONS(host::DialogSession)
@@ -96,6 +102,10 @@ public:
     /// Takes over saved settings, through the panels' own restoring; their rules have the last word.
     void restore(const OptionValues &values);
 
+    /// What a job will do otherwise than by the PPD's own defaults, as far as a panel takes care of it: titles and
+    /// values in the words of a person, in the order of the PPD.
+    std::vector<SummaryRow> differences() const;
+
     /// One sentence for each choice that did not stay as it was made, or moved another, since this was asked last.
     QStringList takeRemarks();
 
@@ -107,6 +117,8 @@ private:
 
     DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, PlugIn plugIn);
 
+    OptionValues claimedAmong(OptionValues values) const;
+    void putPaper(const ChosenPaper &paper);
     void setPaper(const ChosenPaper &paper);
     ChosenPaper markedPaper() const;
     void markPageSize();
@@ -121,11 +133,13 @@ private:
     QString m_language;
     std::unique_ptr<Callback> m_callback;
     ChosenPaper m_paper;
+    OptionWords m_words;
     Remarks m_remarks;
     Listener m_listener;
 
     std::unique_ptr<PDEPlugIn> m_principal;
     bool m_accepted = false;
+    QStringList m_claimed;     // keywords of the options that panels take care of
     const PDEPanels *m_panels; // never null
     PDEPanel *m_onDisplay = nullptr;
     std::vector<const PDEPanel *> m_shown;

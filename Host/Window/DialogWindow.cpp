@@ -3,17 +3,51 @@
 
 #include "ui_DialogWindow.h"
 
+#include "PresetNameBox.h"
+#include "SummaryView.h"
+
 #include "Foundation/PlainText.h"
+#include "Foundation/UserDefaults.h"
 #include "Jobs/PageRanges.h"
 #include "Toolkit/TextControls.h"
 
-#include <QInputDialog>
+#include <QDragEnterEvent>
+#include <QFileDialog>
 #include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTimer>
 
 namespace host {
+
+using foundation::UserDefaults;
+
+namespace {
+
+constexpr auto kSummaryIsUnfolded = "SummaryIsUnfolded";
+constexpr int kHeightOfFrame = 40; // that a window manager may add
+
+/// A menu or a number of a panel's, or of a bundle's of somebody else.
+bool movesWithWheel(const QWidget &field)
+{
+    return qobject_cast<const QComboBox *>(&field) || qobject_cast<const QAbstractSpinBox *>(&field) ||
+           (qobject_cast<const QAbstractSlider *>(&field) && !qobject_cast<const QScrollBar *>(&field));
+}
+
+QStringList localFiles(const QMimeData &data)
+{
+    QStringList files;
+    for (const QUrl &url : data.urls())
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    return files;
+}
+
+} // namespace
 
 DialogWindow::DialogWindow(PrintDialog &dialog)
     : m_dialog(dialog)
@@ -24,29 +58,48 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
     , m_cancel(nullptr)
 {
     m_ui->setupUi(this);
-    const QString title = foundation::plainLine(m_dialog.documentName());
-    setWindowTitle(title.isEmpty() ? tr("Print") : tr("Print %1").arg(title));
     m_ui->tabs->setDrawBase(false);
     m_ui->tabs->setExpanding(false);
+    keepRoomOfTabs();
     m_ui->copies->setMaximum(kMaximumCopies);
     m_paper = new PaperChooser({m_ui->papers, m_ui->ownSize, m_ui->paperWidth, m_ui->paperHeight}, this);
+    for (QWidget *number : {static_cast<QWidget *>(m_ui->copies), static_cast<QWidget *>(m_ui->paperWidth),
+                            static_cast<QWidget *>(m_ui->paperHeight)})
+        keepFromWheel(*number);
+    setAcceptDrops(true);
     addButtons();
     connectFields();
     connectDialog();
     offerPrinters();
+    showDocuments();
     showTarget();
     showAmount();
     showMessage();
     showState();
+    if (UserDefaults::standard().objectForKey(kSummaryIsUnfolded) == "yes")
+        m_ui->unfold->setChecked(true);
+    fitToScreen();
 }
 
 /// The panels own their views; only their place was here.
 DialogWindow::~DialogWindow()
 {
-    while (QWidget *view = m_ui->panelSpace->currentWidget()) {
+    while (m_ui->panelSpace->count() > 1) { // the first is ours
+        QWidget *const view = m_ui->panelSpace->widget(1);
         m_ui->panelSpace->removeWidget(view);
         view->setParent(nullptr);
     }
+}
+
+/// The window has its size before it has a printer, and so before there are panels to go by.
+void DialogWindow::keepRoomOfTabs()
+{
+    m_ui->tabs->addTab(tr("Panels"));
+    m_ui->tabs->setMinimumHeight(m_ui->tabs->sizeHint().height());
+    m_ui->tabs->removeTab(0);
+    QSizePolicy policy = m_ui->tabs->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_ui->tabs->setSizePolicy(policy);
 }
 
 void DialogWindow::addButtons()
@@ -54,24 +107,29 @@ void DialogWindow::addButtons()
     auto *menu = new QMenu(m_ui->save);
     menu->addAction(tr("Save as &Defaults"), this, [this] { m_dialog.savePreset({}); });
     menu->addAction(tr("Save as &Preset…"), this, &DialogWindow::askForPresetName);
-    m_remove = menu->addAction(tr("De&lete Preset"), &m_dialog, &PrintDialog::removePreset);
+    m_remove = menu->addAction(tr("De&lete Preset…"), this, &DialogWindow::askToDeletePreset);
     m_ui->save->setMenu(menu);
     m_print = m_ui->buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
     m_cancel = m_ui->buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+    m_cancel->setAutoDefault(false);
     m_print->setDefault(true);
 }
 
 void DialogWindow::connectFields()
 {
     connect(m_ui->printers, &QComboBox::activated, this,
-            [this] { m_dialog.choosePrinter(m_ui->printers->currentText()); });
+            [this] { m_dialog.choosePrinter(m_ui->printers->currentData().toString()); });
     connect(m_ui->presets, &QComboBox::activated, this,
             [this] { m_dialog.restorePreset(m_ui->presets->currentData().toString()); });
     connect(m_paper, &PaperChooser::chose, &m_dialog, &PrintDialog::choosePaper);
+    connect(m_paper, &PaperChooser::corrected, this,
+            [this](const QString &sentence) { m_dialog.say(About::paper, sentence); });
     connect(m_ui->copies, &QSpinBox::valueChanged, &m_dialog, &PrintDialog::setCopies);
     connect(m_ui->pages, &QLineEdit::textChanged, &m_dialog, &PrintDialog::setPages);
     connect(m_ui->tabs, &QTabBar::currentChanged, this, &DialogWindow::showPanelAt);
     connect(m_ui->retry, &QPushButton::clicked, &m_dialog, &PrintDialog::lookAgain);
+    connect(m_ui->choose, &QPushButton::clicked, this, &DialogWindow::chooseFiles);
+    connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::unfold);
     connect(m_ui->buttons, &QDialogButtonBox::accepted, &m_dialog, &PrintDialog::print);
     connect(m_ui->buttons, &QDialogButtonBox::rejected, this, &DialogWindow::reject);
 }
@@ -85,21 +143,53 @@ void DialogWindow::connectDialog()
     connect(&m_dialog, &PrintDialog::paperChanged, this, &DialogWindow::showPaper);
     connect(&m_dialog, &PrintDialog::amountChanged, this, &DialogWindow::showAmount);
     connect(&m_dialog, &PrintDialog::messageChanged, this, &DialogWindow::showMessage);
-    connect(&m_dialog, &PrintDialog::settingsChanged, this, &DialogWindow::refreshSummary);
+    connect(&m_dialog, &PrintDialog::settingsChanged, this, &DialogWindow::showSettings);
     connect(&m_dialog, &PrintDialog::progressed, m_ui->progress, &QProgressBar::setValue);
-    connect(&m_dialog, &PrintDialog::printed, this, &DialogWindow::accept);
+    connect(&m_dialog, &PrintDialog::documentsChanged, this, &DialogWindow::showDocuments);
+    connect(&m_dialog, &PrintDialog::finished, this, &DialogWindow::accept);
     connect(&m_dialog, &PrintDialog::pagesRefused, this, [this] {
         m_ui->pages->setFocus();
         m_ui->pages->selectAll();
     });
 }
 
+namespace {
+
+/// "counter – Invoices, Shop floor 1 (stopped)"
+QString lineOf(const QueueEntry &printer)
+{
+    QStringList where{printer.description, printer.location};
+    where.removeAll(QString());
+    const QString name = foundation::plainLine(printer.name);
+    const QString line = where.isEmpty() ? name : name + " – " + where.join(", ");
+    return printer.note.isEmpty() ? line : line + " (" + printer.note + ')';
+}
+
+} // namespace
+
 void DialogWindow::offerPrinters()
 {
     m_ui->printers->clear();
-    m_ui->printers->addItems(m_dialog.printers());
+    for (const QueueEntry &printer : m_dialog.printers())
+        m_ui->printers->addItem(lineOf(printer), printer.name);
     // None rather than one that is not meant.
-    m_ui->printers->setCurrentIndex(m_ui->printers->findText(m_dialog.chosenPrinter()));
+    m_ui->printers->setCurrentIndex(m_ui->printers->findData(m_dialog.chosenPrinter()));
+    m_ui->retry->setVisible(m_dialog.canLookAgain());
+}
+
+void DialogWindow::showDocuments()
+{
+    const auto &documents = m_dialog.documents();
+    if (documents.empty())
+        setWindowTitle(tr("Print"));
+    else if (documents.size() == 1)
+        setWindowTitle(tr("Print %1").arg(foundation::plainLine(documents.front()->title())));
+    else
+        setWindowTitle(
+            tr("Print %1 and %2 more")
+                .arg(foundation::plainLine(documents.front()->title()), QString::number(documents.size() - 1)));
+    m_print->setEnabled(m_dialog.canPrint());
+    showMessage();
 }
 
 void DialogWindow::showTarget()
@@ -129,22 +219,47 @@ void DialogWindow::showAmount()
 
 void DialogWindow::showMessage()
 {
-    m_ui->message->setText(foundation::withoutControls(m_dialog.message()));
-    m_ui->message->setVisible(!m_dialog.message().isEmpty());
+    showInPlaceOfPanel();
+    const Messages &messages = m_dialog.messages();
+    const bool isSaidAbove = m_ui->panelSpace->currentWidget() == m_ui->inPlaceOfPanel;
+    QString text = isSaidAbove ? messages.textBeside(About::printer) : messages.text();
+    if (text.isEmpty() && m_dialog.documents().empty() && m_dialog.state() == PrintDialog::State::ready)
+        text = tr("Choose a file to print, or drop one here.");
+    m_ui->message->say(foundation::withoutControls(text));
+}
+
+/// Where a panel would stand: why there is none.
+void DialogWindow::showInPlaceOfPanel()
+{
+    m_ui->inPlaceOfPanel->setText(foundation::withoutControls(m_dialog.messages().about(About::printer)));
 }
 
 void DialogWindow::showState()
 {
     const auto state = m_dialog.state();
-    const bool isSending = state == PrintDialog::State::sending;
-    m_ui->settings->setEnabled(!isSending);
-    m_print->setEnabled(state == PrintDialog::State::ready);
-    m_ui->retry->setVisible(state == PrintDialog::State::noPrinter);
-    m_ui->progress->setVisible(isSending);
-    if (isSending)
-        m_ui->progress->setValue(0);
-    else if (state != PrintDialog::State::looking)
+    setSending(state == PrintDialog::State::sending);
+    m_print->setEnabled(m_dialog.canPrint());
+    m_ui->retry->setVisible(m_dialog.canLookAgain());
+    if (state != PrintDialog::State::sending && state != PrintDialog::State::looking)
         m_dialog.lookForOthers();
+    showMessage();
+}
+
+/// The settings can't be reached during a job; the focus is then back where it was.
+void DialogWindow::setSending(bool isSending)
+{
+    m_ui->progress->setVisible(isSending);
+    if (isSending == !m_ui->settings->isEnabled())
+        return;
+    if (isSending) {
+        m_ui->progress->setValue(0);
+        m_focusBeforeJob = focusWidget();
+    }
+    for (QWidget *part : {m_ui->settings, static_cast<QWidget *>(m_ui->choose)})
+        part->setEnabled(!isSending);
+    setAcceptDrops(!isSending);
+    if (!isSending && m_focusBeforeJob)
+        m_focusBeforeJob->setFocus();
 }
 
 bool DialogWindow::event(QEvent *event)
@@ -163,8 +278,50 @@ void DialogWindow::showEvent(QShowEvent *event)
     // After the first frame, before any input: a panel's first display writes its defaults back.
     QTimer::singleShot(0, this, [this] {
         m_dialog.prepareAll();
-        refreshSummary();
+        showSettings();
     });
+}
+
+void DialogWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!localFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void DialogWindow::dropEvent(QDropEvent *event)
+{
+    m_dialog.chooseDocuments(localFiles(*event->mimeData()));
+    event->acceptProposedAction();
+}
+
+void DialogWindow::chooseFiles()
+{
+    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Choose Files to Print"));
+    if (!files.isEmpty())
+        m_dialog.chooseDocuments(files);
+}
+
+/// No larger than the screen; the settings scroll then, and what prints and cancels stays.
+void DialogWindow::fitToScreen()
+{
+    const QSize room = screen()->availableSize() - QSize(0, kHeightOfFrame);
+    const bool scrolls = sizeHint().height() > room.height();
+    const QSize wanted = sizeHint() + QSize(scrolls ? m_ui->scroller->widthOfBar() : 0, 0);
+    resize(wanted.boundedTo(room));
+}
+
+void DialogWindow::unfold(bool isUnfolded)
+{
+    if (!m_summary) {
+        m_summary = new SummaryView(this);
+        m_ui->columns->addWidget(m_summary);
+        restoreTabOrder();
+    }
+    m_summary->setVisible(isUnfolded);
+    UserDefaults::standard().setObjectForKey(isUnfolded ? "yes" : "no", kSummaryIsUnfolded);
+    showSettings();
+    layout()->activate();
+    fitToScreen();
 }
 
 void DialogWindow::offerPanels()
@@ -193,6 +350,23 @@ void DialogWindow::offerPresets()
     m_ui->presets->setEnabled(saved);
     m_ui->save->setEnabled(saved);
     m_remove->setEnabled(m_ui->presets->currentIndex() > 0);
+    showPresetName();
+}
+
+/// A preset whose settings were changed says so.
+void DialogWindow::showPresetName()
+{
+    const int index = m_ui->presets->currentIndex();
+    const QString preset = m_ui->presets->currentData().toString();
+    const QString name = preset.isEmpty() ? tr("Defaults") : preset;
+    m_ui->presets->setItemText(index, m_dialog.isPresetChanged() ? tr("%1 (changed)").arg(name) : name);
+}
+
+void DialogWindow::showSettings()
+{
+    showPresetName();
+    if (m_summary && m_summary->isVisibleTo(this))
+        m_summary->show(m_dialog.summary());
 }
 
 bool DialogWindow::showPanel(const QString &identifier)
@@ -212,62 +386,69 @@ void DialogWindow::showPanelFirst(const QString &identifier)
         &m_dialog, &PrintDialog::targetChanged, this,
         [this, identifier] {
             if (!showPanel(identifier))
-                m_dialog.setMessage(tr("There is no panel “%1”.").arg(identifier));
+                m_dialog.say(About::panel, tr("There is no panel “%1”.").arg(identifier));
         },
         Qt::SingleShotConnection);
 }
 
 void DialogWindow::showPanelAt(int index)
 {
-    if (index >= 0) {
-        PDEPanel &panel = *m_dialog.target()->panels()[static_cast<std::size_t>(index)];
-        if (!m_dialog.show(panel))
-            return;
+    m_ui->tabs->setVisible(m_ui->tabs->count() > 0);
+    if (index < 0)
+        m_ui->panelSpace->setCurrentWidget(m_ui->inPlaceOfPanel);
+    else if (PDEPanel &panel = *m_dialog.target()->panels()[static_cast<std::size_t>(index)]; m_dialog.show(panel))
         addToPanelSpace(*panel.panelView());
-    }
-    refreshSummary();
+    showMessage();
 }
 
 void DialogWindow::addToPanelSpace(QWidget &view)
 {
     if (m_ui->panelSpace->indexOf(&view) < 0) {
         m_ui->panelSpace->addWidget(&view);
+        for (QWidget *field : view.findChildren<QWidget *>())
+            if (movesWithWheel(*field))
+                keepFromWheel(*field);
         restoreTabOrder();
     }
     m_ui->panelSpace->setCurrentWidget(&view);
 }
 
-/// Qt appends late children to the tab order; what stands below the panel goes behind them, so that Tab follows the
-/// screen. Only widgets that take the focus count there. The box of the buttons stays where it is, before the panel,
-/// and must not pass the focus on to its first button.
+/// Qt appends late children to the tab order; what stands beside and below the panel goes behind them, so that Tab
+/// follows the screen. Only widgets that take the focus count there. The box of the buttons stays where it is, before
+/// the panel, and must not pass the focus on to its first button.
 void DialogWindow::restoreTabOrder()
 {
     m_ui->buttons->setFocusProxy(nullptr);
     QWidget *last = previousInFocusChain();
     while (last->focusPolicy() == Qt::NoFocus)
         last = last->previousInFocusChain();
-    for (QWidget *below : {static_cast<QWidget *>(m_ui->summary), static_cast<QWidget *>(m_ui->retry),
-                           static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)}) {
+    for (QWidget *below :
+         {static_cast<QWidget *>(m_summary), static_cast<QWidget *>(m_ui->retry), static_cast<QWidget *>(m_ui->choose),
+          static_cast<QWidget *>(m_ui->unfold), static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)}) {
+        if (!below)
+            continue;
         setTabOrder(last, below);
         last = below;
     }
 }
 
-void DialogWindow::refreshSummary()
-{
-    static const PDEPanels kNone;
-    if (isVisible())
-        m_ui->summary->show(m_dialog.target() ? m_dialog.target()->panels() : kNone);
-}
-
 void DialogWindow::askForPresetName()
 {
-    bool isGiven = false;
-    const QString name = QInputDialog::getText(this, tr("Save as Preset"), tr("&Name:"), QLineEdit::Normal,
-                                               m_dialog.target()->preset(), &isGiven)
-                             .trimmed();
-    if (isGiven && !name.isEmpty())
-        m_dialog.savePreset(name);
+    PresetNameBox box(m_dialog, m_dialog.target()->preset(), this);
+    if (box.exec() == QDialog::Accepted)
+        m_dialog.savePreset(box.name());
+}
+
+void DialogWindow::askToDeletePreset()
+{
+    QMessageBox box(QMessageBox::Question, tr("Delete Preset"),
+                    tr("Delete the preset “%1”?").arg(m_dialog.target()->preset()), QMessageBox::NoButton, this);
+    box.setTextFormat(Qt::PlainText);
+    const auto *const yes = box.addButton(tr("&Delete"), QMessageBox::AcceptRole);
+    box.addButton(tr("Cancel"), QMessageBox::RejectRole);
+    box.exec();
+    if (box.clickedButton() == yes)
+        m_dialog.removePreset();
 }
 
 void DialogWindow::reject()

@@ -6,6 +6,7 @@
 #include "Dialog/PrintDialog.h"
 
 #include <QDialog>
+#include <QPointer>
 
 #include <memory>
 
@@ -13,6 +14,8 @@ class QAction;
 class QPushButton;
 
 namespace host {
+
+class SummaryView;
 
 namespace Ui {
 class DialogWindow;
@@ -36,28 +39,41 @@ public:
 protected:
     bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    void keepRoomOfTabs();
     void addButtons();
     void connectFields();
     void connectDialog();
     void offerPrinters();
     void offerPanels();
     void offerPresets();
+    void showDocuments();
     void showTarget();
     void showPaper();
     void showAmount();
     void showMessage();
     void showState();
+    void showSettings();
+    void showPresetName();
     void showPanelAt(int index);
+    void showInPlaceOfPanel();
+    void setSending(bool isSending);
+    void unfold(bool isUnfolded);
+    void fitToScreen();
     void addToPanelSpace(QWidget &view);
     void restoreTabOrder();
-    void refreshSummary();
+    void chooseFiles();
     void askForPresetName();
+    void askToDeletePreset();
 
     PrintDialog &m_dialog;
     std::unique_ptr<Ui::DialogWindow> m_ui;
     PaperChooser *m_paper;
+    SummaryView *m_summary = nullptr; // made when it is first seen
+    QPointer<QWidget> m_focusBeforeJob;
     QAction *m_remove;
     QPushButton *m_print;
     QPushButton *m_cancel;

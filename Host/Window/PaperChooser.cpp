@@ -1,13 +1,15 @@
 // Choosing the paper.
 #include "PaperChooser.h"
 
+#include "Fields.h"
+
 #include "Foundation/Locale.h"
 #include "Printing/Units.h"
 
 #include <QComboBox>
-#include <QDoubleSpinBox>
 
 #include <cmath>
+#include <utility>
 
 namespace host {
 
@@ -16,9 +18,13 @@ PaperChooser::PaperChooser(const Parts &parts, QObject *parent)
     , m_parts(parts)
     , m_pointsPerUnit(foundation::IsMetric() ? printing::kPointsPerMillimetre : printing::kPointsPerInch)
 {
-    for (QDoubleSpinBox *side : {m_parts.width, m_parts.height}) {
+    for (LengthBox *const side : {m_parts.width, m_parts.height}) {
         side->setDecimals(foundation::IsMetric() ? 0 : 2);
         side->setSuffix(foundation::IsMetric() ? tr(" mm") : tr(" in"));
+        connect(side, &LengthBox::corrected, this, [this, side](const QString &typed) {
+            m_correction =
+                tr("The printer does not take %1, but %2.", "a length, and limits").arg(typed, side->limits());
+        });
         connect(side, &QDoubleSpinBox::editingFinished, this, &PaperChooser::choose);
     }
     m_parts.ownSize->hide();
@@ -46,10 +52,10 @@ void PaperChooser::offer(const PrintTarget &target)
 void PaperChooser::offerOwnSize(const CustomSizeLimits &limits)
 {
     m_parts.papers->addItem(tr("Custom size…"), printing::kUserDefinedPaper);
-    const auto limit = [this](QDoubleSpinBox &side, double least, double largest) {
+    const auto limit = [this](LengthBox &side, double least, double largest) {
         const double scale = std::pow(10, side.decimals());
-        side.setRange(std::ceil(least / m_pointsPerUnit * scale) / scale,
-                      std::floor(largest / m_pointsPerUnit * scale) / scale);
+        side.setLimits(std::ceil(least / m_pointsPerUnit * scale) / scale,
+                       std::floor(largest / m_pointsPerUnit * scale) / scale);
     };
     limit(*m_parts.width, limits.smallest.width, limits.largest.width);
     limit(*m_parts.height, limits.smallest.height, limits.largest.height);
@@ -73,6 +79,8 @@ void PaperChooser::choose()
                                                                             m_parts.height->value() * m_pointsPerUnit}
                                                           : m_papers[static_cast<std::size_t>(index)].size;
     Q_EMIT chose({name, size});
+    if (!m_correction.isEmpty())
+        Q_EMIT corrected(std::exchange(m_correction, {}));
 }
 
 } // namespace host

@@ -6,10 +6,11 @@
 #include <QObject>
 
 class QComboBox;
-class QDoubleSpinBox;
 class QWidget;
 
 namespace host {
+
+class LengthBox;
 
 class PaperChooser : public QObject
 {
@@ -21,8 +22,8 @@ public:
     {
         QComboBox *papers;
         QWidget *ownSize;
-        QDoubleSpinBox *width;
-        QDoubleSpinBox *height;
+        LengthBox *width;
+        LengthBox *height;
     };
     PaperChooser(const Parts &parts, QObject *parent);
 
@@ -32,6 +33,8 @@ public:
 
 Q_SIGNALS:
     void chose(const host::ChosenPaper &paper); // a person did
+    /// The size that was chosen last is not the one that was typed.
+    void corrected(const QString &sentence);
 
 private:
     void offerOwnSize(const CustomSizeLimits &limits);
@@ -39,6 +42,7 @@ private:
     void choose();
 
     Parts m_parts;
+    QString m_correction; // that the next choice tells of
     double m_pointsPerUnit;
     std::vector<PaperEntry> m_papers;
 };

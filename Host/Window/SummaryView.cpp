@@ -1,4 +1,4 @@
-// The summaries of all panels.
+// What will come out, to read.
 #include "SummaryView.h"
 
 #include "Foundation/PlainText.h"
@@ -9,7 +9,8 @@ namespace host {
 
 namespace {
 
-constexpr int kRowPadding = 5;
+constexpr int kWidthInLetters = 56;
+constexpr int kRowPadding = 6;
 
 } // namespace
 
@@ -19,40 +20,37 @@ SummaryView::SummaryView(QWidget *parent)
     setColumnCount(2);
     setHeaderHidden(true);
     setRootIsDecorated(false);
-    setItemsExpandable(false);
-    setIndentation(12);
+    setUniformRowHeights(true);
     setSelectionMode(NoSelection);
     setFocusPolicy(Qt::TabFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAccessibleName(tr("Summary of the settings"));
     header()->setStretchLastSection(true);
-    header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    header()->setMinimumSectionSize(0);
 }
 
-void SummaryView::show(const PDEPanels &panels)
+QSize SummaryView::sizeHint() const { return {kWidthInLetters * fontMetrics().averageCharWidth(), 0}; }
+
+void SummaryView::show(const std::vector<SummaryRow> &rows)
 {
     clear();
-    for (const auto &panel : panels) {
-        const auto summary = panel->summaryInfo();
-        if (!summary || summary->displayOrder.isEmpty())
-            continue;
-        auto *heading = new QTreeWidgetItem(this, {panel->panelName()});
-        QFont bold = font();
-        bold.setBold(true);
-        heading->setFont(0, bold);
-        heading->setFirstColumnSpanned(true);
-        heading->setSizeHint(0, QSize(0, fontMetrics().height() + 2 * kRowPadding));
-        for (const QString &title : summary->displayOrder)
-            addRow(*heading, title, summary->values.value(title));
+    for (const SummaryRow &row : rows) {
+        auto *const item =
+            new QTreeWidgetItem(this, {foundation::plainLine(row.title), foundation::plainLine(row.value)});
+        item->setSizeHint(1, QSize(0, fontMetrics().height() + kRowPadding));
+        for (const int column : {0, 1})
+            item->setToolTip(column, foundation::asHtml(item->text(column)));
     }
-    expandAll();
+    fitTitles();
 }
 
-void SummaryView::addRow(QTreeWidgetItem &heading, const QString &title, const QString &value)
+void SummaryView::resizeEvent(QResizeEvent *event)
 {
-    auto *row = new QTreeWidgetItem(&heading, {title, value});
-    row->setToolTip(1, foundation::asHtml(value));
-    row->setSizeHint(
-        0, QSize(fontMetrics().horizontalAdvance(title) + 2 * kRowPadding, fontMetrics().height() + kRowPadding));
+    QTreeWidget::resizeEvent(event);
+    fitTitles();
 }
+
+/// Titles take what they need, but never the values' half.
+void SummaryView::fitTitles() { header()->resizeSection(0, qMin(sizeHintForColumn(0), viewport()->width() / 2)); }
 
 } // namespace host

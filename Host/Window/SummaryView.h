@@ -1,7 +1,7 @@
-// The summaries of all panels, to read.
+// What will come out, to read.
 #pragma once
 
-#include "PDEPlugInInterface.h"
+#include "Session/DialogSession.h"
 
 #include <QTreeWidget>
 
@@ -14,11 +14,14 @@ class SummaryView : public QTreeWidget
 public:
     explicit SummaryView(QWidget *parent = nullptr);
 
-    /// Asks every panel anew; a panel without a summary is left out.
-    void show(const PDEPanels &panels);
+    void show(const std::vector<SummaryRow> &rows);
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void addRow(QTreeWidgetItem &heading, const QString &title, const QString &value);
+    void fitTitles();
 };
 
 } // namespace host

@@ -16,6 +16,8 @@ struct Problem
         failed,
         notFound,   // the server knows no such thing
         outdated,   // the printer is another than the settings were made for; nothing was done
+        noService,  // nobody is there to be asked
+        noChoice,   // nobody has said which one, and there is none to be taken for it
         unanswered, // the server was asked and has not answered: it may have been done
     };
 

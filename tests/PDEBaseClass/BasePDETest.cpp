@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <bit>
 #include <cstring>
 
 using support::PPDText;
@@ -165,6 +166,20 @@ TEST_F(BasePanel, MarksNothingForASelectionThatIsNotThere)
     EXPECT_EQ(m_panel.selectionForItem(0, "QnMirror", m_panel.choices("QnMirror"), kPDEItem_Mirror), nullptr);
     EXPECT_TRUE(m_host.asked.isEmpty());
     EXPECT_TRUE(m_panel.sent.isEmpty());
+}
+
+TEST(RefreshFlags, AreABitEach)
+{
+    constexpr std::array kFlags{kPDEItem_Density,    kPDEItem_Media,    kPDEItem_FormFeedMode, kPDEItem_PaperFeed,
+                                kPDEItem_Perforated, kPDEItem_Halftone, kPDEItem_Reversal,     kPDEItem_Mirror,
+                                kPDEItem_BiDiPrint,  kPDEItem_RollPrint};
+    PDEItemFlags all = 0;
+    for (const PDEItemFlags flag : kFlags) {
+        EXPECT_EQ(std::popcount(flag), 1);
+        EXPECT_EQ(all & flag, 0U) << flag; // a refresh of one option is none of another
+        all |= flag;
+    }
+    EXPECT_EQ(all, 0x3ffU);
 }
 
 TEST_F(BasePanel, LoadsItsInterfaceOnce)

@@ -381,7 +381,11 @@ INSTANTIATE_TEST_SUITE_P(
                     Outside{QString("\u2066x\u2069\ufeff"), "x"},
                     Outside{QString("Grüße 印刷 😀"), QString("Grüße 印刷 😀")},
                     Outside{"<b>&amp;</b>", "<b>&amp;</b>"},
+                    Outside{QString("a\u200cb\u200dc\u00add"), QString("a\u200cb\u200dc\u00add")},
+                    Outside{QString(300, 'x'), QString(300, 'x')},
+                    Outside{QString(301, 'x'), QString(299, 'x') + QChar(0x2026)},
                     Outside{QString(1000, 'x'), QString(299, 'x') + QChar(0x2026)},
+                    Outside{QString(300, ' ') + QString(299, 'x') + 'y', QString(299, 'x') + 'y'},
                     Outside{QString(298, 'x') + QString("😀").repeated(9), QString(298, 'x') + QChar(0x2026)}));
 
 TEST(TextForToolTips, ShowsAsItIs)

@@ -222,6 +222,20 @@ TEST_F(PanelOverAnotherHost, CorrectsTheItemsToThePaperWhateverIsRefreshed)
     EXPECT_EQ(menu("mPerforatedPopUp").currentIndex(), 0);
 }
 
+TEST_F(PanelOverAnotherHost, OffersNoPerforationOnRetractPaperWhateverTheMenuShowedBefore)
+{
+    open(PPDText().allOptions());
+    show();
+    menu("mFormFeedModePopUp").select(1);
+    m_host.settings.setValue(printing::kPaperNameKey, "RetractA4"); // of which the panel has not heard
+    m_host.mark("QnFormFeedMode", "FF3");
+    readMarks(kPDEItem_FormFeedMode);
+    refresh(kPDEItem_FormFeedMode);
+    EXPECT_EQ(menu("mFormFeedModePopUp").currentIndex(), 3);
+    EXPECT_EQ(available("mFormFeedModePopUp"), "---+");
+    EXPECT_EQ(available("mPerforatedPopUp"), "+-");
+}
+
 TEST_F(PanelOverAnotherHost, RefreshesTheSpeedAloneInTheAdvancedPanelForTheRollPrinterCase)
 {
     open(PPDText().allOptions());
@@ -281,6 +295,18 @@ TEST_F(PanelOverAnotherHost, SwitchesThePerforationOffWhenItem2IsPickedOnTheRoll
     EXPECT_EQ(memo(), "NO");
     EXPECT_EQ(menu("mPerforatedPopUp").currentIndex(), 0);
     EXPECT_EQ(available("mPerforatedPopUp"), "+-");
+}
+
+TEST_F(PanelOverAnotherHost, LeavesTheFocusInTheFormFeedMenu)
+{
+    open(PPDText().allOptions());
+    show();
+    auto &formFeed = menu("mFormFeedModePopUp");
+    for (const int item : {1, 2, 0}) { // the amount can be typed with the last one only
+        formFeed.setFocus();
+        formFeed.choose(item);
+        EXPECT_EQ(formFeed.window()->focusWidget(), &formFeed) << item;
+    }
 }
 
 class PerforatedItem1 : public PanelOverAnotherHost, public testing::WithParamInterface<const char *>

@@ -48,6 +48,14 @@ TEST_F(Summary, ListsEveryOptionOfTheAdvancedPanelButTheRollPrinterCase)
                            "Mirror Image", "Bi-directional Printing"}));
 }
 
+TEST_F(Summary, IsShortOfNothingElseWhereMirrorAndBothDirectionsAreWithheld)
+{
+    open(PPDText().allOptions(), "A4", {{"uri", "ipp://qn/printer"}, {"system", "11.0.0"}, {"prepare", false}});
+    EXPECT_EQ(order(summary("basic")), // nor is there a paper feed before the panel was shown
+              QStringList({"Print Density", "Print Speed", "Paper Type", "Form Feed", "Perforated Paper", "Halftone",
+                           "Roll Printer Case", "Reverse Black and White"}));
+}
+
 struct FallbackTitle
 {
     const char *option;

@@ -292,6 +292,8 @@ bool misbehave(const Connection &connection, Mode mode, const QByteArray &body, 
     case Mode::password: return status("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n");
     case Mode::upgrade: return status("426 Upgrade Required", "Upgrade: TLS/1.2\r\nConnection: Upgrade\r\n");
     case Mode::error: return status("500 Internal");
+    case Mode::unknownHttpStatus: return status("4010 Odd");
+    case Mode::unknownStatus: return connection.say(http(head(request, 0x7379) + kEnd, type));
     case Mode::refusal:
         return connection.say(
             http(head(request, 0x0400) + attribute(0x41, "status-message", kHarmfulWords) + kEnd, type));

@@ -42,6 +42,8 @@ public:
         password,
         upgrade,
         error,
+        unknownHttpStatus,
+        unknownStatus,
         refusal, // with words that would do harm on a terminal
     };
 

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QThread>
 
+#include <algorithm>
+
 #undef signals // a name that the accessibility library's headers use
 #include <atspi/atspi.h>
 
@@ -12,7 +14,7 @@ namespace support {
 
 namespace {
 
-constexpr int kMilliseconds = 20000;
+constexpr int kMillisecondsToEnd = 20000;
 constexpr int kMillisecondsToAnswer = 2000;
 constexpr int kDeepest = 30;
 
@@ -91,7 +93,7 @@ void collect(AtspiAccessible *object, int depth, std::vector<Seen> &found)
 void end(QProcess &process)
 {
     process.terminate();
-    if (!process.waitForFinished(kMilliseconds))
+    if (!process.waitForFinished(kMillisecondsToEnd))
         process.kill();
 }
 
@@ -181,13 +183,18 @@ std::vector<Seen> Screen::look(const QString &program) const
     return found;
 }
 
-std::optional<Seen> Screen::waitFor(const QString &program, const std::function<bool(const Seen &)> &isIt) const
+std::optional<Seen> Screen::waitFor(const QString &program, const std::function<bool(const Seen &)> &isIt,
+                                    int milliseconds) const
 {
     QElapsedTimer clock;
-    for (clock.start(); clock.elapsed() < kMilliseconds; QThread::msleep(50))
-        for (const Seen &each : look(program))
-            if (isIt(each))
-                return each;
+    std::optional<Seen> before;
+    for (clock.start(); clock.elapsed() < milliseconds; QThread::msleep(50)) {
+        const auto seen = look(program);
+        const auto found = std::ranges::find_if(seen, isIt);
+        if (found != seen.end() && before && before->place == found->place)
+            return *found;
+        before = found != seen.end() ? std::optional(*found) : std::nullopt;
+    }
     return std::nullopt;
 }
 

@@ -42,14 +42,17 @@ public:
 
     /// All that shows of a program, from the top; empty while it does not.
     std::vector<Seen> look(const QString &program) const;
-    /// Waits for something that shows; nil when it does not come.
-    std::optional<Seen> waitFor(const QString &program, const std::function<bool(const Seen &)> &isIt) const;
+    /// Waits for something that shows and stands still; nil when it does not come.
+    std::optional<Seen> waitFor(const QString &program, const std::function<bool(const Seen &)> &isIt,
+                                int milliseconds = kMilliseconds) const;
 
     void press(const QString &keys) const; // "alt+p"
     void type(const QString &text) const;
     void click(const Seen &seen) const;
 
 private:
+    static constexpr int kMilliseconds = 20000;
+
     bool run(const QString &program, const QStringList &arguments) const;
     std::optional<QString> startBus();
 

@@ -9,6 +9,9 @@
 #include "Foundation/UserDefaults.h"
 #include "Toolkit/Alert.h"
 #include "Window/DialogWindow.h"
+#include "Window/MessageLine.h"
+#include "Window/PresetNameBox.h"
+#include "Window/SummaryView.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -17,10 +20,13 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 namespace support {
@@ -73,11 +79,13 @@ protected:
     QComboBox *presets() { return find<QComboBox>("presets"); }
     QComboBox *papers() { return find<QComboBox>("papers"); }
     QLineEdit *pages() { return find<QLineEdit>("pages"); }
-    /// The sentence under the panel; empty when none is shown.
+    /// What the window says in the panel's place, and under it; empty when it says nothing.
     QString message()
     {
-        auto *const label = find<QLabel>("message");
-        return label->isVisible() ? label->text() : QString();
+        auto *const inPlaceOfPanel = find<QLabel>("inPlaceOfPanel");
+        const QString below = m_window->findChild<host::MessageLine *>()->said();
+        const QStringList all{inPlaceOfPanel->isVisible() ? inPlaceOfPanel->text() : QString(), below};
+        return all.filter(QRegularExpression(".")).join('\n');
     }
     const host::PPDTarget &target() const { return dynamic_cast<const host::PPDTarget &>(*m_dialog->target()); }
     const host::DialogSession &session() const { return target().session(); }
@@ -101,6 +109,28 @@ protected:
             if (each->text() == action)
                 return each->trigger();
         FAIL() << "no action " << action.toStdString();
+    }
+
+    /// "Paper=A4", as the window tells what will come out.
+    QStringList summary()
+    {
+        if (auto *const unfold = m_window->findChild<QPushButton *>("unfold"); !unfold->isChecked())
+            unfold->click();
+        QStringList rows;
+        const auto *const view = m_window->findChild<host::SummaryView *>();
+        for (int i = 0; i < view->topLevelItemCount(); ++i)
+            rows.append(view->topLevelItem(i)->text(0) + '=' + view->topLevelItem(i)->text(1));
+        return rows;
+    }
+    /// Meets the box that opens next, while whoever opens it waits.
+    template <class Box>
+    void meetBox(std::function<void(Box &box)> act)
+    {
+        QTimer::singleShot(0, m_window.get(), [this, act = std::move(act)] {
+            auto *const box = m_window->findChild<Box *>();
+            ASSERT_TRUE(box);
+            act(*box);
+        });
     }
 
     QStringList m_alerts;

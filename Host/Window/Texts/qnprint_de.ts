@@ -45,16 +45,20 @@
 <context>
     <name>host::CupsSink</name>
     <message>
-        <source>stopped</source>
-        <translation>angehalten</translation>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
     </message>
     <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1; der Auftrag %2-%3 ist vielleicht noch da, sehen Sie nach, bevor Sie erneut drucken</translation>
+        <source>cancelled; nothing was printed</source>
+        <translation>abgebrochen; nichts wurde gedruckt</translation>
     </message>
     <message>
-        <source>%1; a job may be there, so look before you print again</source>
-        <translation>%1; vielleicht ist ein Auftrag entstanden, also sehen Sie nach, bevor Sie erneut drucken</translation>
+        <source>%1: %2; a job may be there, so look before you print again</source>
+        <translation>%1: %2; möglicherweise ist ein Auftrag dort, sehen Sie nach, bevor Sie erneut drucken</translation>
+    </message>
+    <message>
+        <source>%1: %2; job %1-%3 may still be there, so look before you print again</source>
+        <translation>%1: %2; der Auftrag %1-%3 ist möglicherweise noch dort, sehen Sie nach, bevor Sie erneut drucken</translation>
     </message>
 </context>
 <context>
@@ -103,10 +107,6 @@
         <translation>Als &amp;Vorlage sichern…</translation>
     </message>
     <message>
-        <source>De&amp;lete Preset</source>
-        <translation>Vorlage &amp;löschen</translation>
-    </message>
-    <message>
         <source>P&amp;ages:</source>
         <translation>Se&amp;iten:</translation>
     </message>
@@ -139,14 +139,6 @@
         <translation>Standard</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Als Vorlage sichern</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>&amp;Name:</translation>
-    </message>
-    <message>
         <source>Paper width</source>
         <translation>Papierbreite</translation>
     </message>
@@ -157,6 +149,50 @@
     <message>
         <source>There is no panel “%1”.</source>
         <translation>Es gibt keine Seite „%1“.</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>Choose &amp;File…</source>
+        <translation>D&amp;atei wählen…</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Ü&amp;bersicht</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset…</source>
+        <translation>Vorlage &amp;löschen…</translation>
+    </message>
+    <message>
+        <source>Print %1 and %2 more</source>
+        <translation>%1 und %2 weitere drucken</translation>
+    </message>
+    <message>
+        <source>Choose a file to print, or drop one here.</source>
+        <translation>Wählen Sie eine Datei zum Drucken, oder ziehen Sie eine hierher.</translation>
+    </message>
+    <message>
+        <source>Choose Files to Print</source>
+        <translation>Dateien zum Drucken wählen</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Vorlage löschen</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>Die Vorlage „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
     </message>
 </context>
 <context>
@@ -174,16 +210,16 @@
         <translation>%1: Das Dokument ist leer</translation>
     </message>
     <message>
-        <source>%1: neither a PDF nor an image nor a text</source>
-        <translation>%1: weder PDF noch Bild noch Text</translation>
-    </message>
-    <message>
         <source>the document can&apos;t be read any more</source>
         <translation>das Dokument kann nicht mehr gelesen werden</translation>
     </message>
     <message>
         <source>the document</source>
         <translation>das Dokument</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
+        <translation>%1: kann so nicht gedruckt werden; PDF, PostScript, PNG, JPEG, GIF, TIFF und einfacher Text können es</translation>
     </message>
 </context>
 <context>
@@ -204,16 +240,24 @@
 <context>
     <name>host::JobSink</name>
     <message>
-        <source>stopped</source>
-        <translation>angehalten</translation>
-    </message>
-    <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1: kann nicht mehr gelesen werden</translation>
     </message>
     <message>
         <source>%1: has changed while it was printed</source>
         <translation>%1: hat sich während des Druckens geändert</translation>
+    </message>
+    <message>
+        <source>cancelled; nothing was printed</source>
+        <translation>abgebrochen; nichts wurde gedruckt</translation>
+    </message>
+</context>
+<context>
+    <name>host::LengthBox</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>two lengths</comment>
+        <translation>%1 bis %2</translation>
     </message>
 </context>
 <context>
@@ -268,6 +312,30 @@
         <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>Das Plug-in hat keine Einstellungen für diesen Drucker. Gedruckt wird mit den Vorgaben des Treibers.</translation>
     </message>
+    <message>
+        <source>%1: no preset “%2”, and no other</source>
+        <translation>%1: keine Vorlage „%2“ und auch keine andere</translation>
+    </message>
+    <message>
+        <source>%1: no preset “%2”; there are: %3</source>
+        <translation>%1: keine Vorlage „%2“; es gibt: %3</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option.</source>
+        <translation>-o %1=%2: Weder vom Drucker noch vom Server ist diese Option bekannt.</translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option. Did you mean “%3”?</source>
+        <translation>-o %1=%2: Weder vom Drucker noch vom Server ist diese Option bekannt. Meinten Sie „%3“?</translation>
+    </message>
+    <message>
+        <source>--output %1: there is no such folder; it will be made.</source>
+        <translation>--output %1: Diesen Ordner gibt es nicht; er wird angelegt.</translation>
+    </message>
 </context>
 <context>
     <name>host::PaperChooser</name>
@@ -282,6 +350,11 @@
     <message>
         <source>Custom size…</source>
         <translation>Eigene Größe…</translation>
+    </message>
+    <message>
+        <source>The printer does not take %1, but %2.</source>
+        <comment>a length, and limits</comment>
+        <translation>Der Drucker nimmt nicht %1, sondern %2.</translation>
     </message>
 </context>
 <context>
@@ -300,6 +373,33 @@
     <message>
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1: %2 ist nicht der Code eines Plug-ins mit Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetNameBox</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Als Vorlage sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Sichern</translation>
+    </message>
+    <message>
+        <source>“%1” is there already; saving replaces it.</source>
+        <translation>„%1“ gibt es schon; Sichern ersetzt sie.</translation>
     </message>
 </context>
 <context>
@@ -340,6 +440,54 @@
         <source>Stopping…</source>
         <translation>Wird angehalten …</translation>
     </message>
+    <message>
+        <source>The print service does not run. Start it (“systemctl start cups”), or ask whoever looks after this computer.</source>
+        <translation>Der Druckdienst läuft nicht. Starten Sie ihn („systemctl start cups“), oder fragen Sie, wer diesen Rechner betreut.</translation>
+    </message>
+    <message>
+        <source>The print service has no printer yet.</source>
+        <translation>Der Druckdienst hat noch keinen Drucker.</translation>
+    </message>
+    <message>
+        <source>Choose a printer.</source>
+        <translation>Wählen Sie einen Drucker.</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Kopien</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Cancelled. What is left was not printed.</source>
+        <translation>Abgebrochen. Der Rest wurde nicht gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintTarget</name>
+    <message>
+        <source>%1: sent to %2</source>
+        <translation>%1: an %2 gesendet</translation>
+    </message>
+    <message>
+        <source>%1 waits: %2</source>
+        <comment>a document, and why</comment>
+        <translation>%1 wartet: %2</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -358,6 +506,15 @@
     <message>
         <source>%1 is not as it was saved: the printer has no such choice any more.</source>
         <translation>%1 ist nicht wie gesichert: Der Drucker hat diese Auswahl nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 comes with: %2.</source>
+        <comment>a paper, and choices</comment>
+        <translation>Zu %1 gehört: %2.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -440,6 +597,43 @@
     <message>
         <source>the connection to the CUPS server broke</source>
         <translation>die Verbindung zum CUPS-Server ist abgebrochen</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>kein Papier</translation>
+    </message>
+    <message>
+        <source>little paper left</source>
+        <translation>wenig Papier</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>Papierstau</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>Abdeckung offen</translation>
+    </message>
+    <message>
+        <source>not reachable</source>
+        <translation>nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a state and its reason</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1 is stopped</source>
+        <translation>%1 ist angehalten</translation>
     </message>
 </context>
 <context>

@@ -45,16 +45,20 @@
 <context>
     <name>host::CupsSink</name>
     <message>
-        <source>stopped</source>
-        <translation>detenido</translation>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
     </message>
     <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1; el trabajo %2-%3 puede seguir ahí, compruébelo antes de volver a imprimir</translation>
+        <source>cancelled; nothing was printed</source>
+        <translation>cancelado; no se imprimió nada</translation>
     </message>
     <message>
-        <source>%1; a job may be there, so look before you print again</source>
-        <translation>%1; es posible que haya un trabajo, compruébelo antes de volver a imprimir</translation>
+        <source>%1: %2; a job may be there, so look before you print again</source>
+        <translation>%1: %2; puede que haya un trabajo allí, compruébelo antes de volver a imprimir</translation>
+    </message>
+    <message>
+        <source>%1: %2; job %1-%3 may still be there, so look before you print again</source>
+        <translation>%1: %2; puede que el trabajo %1-%3 siga allí, compruébelo antes de volver a imprimir</translation>
     </message>
 </context>
 <context>
@@ -103,10 +107,6 @@
         <translation>Guardar como a&amp;juste…</translation>
     </message>
     <message>
-        <source>De&amp;lete Preset</source>
-        <translation>E&amp;liminar el ajuste</translation>
-    </message>
-    <message>
         <source>P&amp;ages:</source>
         <translation>Pági&amp;nas:</translation>
     </message>
@@ -139,14 +139,6 @@
         <translation>Predeterminado</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Guardar como ajuste</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>&amp;Nombre:</translation>
-    </message>
-    <message>
         <source>Paper width</source>
         <translation>Ancho del papel</translation>
     </message>
@@ -157,6 +149,50 @@
     <message>
         <source>There is no panel “%1”.</source>
         <translation>No hay ningún panel «%1».</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>Choose &amp;File…</source>
+        <translation>Elegir archi&amp;vo…</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Res&amp;umen</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset…</source>
+        <translation>E&amp;liminar el ajuste…</translation>
+    </message>
+    <message>
+        <source>Print %1 and %2 more</source>
+        <translation>Imprimir %1 y %2 más</translation>
+    </message>
+    <message>
+        <source>Choose a file to print, or drop one here.</source>
+        <translation>Elija un archivo para imprimir o suéltelo aquí.</translation>
+    </message>
+    <message>
+        <source>Choose Files to Print</source>
+        <translation>Elegir los archivos que se imprimirán</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificado)</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Eliminar el ajuste</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>¿Eliminar el ajuste «%1»?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
     </message>
 </context>
 <context>
@@ -174,16 +210,16 @@
         <translation>%1: el documento está vacío</translation>
     </message>
     <message>
-        <source>%1: neither a PDF nor an image nor a text</source>
-        <translation>%1: no es un PDF, ni una imagen, ni un texto</translation>
-    </message>
-    <message>
         <source>the document can&apos;t be read any more</source>
         <translation>ya no se puede leer el documento</translation>
     </message>
     <message>
         <source>the document</source>
         <translation>el documento</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
+        <translation>%1: no se puede imprimir tal cual; PDF, PostScript, PNG, JPEG, GIF, TIFF y texto sin formato sí</translation>
     </message>
 </context>
 <context>
@@ -204,16 +240,24 @@
 <context>
     <name>host::JobSink</name>
     <message>
-        <source>stopped</source>
-        <translation>detenido</translation>
-    </message>
-    <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1: ya no se puede leer</translation>
     </message>
     <message>
         <source>%1: has changed while it was printed</source>
         <translation>%1: ha cambiado mientras se imprimía</translation>
+    </message>
+    <message>
+        <source>cancelled; nothing was printed</source>
+        <translation>cancelado; no se imprimió nada</translation>
+    </message>
+</context>
+<context>
+    <name>host::LengthBox</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>two lengths</comment>
+        <translation>%1 a %2</translation>
     </message>
 </context>
 <context>
@@ -268,6 +312,30 @@
         <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>El complemento no tiene ajustes para esta impresora. Se imprime con los del controlador.</translation>
     </message>
+    <message>
+        <source>%1: no preset “%2”, and no other</source>
+        <translation>%1: no hay ningún ajuste «%2» ni ningún otro</translation>
+    </message>
+    <message>
+        <source>%1: no preset “%2”; there are: %3</source>
+        <translation>%1: no hay ningún ajuste «%2»; hay: %3</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option.</source>
+        <translation>-o %1=%2: no consta que la impresora ni el servidor tengan esta opción.</translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option. Did you mean “%3”?</source>
+        <translation>-o %1=%2: no consta que la impresora ni el servidor tengan esta opción. ¿Quería decir «%3»?</translation>
+    </message>
+    <message>
+        <source>--output %1: there is no such folder; it will be made.</source>
+        <translation>--output %1: esta carpeta no existe; se creará.</translation>
+    </message>
 </context>
 <context>
     <name>host::PaperChooser</name>
@@ -282,6 +350,11 @@
     <message>
         <source>Custom size…</source>
         <translation>Tamaño personalizado…</translation>
+    </message>
+    <message>
+        <source>The printer does not take %1, but %2.</source>
+        <comment>a length, and limits</comment>
+        <translation>La impresora no admite %1, sino %2.</translation>
     </message>
 </context>
 <context>
@@ -300,6 +373,33 @@
     <message>
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1: %2 no es el código de un complemento de ajustes</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetNameBox</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Guardar como ajuste</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Reemplazar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>“%1” is there already; saving replaces it.</source>
+        <translation>«%1» ya existe; al guardar se reemplaza.</translation>
     </message>
 </context>
 <context>
@@ -340,6 +440,54 @@
         <source>Stopping…</source>
         <translation>Deteniendo…</translation>
     </message>
+    <message>
+        <source>The print service does not run. Start it (“systemctl start cups”), or ask whoever looks after this computer.</source>
+        <translation>El servicio de impresión no está en marcha. Inícielo («systemctl start cups») o pregunte a quien se ocupa de este equipo.</translation>
+    </message>
+    <message>
+        <source>The print service has no printer yet.</source>
+        <translation>El servicio de impresión aún no tiene ninguna impresora.</translation>
+    </message>
+    <message>
+        <source>Choose a printer.</source>
+        <translation>Elija una impresora.</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Impresora</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papel</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>todas</translation>
+    </message>
+    <message>
+        <source>Cancelled. What is left was not printed.</source>
+        <translation>Cancelado. El resto no se ha imprimido.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintTarget</name>
+    <message>
+        <source>%1: sent to %2</source>
+        <translation>%1: enviado a %2</translation>
+    </message>
+    <message>
+        <source>%1 waits: %2</source>
+        <comment>a document, and why</comment>
+        <translation>%1 espera: %2</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -358,6 +506,15 @@
     <message>
         <source>%1 is not as it was saved: the printer has no such choice any more.</source>
         <translation>%1 no está como se guardó: la impresora ya no tiene esa opción.</translation>
+    </message>
+    <message>
+        <source>%1 comes with: %2.</source>
+        <comment>a paper, and choices</comment>
+        <translation>Con %1: %2.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -440,6 +597,43 @@
     <message>
         <source>the connection to the CUPS server broke</source>
         <translation>se ha interrumpido la conexión con el servidor CUPS</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>sin papel</translation>
+    </message>
+    <message>
+        <source>little paper left</source>
+        <translation>queda poco papel</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>atasco de papel</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>tapa abierta</translation>
+    </message>
+    <message>
+        <source>not reachable</source>
+        <translation>no accesible</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a state and its reason</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>no acepta trabajos</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>%1 is stopped</source>
+        <translation>%1 está detenida</translation>
     </message>
 </context>
 <context>

@@ -45,16 +45,20 @@
 <context>
     <name>host::CupsSink</name>
     <message>
-        <source>stopped</source>
-        <translation>arrêté</translation>
+        <source>cancelled</source>
+        <translation>annulé</translation>
     </message>
     <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1 ; la tâche %2-%3 existe peut-être encore, vérifiez avant de réimprimer</translation>
+        <source>cancelled; nothing was printed</source>
+        <translation>annulé ; rien n’a été imprimé</translation>
     </message>
     <message>
-        <source>%1; a job may be there, so look before you print again</source>
-        <translation>%1 ; une tâche existe peut-être, vérifiez avant d’imprimer à nouveau</translation>
+        <source>%1: %2; a job may be there, so look before you print again</source>
+        <translation>%1 : %2 ; une tâche s’y trouve peut-être, vérifiez avant de réimprimer</translation>
+    </message>
+    <message>
+        <source>%1: %2; job %1-%3 may still be there, so look before you print again</source>
+        <translation>%1 : %2 ; la tâche %1-%3 s’y trouve peut-être encore, vérifiez avant de réimprimer</translation>
     </message>
 </context>
 <context>
@@ -103,10 +107,6 @@
         <translation>Enregistrer comme &amp;préréglage…</translation>
     </message>
     <message>
-        <source>De&amp;lete Preset</source>
-        <translation>Supprimer &amp;le préréglage</translation>
-    </message>
-    <message>
         <source>P&amp;ages:</source>
         <translation>Pa&amp;ges :</translation>
     </message>
@@ -139,14 +139,6 @@
         <translation>Par défaut</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>Enregistrer comme préréglage</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
-    </message>
-    <message>
         <source>Paper width</source>
         <translation>Largeur du papier</translation>
     </message>
@@ -157,6 +149,50 @@
     <message>
         <source>There is no panel “%1”.</source>
         <translation>Il n’y a pas de volet « %1 ».</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Envoi</translation>
+    </message>
+    <message>
+        <source>Choose &amp;File…</source>
+        <translation>Choisir un &amp;fichier…</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>Rés&amp;umé</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset…</source>
+        <translation>Supprimer &amp;le préréglage…</translation>
+    </message>
+    <message>
+        <source>Print %1 and %2 more</source>
+        <translation>Imprimer %1 et %2 de plus</translation>
+    </message>
+    <message>
+        <source>Choose a file to print, or drop one here.</source>
+        <translation>Choisissez un fichier à imprimer, ou déposez-en un ici.</translation>
+    </message>
+    <message>
+        <source>Choose Files to Print</source>
+        <translation>Choisir les fichiers à imprimer</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Supprimer le préréglage</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>Supprimer le préréglage « %1 » ?</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
     </message>
 </context>
 <context>
@@ -174,16 +210,16 @@
         <translation>%1 : le document est vide</translation>
     </message>
     <message>
-        <source>%1: neither a PDF nor an image nor a text</source>
-        <translation>%1 : ni PDF, ni image, ni texte</translation>
-    </message>
-    <message>
         <source>the document can&apos;t be read any more</source>
         <translation>le document n’est plus lisible</translation>
     </message>
     <message>
         <source>the document</source>
         <translation>le document</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
+        <translation>%1 : ne peut pas être imprimé tel quel ; PDF, PostScript, PNG, JPEG, GIF, TIFF et texte brut le peuvent</translation>
     </message>
 </context>
 <context>
@@ -204,16 +240,24 @@
 <context>
     <name>host::JobSink</name>
     <message>
-        <source>stopped</source>
-        <translation>arrêté</translation>
-    </message>
-    <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1 : ne peut plus être lu</translation>
     </message>
     <message>
         <source>%1: has changed while it was printed</source>
         <translation>%1 : a changé pendant l’impression</translation>
+    </message>
+    <message>
+        <source>cancelled; nothing was printed</source>
+        <translation>annulé ; rien n’a été imprimé</translation>
+    </message>
+</context>
+<context>
+    <name>host::LengthBox</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>two lengths</comment>
+        <translation>%1 à %2</translation>
     </message>
 </context>
 <context>
@@ -268,6 +312,30 @@
         <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>Le module n’a pas de réglages pour cette imprimante. L’impression se fait avec ceux du pilote.</translation>
     </message>
+    <message>
+        <source>%1: no preset “%2”, and no other</source>
+        <translation>%1 : pas de préréglage « %2 », ni aucun autre</translation>
+    </message>
+    <message>
+        <source>%1: no preset “%2”; there are: %3</source>
+        <translation>%1 : pas de préréglage « %2 » ; il y a : %3</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option.</source>
+        <translation>-o %1=%2 : ni l’imprimante ni le serveur ne sont connus pour avoir cette option.</translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option. Did you mean “%3”?</source>
+        <translation>-o %1=%2 : ni l’imprimante ni le serveur ne sont connus pour avoir cette option. Vouliez-vous dire « %3 » ?</translation>
+    </message>
+    <message>
+        <source>--output %1: there is no such folder; it will be made.</source>
+        <translation>--output %1 : ce dossier n’existe pas ; il sera créé.</translation>
+    </message>
 </context>
 <context>
     <name>host::PaperChooser</name>
@@ -282,6 +350,11 @@
     <message>
         <source>Custom size…</source>
         <translation>Taille personnalisée…</translation>
+    </message>
+    <message>
+        <source>The printer does not take %1, but %2.</source>
+        <comment>a length, and limits</comment>
+        <translation>L’imprimante n’accepte pas %1, mais %2.</translation>
     </message>
 </context>
 <context>
@@ -300,6 +373,33 @@
     <message>
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1 : %2 n’est pas le code d’un module de réglages</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetNameBox</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>“%1” is there already; saving replaces it.</source>
+        <translation>« %1 » existe déjà ; l’enregistrement le remplace.</translation>
     </message>
 </context>
 <context>
@@ -340,6 +440,54 @@
         <source>Stopping…</source>
         <translation>Arrêt en cours…</translation>
     </message>
+    <message>
+        <source>The print service does not run. Start it (“systemctl start cups”), or ask whoever looks after this computer.</source>
+        <translation>Le service d’impression n’est pas démarré. Démarrez-le (« systemctl start cups ») ou adressez-vous à la personne qui s’occupe de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>The print service has no printer yet.</source>
+        <translation>Le service d’impression n’a pas encore d’imprimante.</translation>
+    </message>
+    <message>
+        <source>Choose a printer.</source>
+        <translation>Choisissez une imprimante.</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>Cancelled. What is left was not printed.</source>
+        <translation>Annulé. Le reste n’a pas été imprimé.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintTarget</name>
+    <message>
+        <source>%1: sent to %2</source>
+        <translation>%1 : envoyé à %2</translation>
+    </message>
+    <message>
+        <source>%1 waits: %2</source>
+        <comment>a document, and why</comment>
+        <translation>%1 attend : %2</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -358,6 +506,15 @@
     <message>
         <source>%1 is not as it was saved: the printer has no such choice any more.</source>
         <translation>%1 n’est pas tel qu’enregistré : l’imprimante n’a plus ce choix.</translation>
+    </message>
+    <message>
+        <source>%1 comes with: %2.</source>
+        <comment>a paper, and choices</comment>
+        <translation>%1 va avec : %2.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -440,6 +597,43 @@
     <message>
         <source>the connection to the CUPS server broke</source>
         <translation>la connexion au serveur CUPS a été interrompue</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>plus de papier</translation>
+    </message>
+    <message>
+        <source>little paper left</source>
+        <translation>bientôt plus de papier</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>bourrage papier</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>capot ouvert</translation>
+    </message>
+    <message>
+        <source>not reachable</source>
+        <translation>injoignable</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a state and its reason</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>n’accepte pas de tâches</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>%1 is stopped</source>
+        <translation>%1 est arrêtée</translation>
     </message>
 </context>
 <context>

@@ -45,16 +45,20 @@
 <context>
     <name>host::CupsSink</name>
     <message>
-        <source>stopped</source>
-        <translation>中止しました</translation>
+        <source>cancelled</source>
+        <translation>キャンセルしました</translation>
     </message>
     <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1。ジョブ %2-%3 が残っているかもしれません。もう一度印刷する前に確かめてください</translation>
+        <source>cancelled; nothing was printed</source>
+        <translation>キャンセルしました。何も印刷されていません</translation>
     </message>
     <message>
-        <source>%1; a job may be there, so look before you print again</source>
-        <translation>%1。ジョブが残っている可能性があります。もう一度印刷する前に確認してください</translation>
+        <source>%1: %2; a job may be there, so look before you print again</source>
+        <translation>%1: %2。ジョブが残っている可能性があります。再印刷の前に確認してください</translation>
+    </message>
+    <message>
+        <source>%1: %2; job %1-%3 may still be there, so look before you print again</source>
+        <translation>%1: %2。ジョブ %1-%3 が残っている可能性があります。再印刷の前に確認してください</translation>
     </message>
 </context>
 <context>
@@ -103,10 +107,6 @@
         <translation>プリセットとして保存(&amp;P)…</translation>
     </message>
     <message>
-        <source>De&amp;lete Preset</source>
-        <translation>プリセットを削除(&amp;L)</translation>
-    </message>
-    <message>
         <source>P&amp;ages:</source>
         <translation>ページ(&amp;A):</translation>
     </message>
@@ -139,14 +139,6 @@
         <translation>既定値</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>プリセットとして保存</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>名前(&amp;N):</translation>
-    </message>
-    <message>
         <source>Paper width</source>
         <translation>用紙の幅</translation>
     </message>
@@ -157,6 +149,50 @@
     <message>
         <source>There is no panel “%1”.</source>
         <translation>「%1」というパネルはありません。</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>送信中</translation>
+    </message>
+    <message>
+        <source>Choose &amp;File…</source>
+        <translation>ファイルを選択(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>概要(&amp;U)</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset…</source>
+        <translation>プリセットを削除(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Print %1 and %2 more</source>
+        <translation>%1 とほか %2 件を印刷</translation>
+    </message>
+    <message>
+        <source>Choose a file to print, or drop one here.</source>
+        <translation>印刷するファイルを選択するか、ここにドロップしてください。</translation>
+    </message>
+    <message>
+        <source>Choose Files to Print</source>
+        <translation>印刷するファイルを選択</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（変更あり）</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>プリセットを削除</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>プリセット「%1」を削除しますか？</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -174,16 +210,16 @@
         <translation>%1: 文書が空です</translation>
     </message>
     <message>
-        <source>%1: neither a PDF nor an image nor a text</source>
-        <translation>%1: PDF でも画像でもテキストでもありません</translation>
-    </message>
-    <message>
         <source>the document can&apos;t be read any more</source>
         <translation>文書を読み取れなくなりました</translation>
     </message>
     <message>
         <source>the document</source>
         <translation>文書</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
+        <translation>%1: このままでは印刷できません。PDF、PostScript、PNG、JPEG、GIF、TIFF、プレーンテキストを印刷できます</translation>
     </message>
 </context>
 <context>
@@ -204,16 +240,24 @@
 <context>
     <name>host::JobSink</name>
     <message>
-        <source>stopped</source>
-        <translation>中止しました</translation>
-    </message>
-    <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1：もう読み込めません</translation>
     </message>
     <message>
         <source>%1: has changed while it was printed</source>
         <translation>%1：印刷中に変更されました</translation>
+    </message>
+    <message>
+        <source>cancelled; nothing was printed</source>
+        <translation>キャンセルしました。何も印刷されていません</translation>
+    </message>
+</context>
+<context>
+    <name>host::LengthBox</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>two lengths</comment>
+        <translation>%1～%2</translation>
     </message>
 </context>
 <context>
@@ -268,6 +312,30 @@
         <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>プラグインにこのプリンターの設定はありません。ドライバーの既定値で印刷します。</translation>
     </message>
+    <message>
+        <source>%1: no preset “%2”, and no other</source>
+        <translation>%1: プリセット「%2」はありません。ほかのプリセットもありません</translation>
+    </message>
+    <message>
+        <source>%1: no preset “%2”; there are: %3</source>
+        <translation>%1: プリセット「%2」はありません。あるもの: %3</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option.</source>
+        <translation>-o %1=%2: このオプションはプリンターにもサーバーにも知られていません。</translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option. Did you mean “%3”?</source>
+        <translation>-o %1=%2: このオプションはプリンターにもサーバーにも知られていません。「%3」のことですか？</translation>
+    </message>
+    <message>
+        <source>--output %1: there is no such folder; it will be made.</source>
+        <translation>--output %1: このフォルダーはありません。作成されます。</translation>
+    </message>
 </context>
 <context>
     <name>host::PaperChooser</name>
@@ -282,6 +350,11 @@
     <message>
         <source>Custom size…</source>
         <translation>ユーザー定義サイズ…</translation>
+    </message>
+    <message>
+        <source>The printer does not take %1, but %2.</source>
+        <comment>a length, and limits</comment>
+        <translation>このプリンターで使えるのは %2 です（%1 は使えません）。</translation>
     </message>
 </context>
 <context>
@@ -300,6 +373,33 @@
     <message>
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1: %2 は設定パネルのプラグインのコードではありません</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetNameBox</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>プリセットとして保存</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>置き換え(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>“%1” is there already; saving replaces it.</source>
+        <translation>「%1」はすでにあります。保存すると置き換えられます。</translation>
     </message>
 </context>
 <context>
@@ -340,6 +440,54 @@
         <source>Stopping…</source>
         <translation>停止しています…</translation>
     </message>
+    <message>
+        <source>The print service does not run. Start it (“systemctl start cups”), or ask whoever looks after this computer.</source>
+        <translation>印刷サービスが動作していません。開始するか（「systemctl start cups」）、このコンピューターの管理者に問い合わせてください。</translation>
+    </message>
+    <message>
+        <source>The print service has no printer yet.</source>
+        <translation>印刷サービスにはまだプリンターがありません。</translation>
+    </message>
+    <message>
+        <source>Choose a printer.</source>
+        <translation>プリンターを選択してください。</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Cancelled. What is left was not printed.</source>
+        <translation>キャンセルしました。残りは印刷されていません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintTarget</name>
+    <message>
+        <source>%1: sent to %2</source>
+        <translation>%1: %2 に送信しました</translation>
+    </message>
+    <message>
+        <source>%1 waits: %2</source>
+        <comment>a document, and why</comment>
+        <translation>%1 は待機中です: %2</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -358,6 +506,15 @@
     <message>
         <source>%1 is not as it was saved: the printer has no such choice any more.</source>
         <translation>%1は保存した値ではありません。プリンターにその選択肢がもうありません。</translation>
+    </message>
+    <message>
+        <source>%1 comes with: %2.</source>
+        <comment>a paper, and choices</comment>
+        <translation>%1 に合わせて: %2。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
     </message>
 </context>
 <context>
@@ -440,6 +597,43 @@
     <message>
         <source>the connection to the CUPS server broke</source>
         <translation>CUPS サーバーとの接続が切れました</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>用紙切れ</translation>
+    </message>
+    <message>
+        <source>little paper left</source>
+        <translation>用紙残りわずか</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>紙詰まり</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>not reachable</source>
+        <translation>接続できません</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a state and its reason</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>ジョブを受け付けません</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>キャンセルしました</translation>
+    </message>
+    <message>
+        <source>%1 is stopped</source>
+        <translation>%1 は停止中</translation>
     </message>
 </context>
 <context>

@@ -45,16 +45,20 @@
 <context>
     <name>host::CupsSink</name>
     <message>
-        <source>stopped</source>
-        <translation>已停止</translation>
+        <source>cancelled</source>
+        <translation>已取消</translation>
     </message>
     <message>
-        <source>%1; job %2-%3 may still be there, so look before you print again</source>
-        <translation>%1；作业 %2-%3 可能仍在，再次打印前请先查看</translation>
+        <source>cancelled; nothing was printed</source>
+        <translation>已取消；没有打印任何内容</translation>
     </message>
     <message>
-        <source>%1; a job may be there, so look before you print again</source>
-        <translation>%1；可能已有作业，请在重新打印前查看</translation>
+        <source>%1: %2; a job may be there, so look before you print again</source>
+        <translation>%1：%2；那里可能有作业，再次打印前请先查看</translation>
+    </message>
+    <message>
+        <source>%1: %2; job %1-%3 may still be there, so look before you print again</source>
+        <translation>%1：%2；作业 %1-%3 可能仍在那里，再次打印前请先查看</translation>
     </message>
 </context>
 <context>
@@ -103,10 +107,6 @@
         <translation>存为预设(&amp;P)…</translation>
     </message>
     <message>
-        <source>De&amp;lete Preset</source>
-        <translation>删除预设(&amp;L)</translation>
-    </message>
-    <message>
         <source>P&amp;ages:</source>
         <translation>页(&amp;A):</translation>
     </message>
@@ -139,14 +139,6 @@
         <translation>默认值</translation>
     </message>
     <message>
-        <source>Save as Preset</source>
-        <translation>存为预设</translation>
-    </message>
-    <message>
-        <source>&amp;Name:</source>
-        <translation>名称(&amp;N):</translation>
-    </message>
-    <message>
         <source>Paper width</source>
         <translation>纸张宽度</translation>
     </message>
@@ -157,6 +149,50 @@
     <message>
         <source>There is no panel “%1”.</source>
         <translation>没有面板“%1”。</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>正在发送</translation>
+    </message>
+    <message>
+        <source>Choose &amp;File…</source>
+        <translation>选择文件(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>S&amp;ummary</source>
+        <translation>摘要(&amp;U)</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Preset…</source>
+        <translation>删除预设(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Print %1 and %2 more</source>
+        <translation>打印 %1 及另外 %2 个</translation>
+    </message>
+    <message>
+        <source>Choose a file to print, or drop one here.</source>
+        <translation>请选择要打印的文件，或将文件拖放到此处。</translation>
+    </message>
+    <message>
+        <source>Choose Files to Print</source>
+        <translation>选择要打印的文件</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1（已更改）</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>删除预设</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>要删除预设“%1”吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -174,16 +210,16 @@
         <translation>%1：文档为空</translation>
     </message>
     <message>
-        <source>%1: neither a PDF nor an image nor a text</source>
-        <translation>%1：既不是 PDF，也不是图像或文本</translation>
-    </message>
-    <message>
         <source>the document can&apos;t be read any more</source>
         <translation>无法再读取文档</translation>
     </message>
     <message>
         <source>the document</source>
         <translation>文档</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
+        <translation>%1：无法直接打印；可以打印 PDF、PostScript、PNG、JPEG、GIF、TIFF 和纯文本</translation>
     </message>
 </context>
 <context>
@@ -204,16 +240,24 @@
 <context>
     <name>host::JobSink</name>
     <message>
-        <source>stopped</source>
-        <translation>已停止</translation>
-    </message>
-    <message>
         <source>%1: can&apos;t be read any more</source>
         <translation>%1：无法再读取</translation>
     </message>
     <message>
         <source>%1: has changed while it was printed</source>
         <translation>%1：在打印过程中已更改</translation>
+    </message>
+    <message>
+        <source>cancelled; nothing was printed</source>
+        <translation>已取消；没有打印任何内容</translation>
+    </message>
+</context>
+<context>
+    <name>host::LengthBox</name>
+    <message>
+        <source>%1 to %2</source>
+        <comment>two lengths</comment>
+        <translation>%1 至 %2</translation>
     </message>
 </context>
 <context>
@@ -268,6 +312,30 @@
         <source>The plug-in has no settings for this printer. It is printed with the driver&apos;s defaults.</source>
         <translation>插件没有此打印机的设置。将使用驱动程序的默认值打印。</translation>
     </message>
+    <message>
+        <source>%1: no preset “%2”, and no other</source>
+        <translation>%1：没有预设“%2”，也没有其他预设</translation>
+    </message>
+    <message>
+        <source>%1: no preset “%2”; there are: %3</source>
+        <translation>%1：没有预设“%2”；现有：%3</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option.</source>
+        <translation>-o %1=%2：打印机和服务器都不知道此选项。</translation>
+    </message>
+    <message>
+        <source>-o %1=%2: neither the printer nor the server is known to have this option. Did you mean “%3”?</source>
+        <translation>-o %1=%2：打印机和服务器都不知道此选项。您是指“%3”吗？</translation>
+    </message>
+    <message>
+        <source>--output %1: there is no such folder; it will be made.</source>
+        <translation>--output %1：没有这个文件夹；将会创建。</translation>
+    </message>
 </context>
 <context>
     <name>host::PaperChooser</name>
@@ -282,6 +350,11 @@
     <message>
         <source>Custom size…</source>
         <translation>自定义尺寸…</translation>
+    </message>
+    <message>
+        <source>The printer does not take %1, but %2.</source>
+        <comment>a length, and limits</comment>
+        <translation>打印机不接受 %1，而是 %2。</translation>
     </message>
 </context>
 <context>
@@ -300,6 +373,33 @@
     <message>
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1：%2 不是设置面板插件的代码</translation>
+    </message>
+</context>
+<context>
+    <name>host::PresetNameBox</name>
+    <message>
+        <source>Save as Preset</source>
+        <translation>存为预设</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名称(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>“%1” is there already; saving replaces it.</source>
+        <translation>“%1”已存在；保存会替换它。</translation>
     </message>
 </context>
 <context>
@@ -340,6 +440,54 @@
         <source>Stopping…</source>
         <translation>正在停止…</translation>
     </message>
+    <message>
+        <source>The print service does not run. Start it (“systemctl start cups”), or ask whoever looks after this computer.</source>
+        <translation>打印服务没有运行。请启动它（“systemctl start cups”），或询问管理这台计算机的人。</translation>
+    </message>
+    <message>
+        <source>The print service has no printer yet.</source>
+        <translation>打印服务还没有打印机。</translation>
+    </message>
+    <message>
+        <source>Choose a printer.</source>
+        <translation>请选择打印机。</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Cancelled. What is left was not printed.</source>
+        <translation>已取消。其余部分没有打印。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintTarget</name>
+    <message>
+        <source>%1: sent to %2</source>
+        <translation>%1：已发送到 %2</translation>
+    </message>
+    <message>
+        <source>%1 waits: %2</source>
+        <comment>a document, and why</comment>
+        <translation>%1 正在等待：%2</translation>
+    </message>
 </context>
 <context>
     <name>host::Remarks</name>
@@ -358,6 +506,15 @@
     <message>
         <source>%1 is not as it was saved: the printer has no such choice any more.</source>
         <translation>%1与保存时不同：打印机已没有此选项。</translation>
+    </message>
+    <message>
+        <source>%1 comes with: %2.</source>
+        <comment>a paper, and choices</comment>
+        <translation>%1 随之设定：%2。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
     </message>
 </context>
 <context>
@@ -440,6 +597,43 @@
     <message>
         <source>the connection to the CUPS server broke</source>
         <translation>与 CUPS 服务器的连接已中断</translation>
+    </message>
+    <message>
+        <source>out of paper</source>
+        <translation>缺纸</translation>
+    </message>
+    <message>
+        <source>little paper left</source>
+        <translation>纸张不足</translation>
+    </message>
+    <message>
+        <source>paper jam</source>
+        <translation>卡纸</translation>
+    </message>
+    <message>
+        <source>cover open</source>
+        <translation>机盖打开</translation>
+    </message>
+    <message>
+        <source>not reachable</source>
+        <translation>无法连接</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a state and its reason</comment>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>takes no jobs</source>
+        <translation>不接受作业</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>%1 is stopped</source>
+        <translation>%1 已停止</translation>
     </message>
 </context>
 <context>

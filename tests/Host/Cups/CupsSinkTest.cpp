@@ -76,7 +76,7 @@ TEST_F(Sending, TellsHowFarItIs)
 
 TEST_F(Sending, CancelsTheJobWhenItIsStoppedAndLeavesNothingInTheSpool)
 {
-    EXPECT_EQ(sentence(send(atHalf([this] { m_stop.request_stop(); }))), "counter: stopped");
+    EXPECT_EQ(sentence(send(atHalf([this] { m_stop.request_stop(); }))), "counter: cancelled; nothing was printed");
     EXPECT_EQ(m_server.openJobs(), "");
     EXPECT_EQ(m_server.spooled(), QStringList());
     EXPECT_EQ(m_server.recordCount(), 0);
@@ -104,7 +104,7 @@ TEST_F(Sending, StopsWhileTheServerKeepsSilent)
         sent = done;
         freezeAtHalf(done, total);
     }));
-    EXPECT_TRUE(problem.startsWith("counter: stopped")) << problem.toStdString();
+    EXPECT_TRUE(problem.startsWith("counter: cancelled")) << problem.toStdString();
     m_server.thaw();
     EXPECT_EQ(m_server.recordCount(), 0);
 }

@@ -131,6 +131,12 @@ INSTANTIATE_TEST_SUITE_P(At, FaultsWhileLooking,
 INSTANTIATE_TEST_SUITE_P(AtAFile, FaultsWhileLooking,
                          testing::Values(Fault{{Step::ppd, "PPD"}, {Mode::hugeLength, "HugeLength"}}), nameOf);
 
+// Numbers that the library's enumerations have no room for.
+INSTANTIATE_TEST_SUITE_P(InTheStatus, FaultsWhileLooking,
+                         testing::Values(Fault{{Step::standard, "Default"}, {Mode::unknownStatus, "UnknownStatus"}},
+                                         Fault{{Step::ppd, "PPD"}, {Mode::unknownHttpStatus, "UnknownHttpStatus"}}),
+                         nameOf);
+
 class FaultsOfThePPD : public Faults
 {};
 

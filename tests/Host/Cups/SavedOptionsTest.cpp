@@ -211,6 +211,17 @@ TEST_F(Saved, SurviveWhateverTheFileHolds)
     EXPECT_EQ(content(), odd + "\nDest counter/mine QnSpeed=S1\n"); // what is not understood is kept all the same
 }
 
+TEST_F(Saved, RefuseWordsThatOtherProgramsWouldCut)
+{
+    ASSERT_TRUE(SavedOptions("counter").save("kept", {{"a", "1"}}));
+    for (const QChar end : {'\0', '\r', '\n'}) {
+        const QString words = QString("two") + end + "parts";
+        for (const OptionValues &options : {OptionValues{{"x", words}}, OptionValues{{words, "1"}}})
+            EXPECT_TRUE(support::sentence(SavedOptions("counter").save("bad", options)).contains("line end"));
+    }
+    EXPECT_EQ(content(), "Dest counter/kept a=1\n");
+}
+
 TEST_F(Saved, RefuseAValueThatWouldBeMoreThanOneLine)
 {
     ASSERT_TRUE(SavedOptions("counter").save("kept", {{"a", "1"}}));

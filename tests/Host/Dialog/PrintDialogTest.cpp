@@ -173,11 +173,58 @@ TEST_F(DialogWithoutWindow, StopsAJobAndStays)
     EXPECT_EQ(m_dialog->message(), "stopped");
 }
 
+TEST_F(DialogWithoutWindow, SendsNoFurtherDocumentWhenAStopComesTooLateForOne)
+{
+    const QString ticket = QN_SOURCE_DIR "/examples/documents/ticket.pdf";
+    m_dialog->chooseDocuments({ticket, ticket});
+    startJob();
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    QSignalSpy failed(m_dialog.get(), &PrintDialog::failed);
+    m_sink->mayEnd = true; // as if the server had taken it by now
+    while (!m_sink->hasEnded)
+        QThread::msleep(1); // and the dialog had not heard of it
+    m_dialog->stop();
+    ASSERT_TRUE(failed.wait(kMilliseconds));
+    EXPECT_EQ(printed.size(), 1);
+    EXPECT_EQ(m_dialog->documents().size(), 1U);
+    EXPECT_EQ(m_dialog->state(), State::ready);
+    EXPECT_EQ(m_dialog->message(), "Cancelled. What is left was not printed.");
+}
+
 TEST_F(DialogWithoutWindow, LeavesNoJobHalfSentWhenItEnds)
 {
     startJob();
     m_dialog.reset();
     EXPECT_TRUE(m_sink->hasEnded);
+}
+
+TEST_F(DialogWithoutWindow, PrintsTheCopiesAndPagesAskedForElseThoseThatAreSaved)
+{
+    ASSERT_TRUE(SavedOptions("one").save({}, {{"copies", "3"}, {"page-ranges", "1-2"}}));
+    const Queue queue{"one", {}, {}, CachedPPD{m_ppd, 0, {}}, {}, {}};
+    const auto saved = value(targetOfQueue({}, queue, {}));
+    EXPECT_EQ(saved->amount().copies, 3);
+    EXPECT_EQ(saved->amount().pages, "1-2");
+    PrintRequest request;
+    request.copies = 5;
+    request.pages = "4";
+    const auto asked = value(targetOfQueue(request, queue, {}));
+    EXPECT_EQ(asked->amount().copies, 5);
+    EXPECT_EQ(asked->amount().pages, "4");
+}
+
+TEST_F(DialogWithoutWindow, TellsEachChangeOfAPresetASentenceAfterTheOther)
+{
+    m_dialog->use(printer("one"));
+    ASSERT_TRUE(SavedOptions("one").save("old", {{"QnDensity", "Gone"}, {"QnSpeed", "Gone"}}));
+    QSignalSpy remarked(m_dialog.get(), &PrintDialog::remarked);
+    m_dialog->restorePreset("old");
+    QCoreApplication::processEvents();
+    ASSERT_EQ(remarked.size(), 1);
+    const QStringList sentences = remarked[0][0].toStringList();
+    ASSERT_EQ(sentences.size(), 2);
+    EXPECT_EQ(m_dialog->message(), sentences[0] + ' ' + sentences[1]);
+    EXPECT_TRUE(sentences[0].endsWith("the printer has no such choice any more."));
 }
 
 TEST_F(DialogWithoutWindow, SaysThatTheFileOfItsPPDCannotServe)

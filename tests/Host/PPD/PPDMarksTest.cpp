@@ -12,6 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <thread>
+
 using namespace host;
 using support::PPDText;
 
@@ -24,6 +27,15 @@ protected:
     {
         m_document = support::value(PPDDocument::open(ppd.file()));
         m_marks = std::make_unique<PPDMarks>(*m_document);
+    }
+    /// The library keeps the texts of one language, that of the environment, and finds out which once a thread.
+    void openIn(const char *environment, const PPDText &ppd)
+    {
+        const QByteArray before = qgetenv("LC_ALL");
+        qputenv("LC_ALL", environment);
+        std::setlocale(LC_MESSAGES, "C"); // or what the application took at its start would count
+        std::thread([&] { open(ppd); }).join();
+        qputenv("LC_ALL", before);
     }
     /// Speed S3 and thermal copy paper exclude each other.
     static PPDText withConstraint()
@@ -156,6 +168,102 @@ TEST_F(Marked, TakeSizesOfTheUsersOwnWithinTheLimitsOnly)
     EXPECT_EQ(m_marks->customPageSize(), std::nullopt);
 }
 
+/// A custom option of one parameter, of a kind and a range.
+struct Parameter
+{
+    const char *kind;
+    const char *least;
+    const char *largest;
+    const char *below;
+    const char *beyond;
+};
+
+void PrintTo(const Parameter &row, std::ostream *out) { *out << row.kind; }
+
+class Parameters : public Marked, public testing::WithParamInterface<Parameter>
+{};
+
+TEST_P(Parameters, TakeNumbersWithinTheirRangeBothEndsIncluded)
+{
+    const auto &[kind, least, largest, below, beyond] = GetParam();
+    open(PPDText()
+             .standardOption("QnDensity")
+             .line("*CustomQnDensity True: \"x\"")
+             .line(QByteArray("*ParamCustomQnDensity Amount: 1 ") + kind + ' ' + least + ' ' + largest));
+    for (const char *taken : {least, largest}) {
+        EXPECT_TRUE(m_marks->mark("QnDensity", taken)) << taken;
+        EXPECT_TRUE(m_document->accepts("QnDensity", QString("Custom.") + taken)) << taken;
+        EXPECT_EQ(m_marks->all()["QnDensity"], QString("Custom.") + taken);
+    }
+    for (const char *refused : {below, beyond, "D"}) {
+        EXPECT_FALSE(m_marks->mark("QnDensity", refused)) << refused;
+        EXPECT_FALSE(m_document->accepts("QnDensity", QString("Custom.") + refused)) << refused;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, Parameters,
+                         testing::Values(Parameter{"real", "0.5", "2.5", "0.49", "2.51"},
+                                         Parameter{"curve", "0.5", "2.5", "0.49", "2.51"},
+                                         Parameter{"invcurve", "0.5", "2.5", "0.49", "2.51"},
+                                         Parameter{"points", "10", "20", "9.9", "20.1"},
+                                         Parameter{"int", "3", "7", "2", "8"}));
+
+TEST_F(Marked, TakeNoNumberWhereATextIsAskedFor)
+{
+    open(PPDText()
+             .standardOption("QnDensity")
+             .line("*CustomQnDensity True: \"x\"")
+             .line("*ParamCustomQnDensity Name: 1 string 1 9"));
+    EXPECT_FALSE(m_marks->mark("QnDensity", "5"));
+}
+
+/// Sizes at each limit of width and height, and beyond it.
+TEST_F(Marked, TakeSizesUpToEachLimit)
+{
+    open(PPDText().customPageRange(100, 200, 300, 400));
+    for (const char *within : {"100x350", "200x350", "150x300", "150x400"})
+        EXPECT_TRUE(m_document->accepts("PageSize", QString("Custom.") + within)) << within;
+    for (const char *beyond : {"99.9x350", "200.1x350", "150x299.9", "150x400.1", "0x350", "x"})
+        EXPECT_FALSE(m_document->accepts("PageSize", QString("Custom.") + beyond)) << beyond;
+}
+
+TEST_F(Marked, HaveTheirTextsFromTheFile)
+{
+    openIn("de_AT.UTF-8", PPDText()
+                              .option("QnMedia", "Paper Type", "Thermal",
+                                      {{"Thermal", "Thermal Paper"}, {"Copy", "Copy Paper"}, {"Bare", ""}})
+                              .line("*de.QnMedia Thermal/Thermopapier: \"\"")
+                              .line("*de.QnMedia Copy/: \"\"")
+                              .line("*de_AT.QnMedia Thermal/Thermopapier, eh klar: \"\""));
+    EXPECT_EQ(m_document->optionText("QnMedia"), "Paper Type");
+    EXPECT_EQ(m_document->optionText("QnNothing"), "QnNothing");
+    const auto text = [this](const char *choice, const char *language) {
+        return m_document->choiceText("QnMedia", choice, language);
+    };
+    EXPECT_EQ(text("Thermal", ""), "Thermal Paper");
+    EXPECT_EQ(text("Thermal", "fr"), "Thermal Paper");
+    EXPECT_EQ(text("Thermal", "de"), "Thermopapier");
+    EXPECT_EQ(text("Thermal", "de_CH"), "Thermopapier");
+    EXPECT_EQ(text("Thermal", "de_AT"), "Thermopapier, eh klar");
+    EXPECT_EQ(text("Copy", "de"), "Copy Paper"); // no words there
+    EXPECT_EQ(text("Gone", "de"), "Gone");
+    EXPECT_EQ(m_document->choiceText("QnNothing", "A", "de"), "A");
+}
+
+TEST_F(Marked, HaveThePapersThatHaveASize)
+{
+    openIn("de_DE.UTF-8", PPDText().line("*de.PageSize A4/A4, hoch: \"\""));
+    const auto papers = m_document->papers("de");
+    ASSERT_EQ(papers.size(), support::paperNames().size()); // but for the user's own
+    EXPECT_EQ(papers[0].name, "A4");
+    EXPECT_EQ(papers[0].text, "A4, hoch");
+    EXPECT_EQ(papers[0].size, (printing::Paper{595, 842}));
+    EXPECT_EQ(papers.back().name, support::paperNames().back());
+    EXPECT_EQ(m_document->pageSize("A4"), (printing::Paper{595, 842}));
+    EXPECT_EQ(m_document->pageSize("a4"), std::nullopt);
+    EXPECT_EQ(m_document->pageSize("Custom"), std::nullopt);
+}
+
 /// `count` options of three choices each; every choice of one forbids every choice of the next.
 PPDText withoutAWayOut(PPDText ppd, int count)
 {
@@ -256,6 +364,40 @@ INSTANTIATE_TEST_SUITE_P(
                     TooMuch{"Constraints", [](int count) { return repeated(count, "*UIConstraints: *A C", " *B C0"); },
                             10000, "more than 10000 constraints"}),
     [](const auto &row) { return row.param.name; });
+
+/// As many lines that begin so that the file holds `count` of them.
+QByteArray filledUp(const QByteArray &beginning, const QByteArray &line, int count)
+{
+    QByteArray text = PPDText().text();
+    const auto already = text.count('\n' + beginning) + (text.startsWith(beginning) ? 1 : 0);
+    return text + (line + '\n').repeated(count - already);
+}
+
+bool isOpened(const QByteArray &text)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("full.ppd"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    file.close();
+    const auto opened = PPDDocument::open(file.fileName());
+    return opened || !opened.problem().sentence.contains("not opened");
+}
+
+TEST(LimitsOfAPPD, AreTheLastThatIsTaken)
+{
+    for (const auto &[beginning, line, most] :
+         {std::tuple{"*", "*% nothing", 50000}, std::tuple{"*UIConstraints:", "*UIConstraints: *A C *B C", 10000},
+          std::tuple{"*NonUIConstraints:", "*NonUIConstraints: *A C *B C", 10000},
+          std::tuple{"*cupsUIConstraints ", "*cupsUIConstraints a: \"*A C *B C\"", 10000},
+          std::tuple{"*PageSize ", "*PageSize P: \"\"", 4000}, std::tuple{"*OpenUI ", "*OpenUI *O/O: PickOne", 4000}}) {
+        EXPECT_TRUE(isOpened(filledUp(beginning, line, most))) << beginning;
+        EXPECT_FALSE(isOpened(filledUp(beginning, line, most + 1))) << beginning;
+    }
+    QByteArray text = PPDText().text() + QByteArray("*% nothing\n").repeated(10000);
+    text += "*% " + QByteArray(16 * 1024 * 1024 - 4 - text.size(), 'x') + '\n';
+    EXPECT_TRUE(isOpened(text));
+    EXPECT_FALSE(isOpened(text + '\n'));
+}
 
 TEST(APPDOfManyMegabytes, IsRefusedAlsoWhenItIsPackedSmall)
 {

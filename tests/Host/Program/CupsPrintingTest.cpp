@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -134,7 +136,8 @@ TEST_F(CupsPrinting, TellsOfAQueueThatIsStoppedAndLeavesTheJobThere)
 {
     ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0);
     EXPECT_EQ(print({"-d", "counter", kTicket}), 0);
-    EXPECT_EQ(m_said, "qnprint: counter: the queue is stopped; jobs wait until it is started\ncounter-1\n");
+    EXPECT_EQ(m_said, "qnprint: counter: the queue is stopped; jobs wait until it is started\n"
+                      "counter-1 ticket.pdf waits: counter is stopped\n");
     EXPECT_EQ(m_server.recordCount(), 0);
     ASSERT_EQ(m_server.run("cupsenable", {"counter"}), 0);
     EXPECT_EQ(m_server.record(1)["title"], "ticket.pdf");
@@ -181,12 +184,93 @@ TEST_F(CupsPrinting, RefusesChoicesThatThePrinterDoesNotHave)
     EXPECT_EQ(m_server.recordCount(), 0);
 }
 
+TEST_F(CupsPrinting, PrintsSeveralDocumentsEachAsAJobOfItsOwn)
+{
+    ASSERT_EQ(print({"-d", "counter", kTicket, kTicket}), 0);
+    EXPECT_EQ(m_said, "counter-1 ticket.pdf: sent to counter\ncounter-2 ticket.pdf: sent to counter\n");
+}
+
+TEST_F(CupsPrinting, PrintsNoneOfSeveralDocumentsWhenOneCannotBe)
+{
+    EXPECT_EQ(print({"-d", "counter", kTicket, "/no/such.pdf", kTicket}), 1);
+    EXPECT_EQ(m_said, "qnprint: /no/such.pdf: No such file or directory\n");
+    EXPECT_EQ(m_server.recordCount(), 0);
+}
+
+TEST_F(CupsPrinting, DoubtsOptionsThatNobodyKnowsAndPassesThemOn)
+{
+    ASSERT_EQ(print({"-d", "counter", "--language", "en", "-o", "QnDensty=D9", "-o", "Ordinance=7", "-o",
+                     "fit-to-page=true", kTicket}),
+              0);
+    EXPECT_EQ(m_said, "qnprint: -o Ordinance=7: neither the printer nor the server is known to have this option.\n"
+                      "qnprint: -o QnDensty=D9: neither the printer nor the server is known to have this option. Did "
+                      "you mean “QnDensity”?\ncounter-1 ticket.pdf: sent to counter\n");
+    EXPECT_TRUE(m_server.record(1)["options"].split(' ').contains("QnDensty=D9"));
+}
+
+TEST_F(CupsPrinting, RefusesAPresetThatIsNotThere)
+{
+    EXPECT_EQ(print({"-d", "counter/express", "--language", "en", kTicket}), 1);
+    EXPECT_EQ(m_said, "qnprint: counter: no preset “express”, and no other\n");
+    for (const char *preset : {"counter/invoices", "counter/tickets"})
+        ASSERT_EQ(m_server.run("lpoptions", {"-p", preset, "-o", "QnSpeed=S1"}), 0);
+    EXPECT_EQ(print({"-d", "counter/express", "--language", "en", kTicket}), 1);
+    EXPECT_EQ(m_said, "qnprint: counter: no preset “express”; there are: invoices, tickets\n");
+    EXPECT_EQ(m_server.recordCount(), 0);
+    EXPECT_EQ(print({"-d", "counter/Invoices", kTicket}), 0) << "as other programs find it";
+}
+
+struct WrongUse
+{
+    QStringList arguments;
+    const char *said;
+};
+
+void PrintTo(const WrongUse &row, std::ostream *out) { *out << row.arguments.join(' ').toStdString(); }
+
+class ArgumentsThatDoNotGoTogether : public CupsPrinting, public testing::WithParamInterface<WrongUse>
+{};
+
+TEST_P(ArgumentsThatDoNotGoTogether, AreWrongUse)
+{
+    EXPECT_EQ(print(GetParam().arguments + QStringList{kTicket}), 2);
+    EXPECT_EQ(m_said, QByteArray("qnprint: ") + GetParam().said + '\n');
+    EXPECT_EQ(m_server.recordCount(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Are, ArgumentsThatDoNotGoTogether,
+    testing::Values(WrongUse{{"-d", "counter", "--output", "."},
+                             "--output goes with --ppd only; a queue has its own way"},
+                    WrongUse{{"--output", "."}, "--output goes with --ppd only; a queue has its own way"},
+                    WrongUse{{"-d", "counter", "--panel", "basic"}, "--panel and --no-dialog do not go together"},
+                    WrongUse{{"-d", "counter", "--ppd", "x.ppd"}, "-d and --ppd do not go together"}));
+
+TEST(PrintingIntoAFolder, SaysThatTheFolderIsMade)
+{
+    const QTemporaryDir folder;
+    const QString out = folder.filePath("out");
+    QProcess program;
+    program.setProcessChannelMode(QProcess::MergedChannels);
+    program.start(QN_PROGRAM, {"--no-dialog", "--language", "en", "--ppd", QN_SOURCE_DIR "/examples/ppd/full.ppd",
+                               "--output", out, kTicket});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.readAll(), QString("qnprint: --output %1: there is no such folder; it will be made.\n"
+                                         "%1/ticket.pdf\n")
+                                     .arg(out)
+                                     .toUtf8());
+    program.start(QN_PROGRAM,
+                  {"--no-dialog", "--ppd", QN_SOURCE_DIR "/examples/ppd/full.ppd", "--output", out, kTicket});
+    ASSERT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.readAll(), (out + "/ticket-2.pdf\n").toUtf8());
+}
+
 TEST_F(CupsPrinting, TellsWhichChoiceAConstraintMoved)
 {
     ASSERT_EQ(print({"-d", "counter", "--language", "en", "-o", "QnMedia=ThermalCopy", "-o", "QnSpeed=S3", kTicket}),
               0);
     EXPECT_EQ(m_said, "qnprint: Paper Type “Thermal Paper” instead of “Thermal Copy Paper”, to go with Print Speed "
-                      "“Fastest”.\ncounter-1\n");
+                      "“Fastest”.\ncounter-1 ticket.pdf: sent to counter\n");
     const auto job = m_server.record(1);
     EXPECT_EQ(job["QnMedia"], "Thermal");
     EXPECT_EQ(job["QnSpeed"], "S3");
@@ -271,7 +355,22 @@ TEST_F(CupsPrinting, PrintsOnAQueueWithoutAPPD)
 {
     ASSERT_TRUE(m_server.addPlainQueue("plain", "file://" + m_server.path("tmp/printed")));
     EXPECT_EQ(print({"-d", "plain", "-o", "QnDensity=D9", kTicket}), 0) << m_said.toStdString();
-    EXPECT_EQ(m_said.trimmed(), "plain-1");
+    EXPECT_EQ(m_said.trimmed(), "plain-1 ticket.pdf: sent to plain");
+}
+
+TEST_F(CupsPrinting, PrintsOnAClassByThePPDOfItsFirstMember)
+{
+    ASSERT_TRUE(m_server.addPlainQueue("plain", "file:///dev/null"));
+    for (const char *member : {"counter", "plain"})
+        ASSERT_EQ(m_server.run("lpadmin", {"-p", member, "-c", "hall"}), 0);
+    ASSERT_EQ(m_server.run("cupsenable", {"hall"}), 0);
+    ASSERT_EQ(m_server.run("cupsaccept", {"hall"}), 0);
+    ASSERT_EQ(m_server.run("cupsdisable", {"plain"}), 0);
+    ASSERT_EQ(print({"-d", "hall", "-o", "PageSize=RollA4", "-o", "QnDensity=D9", kTicket}), 0) << m_said.toStdString();
+    EXPECT_EQ(m_said, "hall-1 ticket.pdf: sent to hall\n");
+    const auto job = m_server.record(1);
+    EXPECT_EQ(job["QnDensity"], "D9");
+    EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize"); // the panels have seen the PPD
 }
 
 TEST_F(CupsPrinting, FetchesAPPDAgainOnlyWhenItHasChanged)
@@ -365,7 +464,7 @@ TEST_P(Endings, LeaveNoJobBehind)
     if (GetParam().signal != SIGKILL) {
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(program.exitCode(), 1);
-        EXPECT_TRUE(program.readAllStandardError().endsWith("qnprint: counter: stopped\n"));
+        EXPECT_TRUE(program.readAllStandardError().endsWith("qnprint: counter: cancelled; nothing was printed\n"));
     }
     // After a kill, what talks with the server finds itself alone and takes the job back.
     const auto isGone = [this] { return m_server.openJobs().isEmpty() && m_server.spooled().isEmpty(); };

@@ -85,7 +85,7 @@ TEST_P(Interrupted, EndsSoonAndSaysWhatMayBeLeft)
     EXPECT_EQ(program.exitCode(), 1);
     const QString said = QString::fromUtf8(program.readAllStandardError());
     EXPECT_EQ(said.count('\n'), 1) << said.toStdString();
-    EXPECT_TRUE(said.contains("stopped")) << said.toStdString();
+    EXPECT_TRUE(said.contains("cancelled")) << said.toStdString();
     const bool isGone = server.wasAsked(Step::cancel);
     EXPECT_EQ(isGone || said.contains("look before you print again"), step.mayLeaveAJob) << said.toStdString();
     EXPECT_EQ(program.readAllStandardOutput(), "");
@@ -172,8 +172,9 @@ struct Option
 TEST(Options, AreOneLineEach)
 {
     for (const auto &[text, isTaken] :
-         {Option{"x=a", true}, Option{"x=a b", true}, Option{"x=a\nDest third y=1", false}, Option{"x\ty=1", false},
-          Option{"a b=1", false}, Option{"a\"b=1", false}, Option{"x=\x1b[31m", false}}) {
+         {Option{"wrap=a", true}, Option{"wrap=a b", true}, Option{"wrap=a\nDest third y=1", false},
+          Option{"wr\tap=1", false}, Option{"wr ap=1", false}, Option{"wr\"ap=1", false},
+          Option{"wrap=\x1b[31m", false}}) {
         QTemporaryDir out;
         QProcess program;
         program.start(QN_PROGRAM, {"--no-dialog", "--ppd", QN_SOURCE_DIR "/examples/ppd/full.ppd", "--output",

@@ -28,6 +28,8 @@ struct Sample
     QByteArray content;
 };
 
+void PrintTo(const Sample &row, std::ostream *out) { *out << row.type; }
+
 class OfferedTypes : public testing::TestWithParam<Sample>
 {};
 
@@ -43,10 +45,11 @@ TEST_P(OfferedTypes, AreTypesThatArePrinted)
 }
 
 const std::array kSamples{Sample{"application/pdf", "%PDF-1.4 ..."},
-                          Sample{"image/png", "\x89PNG..."},
+                          Sample{"application/postscript", "%!PS-Adobe-3.0"},
+                          Sample{"image/png", "\x89PNG\r\n\x1a\n..."},
                           Sample{"image/jpeg", "\xff\xd8\xff..."},
                           Sample{"image/gif", "GIF89a..."},
-                          Sample{"image/tiff", "II*..."},
+                          Sample{"image/tiff", QByteArray("II*\0...", 7)},
                           Sample{"text/plain", "words"}};
 
 INSTANTIATE_TEST_SUITE_P(Of, OfferedTypes, testing::ValuesIn(kSamples));

@@ -6,7 +6,6 @@
 #include "Dialog/PrinterFinder.h"
 #include "Toolkit/Controls.h"
 
-#include <QInputDialog>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTimer>
@@ -90,8 +89,8 @@ TEST_P(BoxOverTheWindow, KeepsThePrinterUntilItIsClosed)
         EXPECT_EQ(m_dialog->state(), PrintDialog::State::looking);
         EXPECT_EQ(m_dialog->target()->name(), "counter");
         EXPECT_TRUE(panel);
-        if (auto *const question = qobject_cast<QInputDialog *>(open))
-            question->setTextValue("late");
+        if (auto *const question = qobject_cast<PresetNameBox *>(open))
+            question->findChild<QLineEdit *>()->setText("late");
         open->accept();
     });
     openBox(box);

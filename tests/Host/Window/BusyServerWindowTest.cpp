@@ -64,7 +64,7 @@ TEST_P(BusyWithAJob, StopsSoonAfterCancelAndStays)
     EXPECT_EQ(message(), "Stopping…");
     ASSERT_TRUE(QTest::qWaitFor([this] { return canPrint(); }, kMilliseconds));
     EXPECT_LT(clock.elapsed(), kSoon);
-    EXPECT_TRUE(message().startsWith("counter: stopped")) << message().toStdString();
+    EXPECT_TRUE(message().startsWith("counter: cancelled")) << message().toStdString();
     EXPECT_TRUE(m_server->wasAsked(Step::cancel) || message().endsWith("look before you print again"));
     EXPECT_TRUE(m_window->isVisible());
 }

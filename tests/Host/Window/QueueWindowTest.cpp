@@ -5,11 +5,14 @@
 #include "Cups/CupsSink.h"
 #include "Dialog/PrinterFinder.h"
 #include "Toolkit/Controls.h"
+#include "Window/Fields.h"
 
+#include <QDragEnterEvent>
 #include <QElapsedTimer>
-#include <QInputDialog>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProgressBar>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabBar>
@@ -44,6 +47,7 @@ protected:
         PrintRequest request;
         request.queue = queue;
         request.options = m_asked;
+        request.prefersLastPrinter = m_prefersLast;
         makeDialog(request, file);
         ASSERT_TRUE(m_dialog->start());
         showWindow();
@@ -78,11 +82,9 @@ protected:
     }
     void savePreset(const QString &name)
     {
-        QTimer::singleShot(0, m_window.get(), [this, name] {
-            auto *const question = find<QInputDialog>();
-            ASSERT_TRUE(question);
-            question->setTextValue(name);
-            question->accept();
+        meetBox<PresetNameBox>([name](PresetNameBox &box) {
+            box.findChild<QLineEdit *>()->setText(name);
+            QTest::keyClick(&box, Qt::Key_Return);
         });
         trigger("Save as &Preset…");
     }
@@ -97,6 +99,7 @@ protected:
 
     CupsServer m_server;
     OptionValues m_asked; // on the command line
+    bool m_prefersLast = false;
 };
 
 TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
@@ -124,13 +127,238 @@ TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
 
 TEST_F(QueueWindow, OffersThePrintersWithoutChoosingOneWhenThereIsNoDefault)
 {
+    ASSERT_TRUE(m_server.addQueue("second", "usb://Qn/Thermal?serial=2"));
     open("");
-    ASSERT_TRUE(waitForMessage("there is no default queue"));
-    ASSERT_TRUE(waitFor([this] { return printers()->count() == 1; }));
+    ASSERT_TRUE(waitForMessage("Choose a printer."));
+    EXPECT_EQ(printers()->count(), 2);
     EXPECT_EQ(printers()->currentIndex(), -1);
     EXPECT_FALSE(canPrint());
+    EXPECT_FALSE(button("Try A&gain")->isVisible()); // it could not help
     choose(*printers(), "counter");
     EXPECT_TRUE(waitFor([this] { return canPrint(); }));
+}
+
+TEST_F(QueueWindow, TakesTheOnlyPrinterThereIs)
+{
+    openAndWait("");
+    EXPECT_EQ(printers()->currentText(), "counter");
+}
+
+TEST_F(QueueWindow, LooksAgainWhenThereWasNoPrinterYet)
+{
+    ASSERT_EQ(m_server.run("lpadmin", {"-x", "counter"}), 0);
+    open("");
+    ASSERT_TRUE(waitForMessage("The print service has no printer yet."));
+    ASSERT_TRUE(button("Try A&gain")->isVisible());
+    ASSERT_TRUE(m_server.addQueue("counter", "usb://Qn/Thermal?serial=1"));
+    button("Try A&gain")->click();
+    EXPECT_TRUE(waitFor([this] { return canPrint(); })) << message().toStdString();
+}
+
+TEST_F(QueueWindow, SaysThatThePrintServiceDoesNotRun)
+{
+    m_server.stop();
+    open();
+    ASSERT_TRUE(waitForMessage("The print service does not run."));
+    EXPECT_TRUE(button("Try A&gain")->isVisible());
+    ASSERT_FALSE(m_server.restart());
+    button("Try A&gain")->click();
+    EXPECT_TRUE(waitFor([this] { return canPrint(); })) << message().toStdString();
+}
+
+TEST_F(QueueWindow, PrintsWithReturn)
+{
+    for (const char *field : {"printers", "papers", "presets", "copies", "pages"}) {
+        openAndWait();
+        QSignalSpy finished(m_dialog.get(), &PrintDialog::finished);
+        m_window->findChild<QWidget *>(field)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_TRUE(waitFor([&] { return finished.size() == 1; })) << field;
+    }
+}
+
+TEST_F(QueueWindow, RemembersPrinterAndPresetOfTheLastJob)
+{
+    ASSERT_TRUE(m_server.addQueue("second", "usb://Qn/Thermal?serial=2"));
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "second/express", "-o", "QnSpeed=S1"}), 0);
+    m_prefersLast = true;
+    openAndWait("second/express");
+    ASSERT_TRUE(print());
+    m_prefersLast = false; // as without a window
+    openAndWait("counter");
+    ASSERT_TRUE(print());
+    m_prefersLast = true;
+    openAndWait("");
+    EXPECT_EQ(printers()->currentText(), "second");
+    EXPECT_EQ(presets()->currentText(), "express");
+    openAndWait("counter"); // what is asked for counts for more
+    EXPECT_EQ(printers()->currentText(), "counter");
+    ASSERT_EQ(m_server.run("lpoptions", {"-x", "second/express"}), 0);
+    openAndWait("");
+    EXPECT_EQ(presets()->currentText(), "Defaults");
+    ASSERT_EQ(m_server.run("lpadmin", {"-x", "second"}), 0);
+    openAndWait(""); // the only one that is left
+    EXPECT_EQ(printers()->currentText(), "counter");
+}
+
+TEST_F(QueueWindow, TellsPrintersApartByWhatTheServerSaysOfThem)
+{
+    ASSERT_EQ(m_server.run("lpadmin", {"-p", "counter", "-D", "Invoices", "-L", "Shop floor 1"}), 0);
+    ASSERT_EQ(m_server.run("cupsdisable", {"-r", "Out of paper, call Mia", "counter"}), 0);
+    openAndWait();
+    ASSERT_TRUE(waitFor([this] { return printers()->currentText() != "counter"; }));
+    EXPECT_EQ(printers()->currentText(), "counter – Invoices, Shop floor 1 (stopped: Out of paper, call Mia)");
+    EXPECT_EQ(message(), "counter: the queue is stopped; jobs wait until it is started (Out of paper, call Mia)");
+}
+
+TEST_F(QueueWindow, DoesNotPrintOnAQueueThatTakesNoJobs)
+{
+    ASSERT_EQ(m_server.run("cupsreject", {"-r", "closed until noon", "counter"}), 0);
+    open();
+    ASSERT_TRUE(waitForMessage("counter: the queue does not take jobs now"));
+    EXPECT_FALSE(canPrint());
+    ASSERT_EQ(m_server.run("cupsaccept", {"counter"}), 0);
+    button("Try A&gain")->click();
+    EXPECT_TRUE(waitFor([this] { return canPrint(); }));
+}
+
+TEST_F(QueueWindow, PutsTheFocusBackAfterAJobThatDidNotGo)
+{
+    openAndWait();
+    pages()->setFocus();
+    m_server.kill();
+    EXPECT_FALSE(print());
+    EXPECT_EQ(QApplication::focusWidget(), pages());
+}
+
+TEST_F(QueueWindow, SaysThatAPresetWasChanged)
+{
+    openAndWait();
+    EXPECT_EQ(presets()->currentText(), "Defaults");
+    find<QSpinBox>("copies")->setValue(2);
+    QApplication::processEvents();
+    EXPECT_EQ(presets()->currentText(), "Defaults (changed)");
+    savePreset("two");
+    EXPECT_EQ(presets()->currentText(), "two");
+    moveDown("mMediaPopUp");
+    EXPECT_EQ(presets()->currentText(), "two (changed)");
+    choose(*presets(), "Defaults");
+    choose(*presets(), "two");
+    EXPECT_EQ(presets()->currentText(), "two");
+    EXPECT_EQ(find<QSpinBox>("copies")->value(), 2); // copies are part of a preset
+}
+
+TEST_F(QueueWindow, AsksBeforeAPresetIsReplacedOrDeleted)
+{
+    ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter/express", "-o", "QnSpeed=S1"}), 0);
+    openAndWait();
+    meetBox<PresetNameBox>([this](PresetNameBox &box) {
+        auto *const name = box.findChild<QLineEdit *>();
+        const auto says = [&box](const QString &text) {
+            for (const auto *each : box.findChildren<QPushButton *>())
+                if (each->text() == text)
+                    return each->isEnabled();
+            return false;
+        };
+        name->setText("Express");
+        EXPECT_TRUE(says("&Replace"));
+        name->setText("fast");
+        EXPECT_TRUE(says("&Save"));
+        box.reject();
+    });
+    trigger("Save as &Preset…");
+    EXPECT_EQ(SavedOptions("counter").presets(), QStringList("express"));
+    choose(*presets(), "express");
+    for (const char *answer : {"Cancel", "&Delete"}) {
+        EXPECT_EQ(SavedOptions("counter").presets(), QStringList("express"));
+        meetBox<QMessageBox>([answer](QMessageBox &box) {
+            for (auto *each : box.buttons())
+                if (each->text() == answer)
+                    return each->click();
+            FAIL();
+        });
+        trigger("De&lete Preset…");
+    }
+    EXPECT_EQ(SavedOptions("counter").presets(), QStringList());
+    EXPECT_EQ(presets()->currentText(), "Defaults (changed)"); // what is set stays as it is
+}
+
+TEST_F(QueueWindow, LeavesMenusAndNumbersToTheWheelOnlyWhileTheyHaveTheFocus)
+{
+    openAndWait();
+    pages()->setFocus();
+    const auto turn = [](QWidget &field) {
+        const QPointF middle = field.rect().center();
+        QWheelEvent notch(middle, field.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&field, &notch);
+        QApplication::processEvents();
+    };
+    const QString before = papers()->currentText();
+    for (QWidget *field : {static_cast<QWidget *>(papers()), static_cast<QWidget *>(printers()),
+                           static_cast<QWidget *>(find<QSpinBox>("copies")),
+                           static_cast<QWidget *>(find<toolkit::PopUpControl>("mMediaPopUp"))}) {
+        turn(*field);
+        EXPECT_EQ(QApplication::focusWidget(), pages()) << field->objectName().toStdString();
+    }
+    EXPECT_EQ(papers()->currentText(), before);
+    EXPECT_EQ(find<QSpinBox>("copies")->value(), 1);
+    EXPECT_EQ(marked("QnMedia"), "Thermal");
+    papers()->setFocus();
+    turn(*papers());
+    EXPECT_NE(papers()->currentText(), before);
+}
+
+TEST_F(QueueWindow, PrintsWhatIsDroppedOnIt)
+{
+    openAndWait();
+    m_dialog->chooseDocuments({});
+    EXPECT_EQ(message(), "Choose a file to print, or drop one here.");
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(kTicket)});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &enter);
+    ASSERT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(m_window.get(), &drop);
+    EXPECT_EQ(message(), "");
+    EXPECT_TRUE(print());
+}
+
+TEST_F(QueueWindow, HasItsSizeFromTheBeginning)
+{
+    m_server.freeze();
+    open();
+    const QSize before = m_window->size();
+    m_server.thaw();
+    ASSERT_TRUE(waitFor([this] { return canPrint(); }));
+    QApplication::processEvents();
+    EXPECT_EQ(m_window->size(), before);
+    EXPECT_FALSE(m_window->findChild<FittingScrollArea *>()->verticalScrollBar()->isVisible());
+    EXPECT_LE(before.width(), 560);
+    EXPECT_LE(before.height(), 560);
+    pages()->setText("3-1");
+    EXPECT_FALSE(print());
+    EXPECT_NE(message(), "");
+    EXPECT_EQ(m_window->size(), before); // a message moves nothing
+}
+
+TEST_F(QueueWindow, RemembersWhetherTheSummaryIsUnfolded)
+{
+    openAndWait();
+    EXPECT_EQ(m_window->findChild<SummaryView *>(), nullptr);
+    EXPECT_LE(m_window->width(), 560);
+    summary();
+    EXPECT_TRUE(find<SummaryView>()->isVisible());
+    const int width = m_window->width();
+    openAndWait();
+    ASSERT_TRUE(find<SummaryView>());
+    EXPECT_TRUE(find<SummaryView>()->isVisible());
+    EXPECT_EQ(m_window->width(), width);
+    find<QPushButton>("unfold")->click();
+    EXPECT_LE(m_window->width(), 560);
+    openAndWait();
+    EXPECT_EQ(m_window->findChild<SummaryView *>(), nullptr);
 }
 
 TEST_F(QueueWindow, PrintsWhatWasChosenInIt)
@@ -171,6 +399,49 @@ TEST_F(QueueWindow, SaysWhichPagesAreNone)
     EXPECT_FALSE(print());
     EXPECT_EQ(message(), "“3-1” are no pages. Write single pages and ranges, such as 1-3,5.");
     EXPECT_EQ(m_server.openJobs(), "");
+    pages()->setText("1-2");
+    EXPECT_EQ(message(), ""); // its reason has gone
+    EXPECT_TRUE(print());
+}
+
+TEST_F(QueueWindow, PrintsSeveralDocumentsEachAsAJobOfItsOwn)
+{
+    openAndWait();
+    m_dialog->chooseDocuments({kTicket, m_server.path("none.pdf"), kTicket});
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf and 1 more");
+    EXPECT_EQ(message(), m_server.path("none.pdf") + ": No such file or directory");
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    QSignalSpy finished(m_dialog.get(), &PrintDialog::finished);
+    button("&Print")->click();
+    ASSERT_TRUE(waitFor([&] { return finished.size() == 1; }));
+    EXPECT_EQ(printed.size(), 2);
+    EXPECT_FALSE(m_window->isVisible());
+    for (const int job : {1, 2})
+        EXPECT_EQ(m_server.record(job)["title"], "ticket.pdf");
+}
+
+TEST_F(QueueWindow, KeepsTheDocumentsThatWereNotPrinted)
+{
+    openAndWait();
+    m_dialog->chooseDocuments({kTicket, kTicket});
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    QObject::connect(m_dialog.get(), &PrintDialog::printed, [this] { m_server.kill(); });
+    button("&Print")->click();
+    ASSERT_TRUE(waitForMessage("counter: no CUPS server answers"));
+    EXPECT_EQ(printed.size(), 1);
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf");
+    EXPECT_TRUE(canPrint());
+}
+
+TEST_F(QueueWindow, HasNothingToPrintWithoutADocument)
+{
+    openAndWait();
+    m_dialog->chooseDocuments({m_server.path("none.pdf")});
+    EXPECT_EQ(message(), m_server.path("none.pdf") + ": No such file or directory");
+    EXPECT_FALSE(canPrint());
+    m_dialog->chooseDocuments({kTicket});
+    EXPECT_EQ(message(), "");
+    EXPECT_TRUE(print());
 }
 
 TEST_F(QueueWindow, TellsInOneLineWhichChoiceMovedAnother)
@@ -242,8 +513,9 @@ TEST_F(QueueWindow, SavesAndRestoresPresetsThroughThePanels)
     EXPECT_EQ(presets()->currentText(), "express");
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy");
 
-    trigger("De&lete Preset");
-    EXPECT_EQ(items(*presets()), QStringList("Defaults"));
+    meetBox<QMessageBox>([](QMessageBox &box) { box.buttons().first()->click(); });
+    trigger("De&lete Preset…");
+    EXPECT_EQ(items(*presets()), QStringList("Defaults (changed)"));
     EXPECT_EQ(marked("QnMedia"), "ThermalCopy"); // what is set stays as it is
 }
 
@@ -303,11 +575,18 @@ TEST_F(QueueWindow, TakesCopiesAndPagesOfAPresetIntoTheirFields)
     EXPECT_TRUE(options.contains("number-up=2"));
 }
 
-TEST_F(QueueWindow, RefusesANameThatOtherProgramsCouldNotRead)
+TEST_F(QueueWindow, TakesNoNameThatOtherProgramsCouldNotRead)
 {
     openAndWait();
-    savePreset("two words");
-    EXPECT_EQ(message(), "“two words”: a name is one word without slashes and quotation marks");
+    meetBox<PresetNameBox>([](PresetNameBox &box) {
+        box.findChild<QLineEdit *>()->setText("two words");
+        QTest::keyClick(&box, Qt::Key_Return);
+        EXPECT_TRUE(box.isVisible()); // and what was typed stays
+        EXPECT_EQ(box.findChildren<QLabel *>().last()->text(),
+                  "“two words”: a name is one word without slashes and quotation marks");
+        box.reject();
+    });
+    trigger("Save as &Preset…");
     EXPECT_EQ(SavedOptions("counter").presets(), QStringList());
 }
 
@@ -318,6 +597,8 @@ TEST_F(QueueWindow, OffersGeneralSettingsForAQueueWithoutAPPD)
     EXPECT_EQ(message(), "No driver describes this printer: it has general settings only.");
     EXPECT_EQ(find<QTabBar>()->count(), 0);
     EXPECT_FALSE(button("Sa&ve")->isVisible());
+    EXPECT_FALSE(find<QTabBar>()->isVisible());
+    EXPECT_TRUE(find<QLabel>("inPlaceOfPanel")->isVisible()); // nothing is blank
     EXPECT_EQ(papers()->isVisible(), papers()->count() > 0);
     find<QSpinBox>()->setValue(2);
     EXPECT_TRUE(print());
@@ -400,7 +681,7 @@ TEST_F(QueueWindow, StopsAJobWithCancelAndStaysForTheNext)
     EXPECT_FALSE(canPrint());
     EXPECT_TRUE(find<QProgressBar>()->isVisible());
     button("Cancel")->click();
-    ASSERT_TRUE(waitForMessage("counter: stopped"));
+    ASSERT_TRUE(waitForMessage("counter: cancelled; nothing was printed"));
     EXPECT_TRUE(m_window->isVisible());
     m_server.thaw();
     EXPECT_EQ(m_server.openJobs(), "");
@@ -503,7 +784,7 @@ TEST_F(QueueWindow, TellsOfAStoppedQueueBeforeAndLeavesTheJobInIt)
 {
     ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0);
     openAndWait();
-    EXPECT_EQ(message(), "counter: the queue is stopped; jobs wait until it is started.");
+    EXPECT_EQ(message(), "counter: the queue is stopped; jobs wait until it is started");
     EXPECT_TRUE(print());
     EXPECT_TRUE(m_server.openJobs().startsWith("counter-1 "));
     ASSERT_EQ(m_server.run("cupsenable", {"counter"}), 0);

@@ -80,7 +80,7 @@ TEST_P(WindowTexts, HaveAMnemonicOfItsOwnForEachControl)
     for (const auto *button : window.findChildren<QPushButton *>())
         if (button->text().contains('&'))
             mnemonics.append(button->text().section('&', 1, 1).left(1).toLower());
-    EXPECT_EQ(mnemonics.size(), 8); // five fields, Print, Save and Try Again
+    EXPECT_EQ(mnemonics.size(), 10); // five fields, Print, Save, Try Again, Choose File, Summary
     EXPECT_EQ(mnemonics.removeDuplicates(), 0) << mnemonics.join(' ').toStdString();
 }
 
@@ -90,6 +90,14 @@ TEST_P(WindowTexts, AreShownInTheWindow)
     PrintDialog dialog({}, nullptr);
     const DialogWindow window(dialog);
     EXPECT_EQ(window.windowTitle(), textsOf(GetParam())["host::DialogWindow/Print"]);
+}
+
+TEST_P(WindowTexts, BringTheToolkitsOwnWithThem)
+{
+    useWindowTexts("en");
+    const QString english = QCoreApplication::translate("QPlatformTheme", "Cancel");
+    useWindowTexts(GetParam());
+    EXPECT_NE(QCoreApplication::translate("QPlatformTheme", "Cancel"), english);
 }
 
 INSTANTIATE_TEST_SUITE_P(In, WindowTexts, testing::Values("de", "fr", "es", "ja", "zh_CN"),

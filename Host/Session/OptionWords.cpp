@@ -1,0 +1,53 @@
+// Options and choices in the words of a person.
+#include "OptionWords.h"
+
+#include "Foundation/Bundle.h"
+#include "Foundation/Locale.h"
+
+namespace host {
+
+namespace {
+
+constexpr double kMillimetresPerInch = 25.4;
+constexpr int kDigitsOfMillimetres = 3; // 26.4
+constexpr int kDigitsOfInches = 4;      // 1.025
+
+} // namespace
+
+OptionWords::OptionWords(const PPDDocument &ppd, const foundation::Bundle &bundle, QString language)
+    : m_ppd(ppd)
+    , m_bundle(bundle)
+    , m_language(std::move(language))
+{}
+
+QString OptionWords::option(const QString &keyword) const
+{
+    return m_bundle.localizedString(m_ppd.optionText(keyword));
+}
+
+QString OptionWords::choice(const QString &keyword, const ChoiceValue &choice) const
+{
+    if (choice.custom)
+        return amount(keyword, *choice.custom).value_or(choice.custom->shortText());
+    const QString key = m_ppd.choiceText(keyword, choice.keyword);
+    const QString text = m_bundle.localizedString(key);
+    return text == key ? m_ppd.choiceText(keyword, choice.keyword, m_language) : text;
+}
+
+QString OptionWords::both(const QString &keyword, const ChoiceValue &choice) const
+{
+    return QString("%1 “%2”").arg(option(keyword), this->choice(keyword, choice));
+}
+
+/// A driver that takes an amount in millimetres too says so by a parameter of that name; its first is in inches.
+std::optional<QString> OptionWords::amount(const QString &keyword, const CustomValue &value) const
+{
+    const auto inches = value.number();
+    if (!inches || !m_ppd.hasCustomParameter(keyword, "mm"))
+        return std::nullopt;
+    const QLocale &locale = foundation::Locale::current().locale();
+    return foundation::IsMetric() ? locale.toString(*inches * kMillimetresPerInch, 'g', kDigitsOfMillimetres) + " mm"
+                                  : locale.toString(*inches, 'g', kDigitsOfInches) + " in";
+}
+
+} // namespace host

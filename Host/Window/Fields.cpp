@@ -1,0 +1,131 @@
+// Fields of the window.
+#include "Fields.h"
+
+#include "Foundation/PlainText.h"
+
+#include <QAbstractItemView>
+#include <QEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStylePainter>
+
+namespace host {
+
+namespace {
+
+constexpr int kShortestText = 8; // in characters, of a menu's text
+constexpr QSize kSmallest(240, 120);
+
+class WheelGuard : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
+            return false;
+        event->ignore(); // goes on to what scrolls
+        return true;
+    }
+};
+
+} // namespace
+
+FittingScrollArea::FittingScrollArea(QWidget *parent)
+    : QScrollArea(parent)
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+QSize FittingScrollArea::sizeHint() const { return widget() ? widget()->sizeHint() : QScrollArea::sizeHint(); }
+
+QSize FittingScrollArea::minimumSizeHint() const
+{
+    if (!widget())
+        return kSmallest;
+    const QSize needed = widget()->minimumSizeHint();
+    const int bar = isVisible() && height() < needed.height() ? widthOfBar() : 0;
+    return {qMax(needed.width() + bar, kSmallest.width()), kSmallest.height()};
+}
+
+int FittingScrollArea::widthOfBar() const { return verticalScrollBar()->sizeHint().width(); }
+
+void FittingScrollArea::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    updateGeometry(); // the bar comes and goes with the height
+}
+
+Menu::Menu(QWidget *parent)
+    : QComboBox(parent)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(kShortestText);
+    keepFromWheel(*this);
+}
+
+/// The list shows whole texts, as far as the screen is wide.
+void Menu::showPopup()
+{
+    const int bar = view()->verticalScrollBar()->sizeHint().width();
+    const int wanted = view()->sizeHintForColumn(modelColumn()) + bar;
+    view()->setMinimumWidth(qMin(wanted, screen()->availableSize().width()));
+    QComboBox::showPopup();
+}
+
+bool Menu::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(elided() == currentText() ? QString() : foundation::asHtml(currentText()));
+    return QComboBox::event(event);
+}
+
+QString Menu::elided() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const int width = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width();
+    return fontMetrics().elidedText(option.currentText, Qt::ElideRight, width);
+}
+
+void Menu::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    option.currentText = elided();
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void LengthBox::setLimits(double least, double most)
+{
+    setCorrectionMode(CorrectToNearestValue);
+    setRange(least, most);
+    setToolTip(limits());
+}
+
+QString LengthBox::limits() const
+{
+    return tr("%1 to %2", "two lengths").arg(textFromValue(minimum()), textFromValue(maximum()) + suffix());
+}
+
+void LengthBox::fixup(QString &input) const
+{
+    Q_EMIT corrected(input);
+    QDoubleSpinBox::fixup(input);
+}
+
+void keepFromWheel(QWidget &field)
+{
+    if (field.focusPolicy() == Qt::WheelFocus)
+        field.setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus either
+    field.installEventFilter(new WheelGuard(&field));
+}
+
+} // namespace host
+
+#include "Fields.moc"
