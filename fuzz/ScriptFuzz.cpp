@@ -1,16 +1,13 @@
 // Any bytes as lines of a script: one reply a line, whatever the line is.
-#include "Offscreen.h"
-#include "Script/Script.h"
-
-#include <cstddef>
-#include <cstdint>
+#include "Fuzzing.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    useOffscreenApplication();
+    fuzzing::beginRun();
     host::Script script;
-    const QByteArray input(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    for (const QByteArray &line : input.split('\n'))
-        script.reply(line);
+    for (const QByteArray &line : fuzzing::bytesOf(data, size).split('\n')) {
+        const bool isRequest = !line.trimmed().isEmpty() && !line.startsWith('#');
+        fuzzing::promise(fuzzing::reply(script, line).isEmpty() != isRequest);
+    }
     return 0;
 }
