@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
 
 namespace host {
@@ -21,9 +22,11 @@ QString shortest(double number) { return QString::number(number, 'g', 6); }
 
 bool isPlainDecimal(const QString &text)
 {
-    static const QRegularExpression decimal(R"(^[+-]?([0-9]+(\.[0-9]*)?|\.[0-9]+)$)",
-                                            QRegularExpression::DontCaptureOption);
-    return decimal.match(text).hasMatch() && !text.endsWith('\n');
+    const bool isSigned = text.startsWith('+') || text.startsWith('-');
+    const QStringView digits = QStringView(text).sliced(isSigned ? 1 : 0);
+    const auto isDigit = [](QChar each) { return each >= '0' && each <= '9'; };
+    return digits.count('.') <= 1 && std::ranges::any_of(digits, isDigit) &&
+           std::ranges::all_of(digits, [&](QChar each) { return each == '.' || isDigit(each); });
 }
 
 CustomValue::CustomValue(const printing::Paper &size)

@@ -1,8 +1,8 @@
 // Texts from bytes, numbers from texts and back.
 #include "Text.h"
 
-#include <QRegularExpression>
 #include <QStringDecoder>
+#include <QStringList>
 
 #include <algorithm>
 #include <charconv>
@@ -87,9 +87,16 @@ QString stringFromDouble(double value) { return QString::number(value, 'g', kSig
 
 QPointF pointFromString(const QString &text)
 {
-    static const QRegularExpression notation(R"(^\s*\{\s*([^,{}]+?)\s*,\s*([^,{}]+?)\s*\}\s*$)");
-    const auto match = notation.match(text);
-    return match.hasMatch() ? QPointF(doubleValue(match.captured(1)), doubleValue(match.captured(2))) : QPointF();
+    const QString notation = text.trimmed();
+    if (!notation.startsWith('{') || !notation.endsWith('}'))
+        return {};
+    const QStringList sides = notation.sliced(1, qMax<qsizetype>(0, notation.size() - 2)).split(',');
+    const auto isSide = [](const QString &side) {
+        return !side.isEmpty() && !side.contains('{') && !side.contains('}');
+    };
+    if (sides.size() != 2 || !std::ranges::all_of(sides, isSide))
+        return {};
+    return {doubleValue(sides[0].trimmed()), doubleValue(sides[1].trimmed())};
 }
 
 } // namespace foundation

@@ -4,6 +4,7 @@
 #include "Foundation/Bundle.h"
 
 #include <QApplication>
+#include <QImageReader>
 #include <QPainter>
 
 namespace {
@@ -14,11 +15,17 @@ constexpr std::array kPictures{"Binary", "Dither", "Diffusion"};
 /// Between the view's lower left corner and the picture's, in points. A deliberate margin.
 constexpr int kInset = 1;
 
-/// The picture, in the high density where the screen has the dots for it and the bundle has such a picture.
+/// The picture, in the high density where the screen has the dots for it and the bundle has such a picture. Its format
+/// is not guessed: every image plug-in of the machine would be loaded for that.
 QPixmap loaded(const QString &name, const foundation::Bundle &bundle)
 {
     const auto dense = qApp->devicePixelRatio() > 1 ? bundle.pathForImageResource(name + "@2x") : std::nullopt;
-    return QPixmap(dense ? *dense : bundle.pathForImageResource(name).value_or(QString()));
+    const auto path = dense ? dense : bundle.pathForImageResource(name);
+    if (!path)
+        return {};
+    QImageReader reader(*path, "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
 }
 
 } // namespace
@@ -28,8 +35,7 @@ bool HalftoneView_v100_::initWithFrame(const QRect &frame, const foundation::Bun
     setGeometry(frame);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     m_bundle = &bundle;
-    for (std::size_t i = 0; i < kPictures.size(); ++i)
-        mHalfoneImg[i] = loaded(kPictures[i], bundle);
+    mHalfoneImg = {};
     setAccessibleName(bundle.localizedString("AX_HalftonePreview"));
     mHlftnMatrix = {};
     return true;
@@ -40,8 +46,10 @@ const QPixmap *HalftoneView_v100_::targetDrawImage() const
     const std::int32_t condition = halftoneCondition();
     if (condition < 0 || condition >= std::ssize(mHalfoneImg))
         return nullptr;
-    const QPixmap &image = mHalfoneImg[static_cast<std::size_t>(condition)];
-    return image.isNull() ? nullptr : &image;
+    const auto index = static_cast<std::size_t>(condition);
+    if (!mHalfoneImg[index])
+        mHalfoneImg[index] = loaded(kPictures[index], *m_bundle);
+    return mHalfoneImg[index]->isNull() ? nullptr : &*mHalfoneImg[index];
 }
 
 void HalftoneView_v100_::setHlftnMatrix(const toolkit::RadioMatrix &matrix)
@@ -52,11 +60,7 @@ void HalftoneView_v100_::setHlftnMatrix(const toolkit::RadioMatrix &matrix)
 
 QString HalftoneView_v100_::picture() const
 {
-    const QPixmap *const image = targetDrawImage();
-    for (std::size_t i = 0; i < mHalfoneImg.size(); ++i)
-        if (&mHalfoneImg[i] == image)
-            return kPictures[i];
-    return {};
+    return targetDrawImage() ? kPictures[static_cast<std::size_t>(halftoneCondition())] : QString();
 }
 
 void HalftoneView_v100_::setNeedsDisplay()

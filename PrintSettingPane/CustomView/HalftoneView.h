@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
 
 namespace foundation {
 class Bundle;
@@ -22,7 +23,8 @@ class HalftoneView_v100_ : public QWidget
 public:
     HalftoneView_v100_() = default;
 
-    /// Loads the three pictures of the bundle. One that is missing or unreadable stays null and draws nothing.
+    /// Takes the three pictures of the bundle, each when it is first asked for. One that is missing or unreadable stays
+    /// null and draws nothing.
     bool initWithFrame(const QRect &frame, const foundation::Bundle &bundle);
 
     /// The y axis points upward, as everywhere in the toolkit.
@@ -45,7 +47,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    std::array<QPixmap, 3> mHalfoneImg; // binary, dither, error diffusion
+    mutable std::array<std::optional<QPixmap>, 3> mHalfoneImg; // binary, dither, error diffusion; nil: not loaded yet
     toolkit::RadioMatrix mHlftnMatrix;
     const foundation::Bundle *m_bundle = nullptr;
 };
