@@ -214,6 +214,7 @@ struct Readiness
     std::unique_ptr<Partner> partner;
     QByteArray program = "/proc/self/exe";
     QString language = "en";
+    std::optional<Credentials> credentials;
 };
 
 Readiness &readiness()
@@ -228,6 +229,8 @@ std::unique_ptr<Partner> begin(QJsonObject question, const Patience &patience, i
     Readiness &ready = readiness();
     const std::scoped_lock lock(ready.mutex);
     question[wire::kLanguage] = ready.language;
+    if (ready.credentials)
+        question[wire::kCredentials] = toJson(*ready.credentials);
     question[wire::kSilence] = static_cast<qint64>(patience.serverSilence.count());
     const QByteArray line = QJsonDocument(question).toJson(QJsonDocument::Compact) + '\n';
     auto partner = std::move(ready.partner);
@@ -354,6 +357,13 @@ void setConversationLanguage(const QString &language)
     Readiness &ready = readiness();
     const std::scoped_lock lock(ready.mutex);
     ready.language = language;
+}
+
+void setConversationCredentials(const std::optional<Credentials> &credentials)
+{
+    Readiness &ready = readiness();
+    const std::scoped_lock lock(ready.mutex);
+    ready.credentials = credentials;
 }
 
 void setConversationProgram(const QString &path)

@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <stop_token>
 
 namespace host {
@@ -36,6 +37,16 @@ void prepareConversation();
 
 /// The language of the answers' sentences from now on.
 void setConversationLanguage(const QString &language);
+
+/// Who asks, for a server that wants to know. They are kept in memory only, and a conversation says them at most once.
+struct Credentials
+{
+    QString user;
+    QString password;
+};
+
+/// Of the conversations from now on; nil for none.
+void setConversationCredentials(const std::optional<Credentials> &credentials);
 
 /// The program that becomes the process, for tests, which are another program; else our own.
 void setConversationProgram(const QString &path);

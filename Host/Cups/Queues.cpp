@@ -5,6 +5,7 @@
 
 #include "Printing/cups_api.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace host {
@@ -29,7 +30,7 @@ Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Pa
     const auto answer = converse({{wire::kAsk, wire::kQueue}, {wire::kQueue, toJson(name)}}, patience, stop);
     if (answer) {
         Queue queue = queueFrom(*answer);
-        if (queue.ppd && queue.ppd->isTemporary)
+        if (queue.ppd && queue.ppd->isTemporary && QFileInfo(queue.ppd->path).path() == QDir::tempPath())
             queue.ppd->removal = std::make_shared<FileToRemove>(queue.ppd->path);
         return queue;
     }

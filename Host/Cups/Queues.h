@@ -70,6 +70,7 @@ struct Queue
     QString note;                   // one clause on its state; empty when it just prints
     bool takesJobs = true;
     std::optional<QString> whyJobsWait = std::nullopt; // one clause; nil when they don't
+    std::optional<QString> distrust = std::nullopt;    // why the server's certificate is not trusted, in one clause
 };
 
 struct Queues

@@ -41,6 +41,13 @@ Problem problemFrom(const QJsonObject &json)
     return {json["sentence"].toString(), static_cast<Problem::Kind>(json["kind"].toInt())};
 }
 
+QJsonObject toJson(const Credentials &credentials)
+{
+    return {{"user", credentials.user}, {"password", credentials.password}};
+}
+
+Credentials credentialsFrom(const QJsonObject &json) { return {json["user"].toString(), json["password"].toString()}; }
+
 QJsonObject toJson(const QueueName &name) { return {{"queue", name.queue}, {"preset", name.preset}}; }
 
 QueueName queueNameFrom(const QJsonObject &json) { return {json["queue"].toString(), json["preset"].toString()}; }
@@ -89,6 +96,8 @@ QJsonObject toJson(const Queue &queue)
                      {"takesJobs", queue.takesJobs}};
     if (queue.uri)
         json["uri"] = *queue.uri;
+    if (queue.distrust)
+        json["distrust"] = *queue.distrust;
     if (queue.whyJobsWait)
         json["whyJobsWait"] = *queue.whyJobsWait;
     if (queue.ppd)
@@ -102,6 +111,8 @@ Queue queueFrom(const QJsonObject &json)
                 json["note"].toString(), json["takesJobs"].toBool()};
     if (json.contains("uri"))
         queue.uri = json["uri"].toString();
+    if (json.contains("distrust"))
+        queue.distrust = json["distrust"].toString();
     if (json.contains("whyJobsWait"))
         queue.whyJobsWait = json["whyJobsWait"].toString();
     if (json.contains(wire::kPPD))

@@ -10,6 +10,7 @@
 namespace host {
 
 QJsonObject toJson(const foundation::Problem &problem);
+QJsonObject toJson(const Credentials &credentials);
 QJsonObject toJson(const QueueName &name);
 QJsonObject toJson(const Queues &queues);
 QJsonObject toJson(const CachedPPD &ppd);
@@ -18,6 +19,7 @@ QJsonObject toJson(const Queue &queue);
 QJsonObject toJson(const Job &job);
 
 foundation::Problem problemFrom(const QJsonObject &json);
+Credentials credentialsFrom(const QJsonObject &json);
 QueueName queueNameFrom(const QJsonObject &json);
 Queues queuesFrom(const QJsonObject &json);
 CachedPPD ppdFrom(const QJsonObject &json);
@@ -32,7 +34,8 @@ inline constexpr auto kQueue = "queue";
 inline constexpr auto kSend = "send";
 inline constexpr auto kCancel = "cancel";
 inline constexpr auto kLanguage = "language";
-inline constexpr auto kSilence = "silence"; // of the server that is put up with, in milliseconds
+inline constexpr auto kCredentials = "credentials"; // where there are some
+inline constexpr auto kSilence = "silence";         // of the server that is put up with, in milliseconds
 inline constexpr auto kJob = "job";
 inline constexpr auto kPPD = "ppd";
 

@@ -20,6 +20,7 @@ using foundation::UserDefaults;
 
 namespace {
 
+constexpr int kMostTries = 3;                // to say who one is
 constexpr auto kLastPrinter = "LastPrinter"; // with its preset, as `lp -d` takes it
 
 QString inUsersUnit(const printing::Paper &size)
@@ -139,6 +140,7 @@ void PrintDialog::choosePrinter(const QString &name)
     if (m_state == State::sending)
         return;
     m_wantsLastPrinter = false;
+    m_refusedCredentials = 0;
     look({name, {}});
 }
 
@@ -147,6 +149,7 @@ void PrintDialog::lookAgain()
     if (m_state == State::sending)
         return;
     m_hasAllPrinters = false; // there may be others now
+    m_refusedCredentials = 0;
     look(m_wanted);
 }
 
@@ -167,6 +170,7 @@ void PrintDialog::look(const QueueName &name, const OptionValues &carried)
 
 void PrintDialog::finderFound(const Queue &queue)
 {
+    m_refusedCredentials = 0;
     const OptionValues carried = std::exchange(m_carried, {});
     auto target = targetOfQueue(m_request, queue, carried);
     if (!target)
@@ -186,6 +190,7 @@ void PrintDialog::finderFailed(const Problem &problem)
                                  "looks after this computer.")
                             : problem.sentence);
     setState(State::noPrinter);
+    askForCredentials(problem, [this] { look(m_wanted, m_carried); });
 }
 
 void PrintDialog::lookForOthers()
@@ -414,10 +419,37 @@ void PrintDialog::print()
         return;
     }
     m_pagesToSend = *pages;
+    m_refusedCredentials = 0;
+    send();
+}
+
+void PrintDialog::send()
+{
     m_isStopping = false;
     say(About::job, {});
     setState(State::sending);
     sendNext();
+}
+
+/// Wrong ones are forgotten at once: each further conversation would try them again.
+void PrintDialog::askForCredentials(const Problem &problem, std::function<void()> again)
+{
+    if (problem.kind != Problem::Kind::noAccess)
+        return;
+    setConversationCredentials(std::nullopt);
+    if (m_refusedCredentials == kMostTries)
+        return;
+    m_again = std::move(again);
+    Q_EMIT credentialsWanted(problem.sentence);
+}
+
+void PrintDialog::giveCredentials(const Credentials &credentials)
+{
+    if (!m_again)
+        return;
+    ++m_refusedCredentials; // until they are taken
+    setConversationCredentials(credentials);
+    std::exchange(m_again, {})();
 }
 
 void PrintDialog::sendNext()
@@ -443,6 +475,7 @@ void PrintDialog::finish(const Or<QString> &sent)
     m_job = {};
     if (!sent)
         return fail(sent.problem());
+    m_refusedCredentials = 0;
     rememberPrinter();
     const QString fate = m_target->fateOf(jobTitle());
     m_documents.erase(m_documents.begin());
@@ -464,6 +497,7 @@ void PrintDialog::fail(const Problem &problem)
     Q_EMIT failed(problem);
     if (problem.kind == Problem::Kind::outdated) // what was chosen is kept, as far as the printer still has it
         look({m_target->name(), m_target->preset()}, m_target->jobOptions());
+    askForCredentials(problem, [this] { send(); });
 }
 
 void PrintDialog::stop()

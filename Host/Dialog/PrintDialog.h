@@ -78,6 +78,8 @@ public:
     /// Takes other documents in place of those that there are; those that can't be printed are named, and left out.
     void chooseDocuments(const QStringList &paths);
     void print();
+    /// Answers `credentialsWanted`, and does once more what they were wanted for.
+    void giveCredentials(const Credentials &credentials);
     /// Ends a job that is on its way; the dialog stays.
     void stop();
 
@@ -104,6 +106,9 @@ Q_SIGNALS:
     /// Choices were made; once for all that one act of a person sets off.
     void settingsChanged();
     void remarked(const QStringList &sentences);
+    /// The server wants to know who asks, or has not taken them for whom they say: why, in one sentence. Asked a few
+    /// times, until a person begins anew.
+    void credentialsWanted(const QString &sentence);
     /// The text for the pages means none.
     void pagesRefused();
     /// A panel did not agree to print, and has told why.
@@ -117,7 +122,9 @@ Q_SIGNALS:
 
 private:
     QString jobTitle() const;
+    void send();
     void sendNext();
+    void askForCredentials(const foundation::Problem &problem, std::function<void()> again);
     void setState(State state);
     void look(const QueueName &name, const OptionValues &carried = {});
     void finderFound(const Queue &queue);
@@ -140,7 +147,9 @@ private:
     PrintRequest m_request;
     std::vector<std::shared_ptr<Document>> m_documents;
     bool m_isStopping = false;
-    QString m_pagesToSend; // in the form that servers take
+    int m_refusedCredentials = 0;
+    std::function<void()> m_again; // what credentials are wanted for
+    QString m_pagesToSend;         // in the form that servers take
     PrinterFinder *m_finder;
     std::unique_ptr<PrintTarget> m_target;
     State m_state = State::looking;

@@ -35,6 +35,8 @@ void PrintTarget::describe(const Queue &queue)
     m_takesJobs = queue.takesJobs;
     m_whyJobsWait = queue.whyJobsWait;
     m_preset = queue.preset;
+    if (queue.distrust)
+        m_doubts.append(*queue.distrust);
 }
 
 QString PrintTarget::fateOf(const QString &title) const

@@ -4,6 +4,7 @@
 
 #include "Printers.h"
 #include "SentJob.h"
+#include "ServerConnection.h"
 
 #include "Cups/Wire.h"
 
@@ -199,6 +200,7 @@ void answerConversation(const std::function<void(const QString &language)> &spea
     if (!question)
         ::_exit(EXIT_SUCCESS);
     speak(question->json[wire::kLanguage].toString());
+    setCredentials(credentialsFrom(question->json[wire::kCredentials].toObject()));
     const std::stop_source stop;
     std::thread(stopWhenTold, stop).detach();
     const auto answered = answer(*question, stop.get_token());

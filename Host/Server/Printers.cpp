@@ -54,22 +54,27 @@ QueueEntry entryOf(const ServerConnection &server, const cups_dest_t &destinatio
 
 const char *orNull(const QByteArray &text) { return text.isEmpty() ? nullptr : text.constData(); }
 
+Problem of(const QString &owner, Problem problem)
+{
+    problem.sentence.prepend(owner + ": ");
+    return problem;
+}
+
 Or<Destination> findDestination(const ServerConnection &server, const QueueName &name)
 {
     const auto owner = [&] { return name.queue.isEmpty() ? QString::fromUtf8(cupsServer()) : name.queue; };
     if (!server) {
         Problem problem = server.problem();
-        problem.sentence.prepend(owner() + ": ");
         if (problem.kind == Problem::Kind::unanswered)
             problem.kind = Problem::Kind::failed; // nothing was asked for that could have been done
-        return problem;
+        return of(owner(), problem);
     }
     server.forgetLastAnswer();
     Destination found(cupsGetNamedDest(server.get(), orNull(name.queue.toUtf8()), orNull(name.preset.toUtf8())));
     if (found)
         return found;
     if (lastAnswer() == Answer::refused)
-        return Problem{owner() + ": " + server.problem().sentence};
+        return of(owner(), server.problem());
     if (name.queue.isEmpty())
         return Problem{ServerConnection::tr("there is no default queue"), Problem::Kind::noChoice};
     return Problem{ServerConnection::tr("%1: no such queue").arg(name.queue), Problem::Kind::notFound};
@@ -134,12 +139,13 @@ Or<Queue> askForQueue(const QueueName &name, std::chrono::milliseconds patience)
                 {},
                 state.note(),
                 state.takesJobs(),
-                state.whyJobsWait()};
+                state.whyJobsWait(),
+                server.distrust()};
     if (const char *uri = optionOf(destination, "device-uri"))
         queue.uri = QString::fromUtf8(uri);
     auto ppd = fetchPPD(server, queue.name);
     if (!ppd)
-        return Problem{queue.name + ": " + ppd.problem().sentence};
+        return of(queue.name, ppd.problem());
     queue.ppd = *std::move(ppd);
     if (!queue.ppd)
         queue.papers = papersOf(server.get(), &destination);

@@ -1,6 +1,8 @@
 // Talking to the CUPS server. The library's own waits have no end: they ask a callback, every tick, whether to go on.
 #include "ServerConnection.h"
 
+#include "Certificate.h"
+
 #include "Foundation/PlainText.h"
 
 #include <QUrl>
@@ -8,6 +10,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -34,7 +37,24 @@ bool isForgotten()
 /// The library asks for passwords by thread, not by connection: whose turn it is, the innermost last.
 thread_local std::vector<ServerConnection *> connectionsOfThread;
 
+struct KnownCredentials
+{
+    QByteArray user; // empty: none
+    QByteArray password;
+};
+
+KnownCredentials &knownCredentials()
+{
+    static KnownCredentials known;
+    return known;
+}
+
 } // namespace
+
+void setCredentials(const Credentials &credentials)
+{
+    knownCredentials() = {credentials.user.toUtf8(), credentials.password.toUtf8()};
+}
 
 Answer lastAnswer()
 {
@@ -49,7 +69,7 @@ ServerConnection::ServerConnection(std::stop_token stop, std::chrono::millisecon
     , m_ticksOfPatience(static_cast<int>(patience / kTick))
 {
     // Without a callback of ours the library would ask for a password on the terminal, and wait there.
-    cupsSetPasswordCB2(refusePassword, nullptr);
+    cupsSetPasswordCB2(password, nullptr);
     connectionsOfThread.push_back(this);
     m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, kMillisecondsToConnect,
                               nullptr));
@@ -59,17 +79,44 @@ ServerConnection::ServerConnection(std::stop_token stop, std::chrono::millisecon
     // Looking for a queue, the library goes on by a connection of its own, without an end, when this one fails: it must
     // not come to that with a server that keeps silent or wants a password.
     const auto first = ask(ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
-    m_answers = (first || first.problem().kind == Problem::Kind::notFound) && !m_askedForPassword;
+    m_answers = (first || first.problem().kind == Problem::Kind::notFound) && !m_lacksPassword;
 }
 
 ServerConnection::~ServerConnection() { std::erase(connectionsOfThread, this); }
 
-const char *ServerConnection::refusePassword(const char *, http_t *http, const char *, const char *, void *)
+/// A connection that the library has made by itself may lead to anybody, who is told nothing.
+const char *ServerConnection::password(const char *, http_t *http, const char *, const char *, void *)
 {
     for (ServerConnection *connection : connectionsOfThread)
-        if (connection->get() == http || connection == connectionsOfThread.back()) // or one that the library made
-            connection->m_askedForPassword = true;
+        if (connection->get() == http)
+            return connection->passwordOnce();
+    connectionsOfThread.back()->m_lacksPassword = true;
     return nullptr;
+}
+
+/// Asked again, the server has not taken it.
+const char *ServerConnection::passwordOnce()
+{
+    const KnownCredentials &known = knownCredentials();
+    m_lacksPassword = known.user.isEmpty() || std::exchange(m_hasSaidPassword, true);
+    if (m_lacksPassword)
+        return nullptr;
+    cupsSetUser(known.user.constData());
+    return known.password.constData();
+}
+
+std::optional<QString> ServerConnection::distrust() const
+{
+    return m_http ? whyNotTrusted(m_http.get()) : std::nullopt;
+}
+
+Problem ServerConnection::accessProblem() const
+{
+    QString sentence = m_hasSaidPassword ? tr("the CUPS server does not accept the user name or the password")
+                                         : tr("the CUPS server asks for a password");
+    if (const auto reason = distrust())
+        sentence += "; " + *reason;
+    return {sentence, Problem::Kind::noAccess};
 }
 
 int ServerConnection::waitOn(http_t *, void *self)
@@ -125,8 +172,8 @@ Problem ServerConnection::problem() const
 {
     if (!m_http)
         return {tr("no CUPS server answers"), Problem::Kind::noService};
-    if (m_askedForPassword)
-        return {tr("the CUPS server asks for a password")};
+    if (m_lacksPassword)
+        return accessProblem();
     if (hasRefused())
         return {foundation::plainLine(QString::fromUtf8(cupsLastErrorString()))};
     const int status = httpGetStatus(m_http.get());
@@ -170,7 +217,7 @@ int ServerConnection::get(const QByteArray &resource, std::time_t knownAsOf)
             break;
         }
     }
-    m_askedForPassword = m_askedForPassword || status == HTTP_STATUS_UNAUTHORIZED;
+    m_lacksPassword = m_lacksPassword || status == HTTP_STATUS_UNAUTHORIZED;
     return status;
 }
 

@@ -3,6 +3,8 @@
 
 #include "Handles.h"
 
+#include "Cups/Conversation.h"
+
 #include "Foundation/Or.h"
 
 #include <QByteArray>
@@ -19,6 +21,10 @@ namespace host {
 /// when no new one comes.
 enum class Answer { granted, notFound, refused };
 Answer lastAnswer();
+
+/// Who asks, should a server want to know: for all connections of the process that are made from now on. Only the
+/// server itself is told, once a connection.
+void setCredentials(const Credentials &credentials);
 
 /// A file of the server's.
 struct Download
@@ -59,13 +65,19 @@ public:
     /// A file, unless it is the one of a known time. A problem of the kind `notFound` when there is none.
     foundation::Or<Download> download(const QByteArray &resource, std::time_t knownAsOf);
 
+    /// Why the server can't be trusted to be the one that it says it is, in one clause; nil when it can, and when the
+    /// connection is not encrypted.
+    std::optional<QString> distrust() const;
+
     /// Why the last call failed, in one clause. To be asked right after the call. Of the kind `unanswered` when the
     /// server has not said no: it may have done what it was asked for.
     foundation::Problem problem() const;
 
 private:
     static int waitOn(http_t *, void *self);
-    static const char *refusePassword(const char *, http_t *, const char *, const char *, void *);
+    static const char *password(const char *, http_t *, const char *, const char *, void *);
+    const char *passwordOnce();
+    foundation::Problem accessProblem() const;
     foundation::Or<Response> granted(ipp_t *response) const;
     bool hasRefused() const;
     int get(const QByteArray &resource, std::time_t knownAsOf); // the HTTP status, whatever number it is
@@ -76,7 +88,8 @@ private:
     std::stop_token m_stop;
     int m_ticksOfPatience;
     int m_ticksOfSilence = 0;
-    bool m_askedForPassword = false;
+    bool m_hasSaidPassword = false;
+    bool m_lacksPassword = false; // or has none that the server takes
     HttpConnection m_http;
     bool m_answers = false;
 };

@@ -3,6 +3,7 @@
 
 #include "ui_DialogWindow.h"
 
+#include "CredentialsBox.h"
 #include "PresetNameBox.h"
 #include "SummaryView.h"
 
@@ -147,6 +148,7 @@ void DialogWindow::connectDialog()
     connect(&m_dialog, &PrintDialog::progressed, m_ui->progress, &QProgressBar::setValue);
     connect(&m_dialog, &PrintDialog::documentsChanged, this, &DialogWindow::showDocuments);
     connect(&m_dialog, &PrintDialog::finished, this, &DialogWindow::accept);
+    connect(&m_dialog, &PrintDialog::credentialsWanted, this, &DialogWindow::askForCredentials);
     connect(&m_dialog, &PrintDialog::pagesRefused, this, [this] {
         m_ui->pages->setFocus();
         m_ui->pages->selectAll();
@@ -437,6 +439,18 @@ void DialogWindow::askForPresetName()
     PresetNameBox box(m_dialog, m_dialog.target()->preset(), this);
     if (box.exec() == QDialog::Accepted)
         m_dialog.savePreset(box.name());
+}
+
+/// Nobody waits here: it is asked from within what the dialog does with an answer.
+void DialogWindow::askForCredentials(const QString &sentence)
+{
+    auto *const box = new CredentialsBox(sentence, m_user.isEmpty() ? qEnvironmentVariable("USER") : m_user, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(box, &QDialog::accepted, this, [this, box] {
+        m_user = box->credentials().user;
+        m_dialog.giveCredentials(box->credentials());
+    });
+    box->open();
 }
 
 void DialogWindow::askToDeletePreset()

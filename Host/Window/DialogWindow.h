@@ -66,6 +66,7 @@ private:
     void addToPanelSpace(QWidget &view);
     void restoreTabOrder();
     void chooseFiles();
+    void askForCredentials(const QString &sentence);
     void askForPresetName();
     void askToDeletePreset();
 
@@ -74,6 +75,7 @@ private:
     PaperChooser *m_paper;
     SummaryView *m_summary = nullptr; // made when it is first seen
     QPointer<QWidget> m_focusBeforeJob;
+    QString m_user; // who has said a password before
     QAction *m_remove;
     QPushButton *m_print;
     QPushButton *m_cancel;

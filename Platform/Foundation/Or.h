@@ -17,6 +17,7 @@ struct Problem
         notFound,   // the server knows no such thing
         outdated,   // the printer is another than the settings were made for; nothing was done
         noService,  // nobody is there to be asked
+        noAccess,   // the server wants to know who asks, or does not take them for whom they say; nothing was done
         noChoice,   // nobody has said which one, and there is none to be taken for it
         unanswered, // the server was asked and has not answered: it may have been done
     };

@@ -98,6 +98,38 @@ if [ $# -eq 0 ]; then exit 0; fi
 cat "${6:--}" >/dev/null
 )";
 
+/// With the port, the level of the log, how to authenticate, when to encrypt, and who may
+/// look, administrate and print.
+constexpr auto kConfiguration = R"(Listen 127.0.0.1:%1
+LogLevel %2
+AccessLogLevel all
+MaxLogSize 0
+Browsing No
+DefaultShared No
+WebInterface No
+DefaultAuthType %3
+DefaultEncryption %4
+IdleExitTimeout 0
+DirtyCleanInterval 0
+PreserveJobHistory Yes
+PreserveJobFiles No
+JobRetryInterval 1
+<Location />
+%5</Location>
+<Location /admin>
+%6</Location>
+<Policy default>
+JobPrivateAccess all
+JobPrivateValues none
+SubscriptionPrivateAccess all
+SubscriptionPrivateValues none
+<Limit CUPS-Add-Modify-Printer Resume-Printer CUPS-Accept-Jobs>
+%6</Limit>
+%7<Limit All>
+%5</Limit>
+</Policy>
+)";
+
 QByteArray filesConfiguration(const QString &folder)
 {
     const bool root = ::geteuid() == 0;
@@ -117,20 +149,17 @@ CupsServer::~CupsServer() { stop(); }
 
 QByteArray CupsServer::serverConfiguration() const
 {
-    const QString access = QString("Order allow,deny\nAllow all\n%1")
-                               .arg(m_setup.asksForPassword ? "AuthType Basic\nRequire valid-user\n" : "");
+    using Guards = Setup::Guards;
+    const QString open = "Order allow,deny\nAllow all\n";
+    const QString guarded = open + "AuthType Basic\nRequire valid-user\n";
+    const QString looking = m_setup.guards == Guards::everything ? guarded : open;
+    const QString printing =
+        m_setup.guards == Guards::printing ? "<Limit Create-Job Send-Document>\n" + guarded + "</Limit>\n" : QString();
     // What the server may write is limited: then its log must be short, as it is a file too.
-    return QString("Listen 127.0.0.1:%1\nLogLevel %2\nAccessLogLevel all\nMaxLogSize 0\nBrowsing No\nDefaultShared "
-                   "No\nWebInterface "
-                   "No\nDefaultAuthType None\nDefaultEncryption Never\nIdleExitTimeout 0\nDirtyCleanInterval "
-                   "0\nPreserveJobHistory "
-                   "Yes\nPreserveJobFiles No\nJobRetryInterval 1\n<Location />\n%3</Location>\n<Location "
-                   "/admin>\n%3</Location>\n<Policy default>\nJobPrivateAccess all\nJobPrivateValues "
-                   "none\nSubscriptionPrivateAccess all\nSubscriptionPrivateValues none\n<Limit "
-                   "All>\n%3</Limit>\n</Policy>\n")
-        .arg(m_port)
-        .arg(m_setup.largestFile ? "error" : "debug")
-        .arg(access)
+    const QString log = m_setup.largestFile ? "error" : "debug";
+    return QString(kConfiguration)
+        .arg(QString::number(m_port), log, m_setup.guards == Guards::nothing ? "None" : "Basic",
+             m_setup.isEncrypted ? "Required" : "Never", looking, open, printing)
         .toUtf8();
 }
 
@@ -158,6 +187,25 @@ void CupsServer::lay()
     m_port = freePort();
     write(path("etc/cups-files.conf"), filesConfiguration(m_folder.path()));
     write(path("etc/cupsd.conf"), serverConfiguration());
+    if (m_setup.guards != Setup::Guards::nothing)
+        layPasswords();
+}
+
+/// The server asks PAM, and PAM a file of the test's.
+void CupsServer::layPasswords()
+{
+    QDir(m_folder.path()).mkpath("pam");
+    write(path("passwords"), QByteArray(kUser) + ':' + kPassword + ":cups\n");
+    QByteArray service;
+    for (const char *part : {"auth", "account"})
+        service += QByteArray(part) + " required " QN_PAM_MATRIX " passdb=" + path("passwords").toUtf8() + '\n';
+    for (const char *name : {"pam/cups", "pam/other"})
+        write(path(name), service);
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LD_PRELOAD", "libpam_wrapper.so");
+    environment.insert("PAM_WRAPPER", "1");
+    environment.insert("PAM_WRAPPER_SERVICE_DIR", path("pam"));
+    m_server.setProcessEnvironment(environment);
 }
 
 std::optional<QString> CupsServer::start(const Setup &setup)
@@ -235,7 +283,8 @@ bool CupsServer::hasClient() const
 void CupsServer::adoptEnvironment() const
 {
     const QProcessEnvironment all = environment();
-    for (const char *name : {"CUPS_SERVER", "CUPS_SERVERROOT", "HOME", "TMPDIR", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"})
+    for (const char *name :
+         {"CUPS_SERVER", "CUPS_SERVERROOT", "CUPS_ENCRYPTION", "HOME", "TMPDIR", "XDG_CACHE_HOME", "XDG_CONFIG_HOME"})
         qputenv(name, all.value(name).toUtf8());
     host::setConversationProgram(QN_PROGRAM);
 }
@@ -246,6 +295,7 @@ QProcessEnvironment CupsServer::environment() const
     environment.insert("CUPS_SERVER", QString("127.0.0.1:%1").arg(m_port));
     environment.insert("HOME", path("home")); // saved options of the test, not of the user
     environment.insert("CUPS_SERVERROOT", path("etc"));
+    environment.insert("CUPS_ENCRYPTION", m_setup.isEncrypted ? "Required" : "IfRequested");
     environment.insert("TMPDIR", path("tmp"));
     environment.insert("XDG_CACHE_HOME", path("home/cache"));
     for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})

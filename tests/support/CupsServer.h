@@ -17,10 +17,15 @@ public:
     CupsServer() = default;
     ~CupsServer();
 
+    static constexpr auto kUser = "mia";
+    static constexpr auto kPassword = "brown fox";
+
     struct Setup
     {
-        bool asksForPassword = false;
-        int largestFile = 0; // in KiB, for everything that the server writes; 0: no limit
+        enum class Guards { nothing, printing, everything };
+        Guards guards = Guards::nothing; // what it asks for a password for: `kUser`, `kPassword`
+        bool isEncrypted = false;        // with a certificate of its own making
+        int largestFile = 0;             // in KiB, for everything that the server writes; 0: no limit
     };
 
     /// Nil when it runs; otherwise one sentence that says why not.
@@ -50,8 +55,9 @@ public:
     /// Runs a program in the environment; its exit status, -1 when it could not be run or did not end.
     int run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr) const;
 
-    /// What the driver wrote down of a job: "title", "copies", "options", "size", what is in its environment under the
-    /// name, marks under their keyword, parameters under "parameter NAME". Waits for it; empty when it does not come.
+    /// What the driver wrote down of a job: "user", "title", "copies", "options", "size", what is in its environment
+    /// under the name, marks under their keyword, parameters under "parameter NAME". Waits for it; empty when it does
+    /// not come.
     QMap<QString, QString> record(int job) const;
     int recordCount() const;
     /// Documents that wait in the spool.
@@ -65,6 +71,7 @@ public:
 
 private:
     void lay();
+    void layPasswords();
     QByteArray serverConfiguration() const;
 
     QTemporaryDir m_folder{"/tmp/qncups-XXXXXX"};

@@ -39,7 +39,7 @@ int main(int argc, char *argv[])
     const std::string path = std::string(folder) + "/job-" + argv[1];
     {
         std::ofstream out(path + ".part");
-        out << "title " << argv[3] << "\ncopies " << argv[4] << "\noptions " << argv[5] << '\n';
+        out << "user " << argv[2] << "\ntitle " << argv[3] << "\ncopies " << argv[4] << "\noptions " << argv[5] << '\n';
         for (const char *name : {"PRINTER", "DEVICE_URI", "CONTENT_TYPE", "FINAL_CONTENT_TYPE"})
             if (const char *value = std::getenv(name))
                 out << name << ' ' << value << '\n';

@@ -24,6 +24,33 @@
     </message>
 </context>
 <context>
+    <name>host::Certificate</name>
+    <message>
+        <source>it was withdrawn</source>
+        <translation>es wurde zurückgezogen</translation>
+    </message>
+    <message>
+        <source>it is another computer&apos;s</source>
+        <translation>es gehört einem anderen Rechner</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>es ist abgelaufen</translation>
+    </message>
+    <message>
+        <source>nobody that this computer trusts vouches for it</source>
+        <translation>niemand, dem dieser Rechner vertraut, bürgt dafür</translation>
+    </message>
+    <message>
+        <source>it is not valid</source>
+        <translation>es ist nicht gültig</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not trusted: %2</source>
+        <translation>dem Zertifikat von %1 wird nicht vertraut: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Conversation</name>
     <message>
         <source>stopped</source>
@@ -40,6 +67,29 @@
     <message>
         <source>no process can be started: %1</source>
         <translation>es kann kein Prozess gestartet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::CredentialsBox</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>An&amp;melden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
     </message>
 </context>
 <context>
@@ -634,6 +684,10 @@
     <message>
         <source>%1 is stopped</source>
         <translation>%1 ist angehalten</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not accept the user name or the password</source>
+        <translation>der CUPS-Server nimmt Benutzername oder Passwort nicht an</translation>
     </message>
 </context>
 <context>

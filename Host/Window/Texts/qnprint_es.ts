@@ -24,6 +24,33 @@
     </message>
 </context>
 <context>
+    <name>host::Certificate</name>
+    <message>
+        <source>it was withdrawn</source>
+        <translation>fue revocado</translation>
+    </message>
+    <message>
+        <source>it is another computer&apos;s</source>
+        <translation>es de otro equipo</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>ha caducado</translation>
+    </message>
+    <message>
+        <source>nobody that this computer trusts vouches for it</source>
+        <translation>no lo avala nadie en quien confíe este equipo</translation>
+    </message>
+    <message>
+        <source>it is not valid</source>
+        <translation>no es válido</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not trusted: %2</source>
+        <translation>el certificado de %1 no es de confianza: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Conversation</name>
     <message>
         <source>stopped</source>
@@ -40,6 +67,29 @@
     <message>
         <source>no process can be started: %1</source>
         <translation>no se puede iniciar ningún proceso: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::CredentialsBox</name>
+    <message>
+        <source>Password</source>
+        <translation>Contraseña</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>&amp;Iniciar sesión</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Usuario:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Contraseña:</translation>
     </message>
 </context>
 <context>
@@ -634,6 +684,10 @@
     <message>
         <source>%1 is stopped</source>
         <translation>%1 está detenida</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not accept the user name or the password</source>
+        <translation>el servidor CUPS no acepta el usuario o la contraseña</translation>
     </message>
 </context>
 <context>

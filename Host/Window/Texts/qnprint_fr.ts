@@ -24,6 +24,33 @@
     </message>
 </context>
 <context>
+    <name>host::Certificate</name>
+    <message>
+        <source>it was withdrawn</source>
+        <translation>il a été révoqué</translation>
+    </message>
+    <message>
+        <source>it is another computer&apos;s</source>
+        <translation>c’est celui d’un autre ordinateur</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>il a expiré</translation>
+    </message>
+    <message>
+        <source>nobody that this computer trusts vouches for it</source>
+        <translation>personne en qui cet ordinateur ait confiance ne s’en porte garant</translation>
+    </message>
+    <message>
+        <source>it is not valid</source>
+        <translation>il n’est pas valide</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not trusted: %2</source>
+        <translation>le certificat de %1 n’est pas fiable : %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Conversation</name>
     <message>
         <source>stopped</source>
@@ -40,6 +67,29 @@
     <message>
         <source>no process can be started: %1</source>
         <translation>aucun processus ne peut être lancé : %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::CredentialsBox</name>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>&amp;Se connecter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Nom d’utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>Mot de &amp;passe :</translation>
     </message>
 </context>
 <context>
@@ -634,6 +684,10 @@
     <message>
         <source>%1 is stopped</source>
         <translation>%1 est arrêtée</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not accept the user name or the password</source>
+        <translation>le serveur CUPS n’accepte pas le nom d’utilisateur ou le mot de passe</translation>
     </message>
 </context>
 <context>

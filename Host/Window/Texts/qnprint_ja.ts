@@ -24,6 +24,33 @@
     </message>
 </context>
 <context>
+    <name>host::Certificate</name>
+    <message>
+        <source>it was withdrawn</source>
+        <translation>失効しています</translation>
+    </message>
+    <message>
+        <source>it is another computer&apos;s</source>
+        <translation>別のコンピューターのものです</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>有効期限が切れています</translation>
+    </message>
+    <message>
+        <source>nobody that this computer trusts vouches for it</source>
+        <translation>このコンピューターが信頼する発行者のものではありません</translation>
+    </message>
+    <message>
+        <source>it is not valid</source>
+        <translation>有効ではありません</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not trusted: %2</source>
+        <translation>%1 の証明書は信頼されていません：%2</translation>
+    </message>
+</context>
+<context>
     <name>host::Conversation</name>
     <message>
         <source>stopped</source>
@@ -40,6 +67,29 @@
     <message>
         <source>no process can be started: %1</source>
         <translation>プロセスを開始できません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::CredentialsBox</name>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>ログイン(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>ユーザー名(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P)：</translation>
     </message>
 </context>
 <context>
@@ -634,6 +684,10 @@
     <message>
         <source>%1 is stopped</source>
         <translation>%1 は停止中</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not accept the user name or the password</source>
+        <translation>CUPS サーバーはこのユーザー名またはパスワードを受け付けません</translation>
     </message>
 </context>
 <context>

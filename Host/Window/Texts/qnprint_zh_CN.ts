@@ -24,6 +24,33 @@
     </message>
 </context>
 <context>
+    <name>host::Certificate</name>
+    <message>
+        <source>it was withdrawn</source>
+        <translation>它已被吊销</translation>
+    </message>
+    <message>
+        <source>it is another computer&apos;s</source>
+        <translation>它属于另一台计算机</translation>
+    </message>
+    <message>
+        <source>it has expired</source>
+        <translation>它已过期</translation>
+    </message>
+    <message>
+        <source>nobody that this computer trusts vouches for it</source>
+        <translation>没有此计算机信任的机构为它担保</translation>
+    </message>
+    <message>
+        <source>it is not valid</source>
+        <translation>它无效</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not trusted: %2</source>
+        <translation>%1 的证书不受信任：%2</translation>
+    </message>
+</context>
+<context>
     <name>host::Conversation</name>
     <message>
         <source>stopped</source>
@@ -40,6 +67,29 @@
     <message>
         <source>no process can be started: %1</source>
         <translation>无法启动进程：%1</translation>
+    </message>
+</context>
+<context>
+    <name>host::CredentialsBox</name>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>&amp;Log In</source>
+        <translation>登录(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>用户名(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>密码(&amp;P)：</translation>
     </message>
 </context>
 <context>
@@ -634,6 +684,10 @@
     <message>
         <source>%1 is stopped</source>
         <translation>%1 已停止</translation>
+    </message>
+    <message>
+        <source>the CUPS server does not accept the user name or the password</source>
+        <translation>CUPS 服务器不接受该用户名或密码</translation>
     </message>
 </context>
 <context>

@@ -407,10 +407,21 @@ TEST_F(CupsPrinting, KeepsItsFilesPrivateAndLeavesNoneBehind)
 TEST_F(CupsPrinting, SaysThatAPasswordIsAskedFor)
 {
     CupsServer guarded;
-    const auto problem = guarded.start({.asksForPassword = true});
+    const auto problem = guarded.start({.guards = CupsServer::Setup::Guards::everything});
     ASSERT_FALSE(problem) << problem->toStdString();
     EXPECT_EQ(guarded.run(QN_PROGRAM, {"--no-dialog", "-d", "counter", kTicket}, &m_said), 1);
     EXPECT_EQ(m_said.trimmed(), "qnprint: counter: the CUPS server asks for a password");
+}
+
+TEST_F(CupsPrinting, PrintsAndSaysThatTheServersCertificateIsNotTrusted)
+{
+    CupsServer encrypted;
+    const auto problem = encrypted.start({.isEncrypted = true});
+    ASSERT_FALSE(problem) << problem->toStdString();
+    ASSERT_TRUE(encrypted.addQueue("counter", "usb://Qn/Thermal?serial=1"));
+    EXPECT_EQ(encrypted.run(QN_PROGRAM, {"--no-dialog", "-d", "counter", kTicket}, &m_said), 0);
+    EXPECT_TRUE(m_said.startsWith("qnprint: the certificate of 127.0.0.1 is not trusted: ")) << m_said.toStdString();
+    EXPECT_FALSE(encrypted.record(1).isEmpty());
 }
 
 TEST_F(CupsPrinting, EndsWhenTheServerKeepsSilent)

@@ -1,6 +1,5 @@
 // The window on queues of a real CUPS server, also when that server fails at the worst moment.
-#include "CupsServer.h"
-#include "WindowTest.h"
+#include "QueueWindow.h"
 
 #include "Cups/CupsSink.h"
 #include "Dialog/PrinterFinder.h"
@@ -20,87 +19,11 @@
 
 using namespace host;
 using support::CupsServer;
+using support::QueueWindow;
 
 namespace {
 
 using support::kTicket;
-
-constexpr int kMilliseconds = 40000;
-
-class QueueWindow : public support::WindowTest
-{
-protected:
-    void SetUp() override
-    {
-        startServer();
-        ASSERT_TRUE(m_server.addQueue("counter", "usb://Qn/Thermal?serial=1"));
-    }
-    void startServer(const CupsServer::Setup &setup = {})
-    {
-        const auto problem = m_server.start(setup);
-        ASSERT_FALSE(problem) << problem->toStdString();
-        m_server.adoptEnvironment();
-        setUp(m_server.path("defaults.ini"));
-    }
-    void open(const QString &queue = "counter", const QString &file = kTicket)
-    {
-        PrintRequest request;
-        request.queue = queue;
-        request.options = m_asked;
-        request.prefersLastPrinter = m_prefersLast;
-        makeDialog(request, file);
-        ASSERT_TRUE(m_dialog->start());
-        showWindow();
-    }
-    void openAndWait(const QString &queue = "counter")
-    {
-        open(queue);
-        ASSERT_TRUE(waitFor([this] { return canPrint(); })) << message().toStdString();
-    }
-    template <class Condition>
-    static bool waitFor(Condition condition)
-    {
-        return QTest::qWaitFor(condition, kMilliseconds);
-    }
-    bool waitForMessage(const QString &part)
-    {
-        return waitFor([&] { return message().contains(part); });
-    }
-    static QStringList items(const QComboBox &box)
-    {
-        QStringList texts;
-        for (int i = 0; i < box.count(); ++i)
-            texts.append(box.itemText(i));
-        return texts;
-    }
-    /// Down from the item that is chosen, as a person does it.
-    void moveDown(const QString &popUp)
-    {
-        auto *const control = find<toolkit::PopUpControl>(popUp);
-        QTest::keyClick(control, Qt::Key_Down);
-        QApplication::processEvents();
-    }
-    void savePreset(const QString &name)
-    {
-        meetBox<PresetNameBox>([name](PresetNameBox &box) {
-            box.findChild<QLineEdit *>()->setText(name);
-            QTest::keyClick(&box, Qt::Key_Return);
-        });
-        trigger("Save as &Preset…");
-    }
-    /// Presses Print; whether the window then went with its job.
-    bool print()
-    {
-        QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
-        button("&Print")->click();
-        waitFor([&] { return printed.size() == 1 || (canPrint() && !message().isEmpty()); });
-        return printed.size() == 1;
-    }
-
-    CupsServer m_server;
-    OptionValues m_asked; // on the command line
-    bool m_prefersLast = false;
-};
 
 TEST_F(QueueWindow, StandsBeforeThePrinterDoesAndThenOffersEveryQueue)
 {
@@ -644,19 +567,6 @@ TEST_F(QueueWindow, SaysThatTheServerIsSilent)
     EXPECT_TRUE(waitForMessage("counter: the CUPS server does not answer"));
     EXPECT_TRUE(button("Try A&gain")->isVisible());
     m_server.thaw();
-}
-
-class GuardedWindow : public QueueWindow
-{
-protected:
-    void SetUp() override { startServer({.asksForPassword = true}); }
-};
-
-TEST_F(GuardedWindow, SaysThatAPasswordIsAskedFor)
-{
-    open();
-    EXPECT_TRUE(waitForMessage("counter: the CUPS server asks for a password"));
-    EXPECT_TRUE(button("Try A&gain")->isVisible());
 }
 
 TEST_F(QueueWindow, KeepsTheJobWhenTheServerDiesBeforeItGoes)
