@@ -62,6 +62,7 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
     m_ui->tabs->setDrawBase(false);
     m_ui->tabs->setExpanding(false);
     keepRoomOfTabs();
+    centreLabels();
     m_ui->copies->setMaximum(kMaximumCopies);
     m_paper = new PaperChooser({m_ui->papers, m_ui->ownSize, m_ui->paperWidth, m_ui->paperHeight}, this);
     for (QWidget *number : {static_cast<QWidget *>(m_ui->copies), static_cast<QWidget *>(m_ui->paperWidth),
@@ -101,6 +102,13 @@ void DialogWindow::keepRoomOfTabs()
     QSizePolicy policy = m_ui->tabs->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_ui->tabs->setSizePolicy(policy);
+}
+
+/// A form puts the label of a field that is much higher than text at its top; some styles have such fields.
+void DialogWindow::centreLabels()
+{
+    for (QLabel *label : {m_ui->printersLabel, m_ui->presetsLabel, m_ui->papersLabel, m_ui->copiesLabel})
+        label->setMinimumHeight(label->buddy()->sizeHint().height());
 }
 
 void DialogWindow::addButtons()
@@ -233,7 +241,7 @@ void DialogWindow::showMessage()
 /// Where a panel would stand: why there is none.
 void DialogWindow::showInPlaceOfPanel()
 {
-    m_ui->inPlaceOfPanel->setText(foundation::withoutControls(m_dialog.messages().about(About::printer)));
+    m_ui->inPlaceOfPanel->say(foundation::withoutControls(m_dialog.messages().about(About::printer)));
 }
 
 void DialogWindow::showState()

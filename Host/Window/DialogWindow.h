@@ -44,6 +44,7 @@ protected:
 
 private:
     void keepRoomOfTabs();
+    void centreLabels();
     void addButtons();
     void connectFields();
     void connectDialog();

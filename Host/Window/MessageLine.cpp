@@ -15,18 +15,36 @@ constexpr qsizetype kLongest = 1000; // in characters, of what anybody reads in 
 /// Screen readers read an alert aloud when it shows.
 QAccessibleInterface *accessibleMessage(const QString &, QObject *object)
 {
-    auto *const line = qobject_cast<MessageLine *>(object);
-    return line ? new QAccessibleWidget(line, QAccessible::AlertMessage) : nullptr;
+    auto *const label = qobject_cast<AnnouncedLabel *>(object);
+    return label ? new QAccessibleWidget(label, QAccessible::AlertMessage) : nullptr;
 }
 
 } // namespace
 
-MessageLine::MessageLine(QWidget *parent)
+AnnouncedLabel::AnnouncedLabel(QWidget *parent)
     : QLabel(parent)
 {
     [[maybe_unused]] static const bool isInstalled = (QAccessible::installFactory(accessibleMessage), true);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
+}
+
+void AnnouncedLabel::say(const QString &sentences)
+{
+    if (m_said == sentences)
+        return;
+    m_said = sentences;
+    setAccessibleName(sentences);
+    fit();
+    if (sentences.isEmpty() || !isVisible())
+        return;
+    QAccessibleEvent announcement(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&announcement);
+}
+
+MessageLine::MessageLine(QWidget *parent)
+    : AnnouncedLabel(parent)
+{
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
@@ -34,22 +52,9 @@ QSize MessageLine::sizeHint() const { return {0, kLines * fontMetrics().lineSpac
 
 QSize MessageLine::minimumSizeHint() const { return sizeHint(); }
 
-void MessageLine::say(const QString &sentences)
-{
-    if (m_said == sentences)
-        return;
-    m_said = sentences;
-    setAccessibleName(sentences);
-    fit();
-    if (sentences.isEmpty())
-        return;
-    QAccessibleEvent announcement(this, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&announcement);
-}
-
 void MessageLine::resizeEvent(QResizeEvent *event)
 {
-    QLabel::resizeEvent(event);
+    AnnouncedLabel::resizeEvent(event);
     fit();
 }
 
@@ -61,17 +66,17 @@ bool MessageLine::hasRoomFor(const QString &text) const
 
 void MessageLine::fit()
 {
-    if (hasRoomFor(m_said)) {
-        setText(m_said);
+    if (hasRoomFor(said())) {
+        setText(said());
         return setToolTip({});
     }
     qsizetype fitting = 0;
-    for (qsizetype tooLong = qMin<qsizetype>(m_said.size(), kLongest); fitting + 1 < tooLong;) {
+    for (qsizetype tooLong = qMin<qsizetype>(said().size(), kLongest); fitting + 1 < tooLong;) {
         const qsizetype middle = (fitting + tooLong) / 2;
-        (hasRoomFor(m_said.left(middle) + "…") ? fitting : tooLong) = middle;
+        (hasRoomFor(said().left(middle) + "…") ? fitting : tooLong) = middle;
     }
-    setText(m_said.left(fitting) + "…");
-    setToolTip(foundation::asHtml(m_said.left(kLongest)));
+    setText(said().left(fitting) + "…");
+    setToolTip(foundation::asHtml(said().left(kLongest)));
 }
 
 } // namespace host

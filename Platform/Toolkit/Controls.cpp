@@ -6,13 +6,16 @@
 #include "Foundation/NotificationCenter.h"
 
 #include <QAbstractItemView>
+#include <QAccessibleWidget>
 #include <QButtonGroup>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QRadioButton>
 #include <QStandardItemModel>
+#include <QStylePainter>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -47,6 +50,34 @@ void PopUpControl::removeAt(int index)
     const int selected = currentIndex();
     removeItem(index);
     setCurrentIndex(std::min(selected, count() - 1));
+}
+
+FittingText PopUpControl::fittingText() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    return {currentText(), font(), room.width()};
+}
+
+void PopUpControl::paintEvent(QPaintEvent *)
+{
+    const FittingText fitting = fittingText();
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.setFont(fitting.font);
+    option.currentText = fitting.text;
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+bool PopUpControl::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip &&
+        tellWhole(*this, *static_cast<QHelpEvent *>(event), fittingText(), currentText()))
+        return true;
+    return QComboBox::event(event);
 }
 
 bool PopUpControl::isItemEnabled(int index) const
@@ -114,6 +145,17 @@ RadioControl::RadioControl(QWidget *parent)
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     connect(m_group, &QButtonGroup::idClicked, this, &RadioControl::chosen);
+    connect(m_group, &QButtonGroup::idToggled, this, &RadioControl::letTabFindTheChosen);
+}
+
+/// Tab comes to the row that is chosen, and goes on behind the group; the arrow keys move within. Without a chosen row
+/// it comes to the first.
+void RadioControl::letTabFindTheChosen()
+{
+    for (QAbstractButton *button : m_group->buttons()) {
+        const bool isStop = button->isChecked() || (!m_group->checkedButton() && m_group->id(button) == 0);
+        button->setFocusPolicy(isStop ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 void RadioControl::setRows(const QStringList &titles)
@@ -127,6 +169,7 @@ void RadioControl::setRows(const QStringList &titles)
         m_rows.append(QString());
         setRowTitle(static_cast<int>(m_rows.size()) - 1, title);
     }
+    letTabFindTheChosen();
 }
 
 void RadioControl::setRowTitle(int row, const QString &title)
@@ -151,11 +194,53 @@ void RadioControl::choose(int row)
         button->click();
 }
 
+namespace {
+
+/// A stepper to assistive technology: a number between limits that goes up and down by steps.
+class AccessibleStepper : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleStepper(StepperControl *stepper)
+        : QAccessibleWidget(stepper, QAccessible::SpinBox)
+        , m_stepper(*stepper)
+    {}
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface *>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QVariant currentValue() const override { return m_stepper.value(); }
+    QVariant minimumValue() const override { return m_stepper.minimum(); }
+    QVariant maximumValue() const override { return m_stepper.maximum(); }
+    QVariant minimumStepSize() const override { return m_stepper.increment(); }
+    /// Whatever is asked for beyond one step is asked for again.
+    void setCurrentValue(const QVariant &value) override
+    {
+        if (value.toDouble() != m_stepper.value())
+            m_stepper.step(value.toDouble() > m_stepper.value() ? 1 : -1);
+    }
+
+private:
+    StepperControl &m_stepper;
+};
+
+QAccessibleInterface *accessibleStepper(const QString &, QObject *object)
+{
+    auto *const stepper = qobject_cast<StepperControl *>(object);
+    return stepper ? new AccessibleStepper(stepper) : nullptr;
+}
+
+} // namespace
+
 StepperControl::StepperControl(QWidget *parent)
     : QWidget(parent)
     , m_up(arrow(Qt::UpArrow, 1))
     , m_down(arrow(Qt::DownArrow, -1))
 {
+    [[maybe_unused]] static const bool isInstalled = (QAccessible::installFactory(accessibleStepper), true);
     setFocusPolicy(Qt::TabFocus);
     NotificationCenter::defaultCenter().addObserver(this, Alert::kWillOpen, [this] { stopRepeating(); });
 }

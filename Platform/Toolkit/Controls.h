@@ -50,8 +50,12 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
+    FittingText fittingText() const;
+
     Validator m_validator;
 };
 
@@ -99,6 +103,8 @@ Q_SIGNALS:
     void chosen();
 
 private:
+    void letTabFindTheChosen();
+
     QButtonGroup *m_group;
     QStringList m_rows;
 };

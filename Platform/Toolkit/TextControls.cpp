@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStylePainter>
 #include <QToolTip>
 
 #include <algorithm>
@@ -60,6 +61,8 @@ void LabelControl::setStringValue(const QString &text)
 {
     m_text = text;
     setText(withoutMnemonic(text)); // a buddy makes '&' a mnemonic; texts of a PPD mean the character
+    if (auto *field = m_unitOf.isEmpty() ? nullptr : parentWidget()->findChild<QWidget *>(m_unitOf))
+        field->setAccessibleDescription(text);
 }
 
 void LabelControl::changeEvent(QEvent *event)
@@ -67,6 +70,26 @@ void LabelControl::changeEvent(QEvent *event)
     QLabel::changeEvent(event);
     if (isPaletteEvent(*event))
         followPalette();
+}
+
+FittingText LabelControl::fittingText() const { return {m_text, font(), contentsRect().width()}; }
+
+void LabelControl::paintEvent(QPaintEvent *event)
+{
+    const FittingText fitting = fittingText();
+    if (fitting.text == m_text && fitting.font == font())
+        return QLabel::paintEvent(event);
+    QStylePainter painter(this);
+    painter.setFont(fitting.font);
+    painter.drawItemText(contentsRect(), static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
+                         palette(), isEnabled(), fitting.text, foregroundRole());
+}
+
+bool LabelControl::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip && tellWhole(*this, *static_cast<QHelpEvent *>(event), fittingText(), m_text))
+        return true;
+    return QLabel::event(event);
 }
 
 FieldControl::FieldControl(QWidget *parent)

@@ -1,6 +1,8 @@
 // Labels and entry fields as widgets.
 #pragma once
 
+#include "FittingText.h"
+
 #include <QLabel>
 #include <QLineEdit>
 
@@ -41,6 +43,8 @@ class LabelControl : public QLabel, public TextControl
 {
     Q_OBJECT
     Q_PROPERTY(QString text READ stringValue WRITE setStringValue)
+    /// The name of the field beside it that the text is the unit of: assistive technology tells the one with the other.
+    Q_PROPERTY(QString unitOf MEMBER m_unitOf)
 
 public:
     explicit LabelControl(QWidget *parent = nullptr);
@@ -50,9 +54,14 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
+    FittingText fittingText() const;
+
     QString m_text;
+    QString m_unitOf;
 };
 
 /// Every change of the text that code does not make through `setStringValue` is an edit of a person: by keys, paste,

@@ -209,6 +209,30 @@ TEST_F(Radios, StartWithoutARowAndIgnoreRowsThatTheyDoNotHave)
     EXPECT_EQ(m_chosen.size(), 0);
 }
 
+TEST_F(Radios, AreReachedWithTabAtTheRowThatIsChosen)
+{
+    QPushButton before(&m_window);
+    QPushButton after(&m_window);
+    before.show();
+    after.show();
+    const auto buttons = m_control.findChildren<QRadioButton *>();
+    QWidget *last = &before;
+    for (QWidget *next : {static_cast<QWidget *>(buttons[0]), static_cast<QWidget *>(buttons[1]),
+                          static_cast<QWidget *>(buttons[2]), static_cast<QWidget *>(&after)})
+        QWidget::setTabOrder(std::exchange(last, next), next);
+    for (const int row : {-1, 0, 1, 2}) {
+        m_control.select(row);
+        before.setFocus();
+        QTest::keyClick(&before, Qt::Key_Tab);
+        auto *const reached = qobject_cast<QRadioButton *>(QApplication::focusWidget());
+        ASSERT_TRUE(reached) << row;
+        EXPECT_EQ(buttons.indexOf(reached), qMax(row, 0));
+        EXPECT_EQ(m_control.selectedRow(), row);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), &after) << row;
+    }
+}
+
 TEST_F(Radios, SendTheActionUnderMouseAndArrowKeys)
 {
     const auto buttons = m_control.findChildren<QRadioButton *>();
@@ -226,6 +250,24 @@ class Steppers : public InWindow<StepperControl>
 protected:
     QSignalSpy m_stepped{&m_control, &StepperControl::stepped};
 };
+
+TEST_F(Steppers, AreNumbersThatStepForAssistiveTechnology)
+{
+    auto *const seen = QAccessible::queryAccessibleInterface(&m_control);
+    ASSERT_TRUE(seen && seen->valueInterface());
+    EXPECT_EQ(seen->role(), QAccessible::SpinBox);
+    EXPECT_EQ(seen->valueInterface()->minimumValue(), 0);
+    EXPECT_EQ(seen->valueInterface()->maximumValue(), 99);
+    EXPECT_EQ(seen->valueInterface()->minimumStepSize(), 1);
+    m_control.setValue(26);
+    seen->valueInterface()->setCurrentValue(27);
+    EXPECT_EQ(seen->valueInterface()->currentValue(), 27);
+    seen->valueInterface()->setCurrentValue(26);
+    EXPECT_EQ(m_control.value(), 26);
+    EXPECT_EQ(m_stepped.size(), 2);
+    seen->valueInterface()->setCurrentValue(26);
+    EXPECT_EQ(m_stepped.size(), 2);
+}
 
 TEST_F(Steppers, HoldTheirValueWithinTheRangeAndNeverWrap)
 {

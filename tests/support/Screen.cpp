@@ -206,6 +206,19 @@ bool Screen::run(const QString &program, const QStringList &arguments) const
     return process.waitForFinished(kMilliseconds) && process.exitCode() == 0;
 }
 
+std::optional<QString> Screen::listen()
+{
+    const auto hear = [](AtspiEvent *event, void *heard) {
+        if (taken(atspi_accessible_get_role_name(event->source, nullptr)) == "alert" && event->detail1 == 1)
+            static_cast<QStringList *>(heard)->append(taken(atspi_accessible_get_name(event->source, nullptr)));
+        g_boxed_free(ATSPI_TYPE_EVENT, event);
+    };
+    // It stays until the process ends, as does the library's own connection.
+    AtspiEventListener *const listener = atspi_event_listener_new(hear, &m_heard, nullptr);
+    const bool isHeard = atspi_event_listener_register(listener, "object:state-changed:showing", nullptr) != 0;
+    return isHeard ? std::nullopt : std::optional(QString("nobody listens to the accessibility bus"));
+}
+
 void Screen::press(const QString &keys) const { run("xdotool", {"key", keys}); }
 
 void Screen::type(const QString &text) const { run("xdotool", {"type", "--delay", "20", text}); }

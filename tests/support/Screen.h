@@ -5,6 +5,7 @@
 #include "Helper.h"
 
 #include <QRect>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -46,6 +47,10 @@ public:
     std::optional<Seen> waitFor(const QString &program, const std::function<bool(const Seen &)> &isIt,
                                 int milliseconds = kMilliseconds) const;
 
+    /// From now on hears what a screen reader reads aloud: alerts that show, and what they say.
+    std::optional<QString> listen();
+    const QStringList &heard() const { return m_heard; }
+
     void press(const QString &keys) const; // "alt+p"
     void type(const QString &text) const;
     void click(const Seen &seen) const;
@@ -62,6 +67,7 @@ private:
     Helper m_windowManager;
     QString m_displayName;
     QString m_busAddress;
+    QStringList m_heard;
 };
 
 } // namespace support

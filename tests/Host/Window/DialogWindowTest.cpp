@@ -51,6 +51,11 @@ TEST_F(Window, ShowsTheFirstPanelPreparedAndTheOthersRightAfter)
     EXPECT_FALSE(session().panel("advanced")->panelView()->isVisible());
 }
 
+TEST_F(Window, TellsTheUnitOfTheAmountWithItsField)
+{
+    EXPECT_EQ(find<QLineEdit>("mPaperFeedTxt")->accessibleDescription(), "mm");
+}
+
 TEST_F(Window, GoesFromPanelToPanelByKey)
 {
     auto *const tabs = find<QTabBar>();

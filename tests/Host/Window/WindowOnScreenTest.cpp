@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iostream>
 
 using support::Seen;
@@ -113,6 +114,26 @@ TEST_F(OnScreen, PrintsWhatAPersonChose)
     EXPECT_NEAR(job["parameter QnPaperFeed"].toDouble(), 40 / 25.4, 0.0001);
     EXPECT_EQ(job["copies"], "2");
     EXPECT_TRUE(job["options"].split(' ').contains("page-ranges=1-3,5"));
+}
+
+TEST_F(OnScreen, AnnouncesItsMessagesWhereverTheyStand)
+{
+    const auto deaf = m_screen.listen();
+    ASSERT_FALSE(deaf) << deaf->toStdString();
+    const auto hears = [this](const QString &beginning) {
+        return QTest::qWaitFor(
+            [&] {
+                return std::ranges::any_of(m_screen.heard(),
+                                           [&](const QString &each) { return each.startsWith(beginning); });
+            },
+            kMilliseconds);
+    };
+    m_server.stop();
+    m_screen.press("alt+p");
+    EXPECT_TRUE(hears("counter: no CUPS server answers")) << m_screen.heard().join('|').toStdString();
+    m_screen.press("alt+r"); // another printer, and a sentence where its panel would stand
+    m_screen.press("Down");
+    EXPECT_TRUE(hears("The print service does not run.")) << m_screen.heard().join('|').toStdString();
 }
 
 /// The part of a desktop that shows notifications.

@@ -1,0 +1,43 @@
+// Texts in places that can't grow.
+#include "FittingText.h"
+
+#include "Foundation/PlainText.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QHelpEvent>
+#include <QToolTip>
+#include <QWidget>
+
+namespace toolkit {
+
+namespace {
+
+constexpr double kSmallest = 0.75; // of the usual size; smaller is not read with pleasure
+constexpr double kStep = 0.5;      // in points
+
+} // namespace
+
+FittingText::FittingText(const QString &whole, const QFont &usual, int width)
+    : font(usual)
+    , text(whole)
+{
+    const auto fits = [&] { return QFontMetricsF(font).horizontalAdvance(whole) <= width; };
+    const double size = usual.pointSizeF() > 0 ? usual.pointSizeF() : QFontInfo(usual).pointSizeF();
+    for (double smaller = size - kStep; !fits() && smaller >= size * kSmallest; smaller -= kStep)
+        font.setPointSizeF(smaller);
+    if (fits())
+        return;
+    text = QFontMetricsF(font).elidedText(whole, Qt::ElideRight, width);
+    isCut = true;
+}
+
+bool tellWhole(const QWidget &control, const QHelpEvent &event, const FittingText &text, const QString &whole)
+{
+    if (!text.isCut || !control.toolTip().isEmpty())
+        return false;
+    QToolTip::showText(event.globalPos(), foundation::asHtml(whole));
+    return true;
+}
+
+} // namespace toolkit

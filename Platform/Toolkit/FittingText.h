@@ -1,0 +1,27 @@
+// Texts in places that can't grow: a panel's controls stand where its interface file puts them, however large the
+// fonts.
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+class QHelpEvent;
+class QWidget;
+
+namespace toolkit {
+
+/// A text as it fits into a width: as it is, else in a smaller font, else cut with an ellipsis as well.
+struct FittingText
+{
+    FittingText(const QString &whole, const QFont &usual, int width);
+
+    QFont font;
+    QString text;
+    bool isCut = false;
+};
+
+/// Shows the whole of a text that is cut, in plain text, where the control has no tool tip of its own. False when there
+/// is nothing to show.
+bool tellWhole(const QWidget &control, const QHelpEvent &event, const FittingText &text, const QString &whole);
+
+} // namespace toolkit
