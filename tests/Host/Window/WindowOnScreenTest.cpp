@@ -34,7 +34,8 @@ protected:
         const auto noScreen = m_screen.start();
         ASSERT_FALSE(noScreen) << noScreen->toStdString();
         m_program.setProcessEnvironment(m_screen.extended(m_server.environment()));
-        m_program.start(QN_PROGRAM, {"-d", "counter", "--language", "en", "--locale", "de_DE", kTicket});
+        m_program.start(QN_PROGRAM,
+                        {"-d", "counter", "--title", "Ferry ticket", "--language", "en", "--locale", "de_DE", kTicket});
         ASSERT_TRUE(m_program.waitForStarted(kMilliseconds)) << m_program.errorString().toStdString();
         ASSERT_TRUE(wait("button", "Print")) << "the printer does not come";
     }
@@ -105,7 +106,7 @@ TEST_F(OnScreen, PrintsWhatAPersonChose)
     ASSERT_TRUE(ended(0));
     EXPECT_EQ(m_program.readAllStandardOutput(), "counter-1\n");
     const auto job = m_server.record(1);
-    EXPECT_EQ(job["title"], "ticket.pdf");
+    EXPECT_EQ(job["title"], "Ferry ticket");
     EXPECT_EQ(job["size"], QString::number(QFile(kTicket).size()));
     EXPECT_EQ(job["PageSize"], "RollA4");
     EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
@@ -147,7 +148,7 @@ TEST_F(OnScreen, TellsThroughTheDesktopWhatBecameOfTheJob)
     m_screen.press("alt+p");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !service.told.isEmpty(); }, kMilliseconds));
     ASSERT_GE(service.told.size(), 5);
-    EXPECT_EQ(service.told[3], "ticket.pdf waits: office is stopped (out of <b>paper</b>)");
+    EXPECT_EQ(service.told[3], "Ferry ticket waits: office is stopped (out of <b>paper</b>)");
     EXPECT_EQ(service.told[4], ""); // a body may be taken for markup
     ASSERT_TRUE(ended(0));
     QDBusConnection::disconnectFromBus("desktop");
