@@ -77,6 +77,7 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser)
     request.ppd = parser.value("ppd");
     request.output = parser.value("output");
     request.title = parser.value("title");
+    request.prefersLastPrinter = !parser.isSet("no-dialog");
     request.copies = readCopies(parser.value("n"));
     if (parser.isSet("n") && !request.copies)
         return Problem{

@@ -34,8 +34,9 @@ inline constexpr std::array kOptionRows{
     OptionRow{"h", "help", nullptr, nullptr, "Show this help.", nullptr},
     OptionRow{nullptr, "version", nullptr, nullptr, "Show the version.", nullptr},
     OptionRow{"d", "destination", "queue", nullptr, "CUPS queue; the default queue when not given.",
-              "A preset of the queue may follow behind a slash: counter/express. A preset that is not there is "
-              "refused.",
+              "Without it the window opens on the printer of the last job, else on the default queue, else on the "
+              "only one there is. A preset of the queue may follow behind a slash: counter/express. A preset that is "
+              "not there is refused.",
               Completion::queue},
     OptionRow{nullptr, "ppd", "file", nullptr, "Print by a PPD file, without any CUPS server.",
               "Does not go together with -d.", Completion::ppdFile},
