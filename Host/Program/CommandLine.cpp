@@ -18,22 +18,14 @@ namespace {
 
 void addOptions(QCommandLineParser &parser)
 {
-    parser.addPositionalArgument("file", "the document: PDF, PostScript, image or text; - for standard input",
-                                 "[file]");
-    parser.addOptions({{{"h", "help"}, "Show this help."},
-                       {"version", "Show the version."},
-                       {{"d", "destination"}, "CUPS queue; the default queue when not given.", "queue"},
-                       {"ppd", "Print by a PPD file, without any CUPS server.", "file"},
-                       {"output", "Folder that then receives document and job ticket.", "folder", "."},
-                       {"o", "Set an option before the dialog opens.", "keyword=choice"},
-                       {"n", "Copies.", "number"},
-                       {"P", "Pages to print, such as 1-3,5.", "pages"},
-                       {{"t", "title"}, "Title of the job.", "title"},
-                       {"no-dialog", "Print without a window, by the same rules and checks."},
-                       {"panel", "Panel to show first, by its identifier.", "panel"},
-                       {"language", "Language of the panels.", "language"},
-                       {"locale", "Decides between millimetres and inches.", "locale"},
-                       {"system-version", "The system that the panels believe to run on.", "version"}});
+    parser.addPositionalArgument("file", kFileDescription, "[file...]");
+    for (const OptionRow &row : kOptionRows) {
+        QStringList names;
+        for (const char *name : {row.letter, row.word})
+            if (name)
+                names.append(name);
+        parser.addOption({names, row.description, row.value, row.fallback});
+    }
 }
 
 Or<Environment> readEnvironment(const QCommandLineParser &parser)
@@ -85,6 +77,7 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser)
     request.ppd = parser.value("ppd");
     request.output = parser.value("output");
     request.title = parser.value("title");
+    request.prefersLastPrinter = !parser.isSet("no-dialog");
     request.copies = readCopies(parser.value("n"));
     if (parser.isSet("n") && !request.copies)
         return Problem{
@@ -120,8 +113,6 @@ void report(const QString &where)
 
 Face faceOf(const QStringList &arguments)
 {
-    if (arguments.value(0) == "script")
-        return Face::script;
     QCommandLineParser parser;
     addOptions(parser);
     parser.parse(QStringList("qnprint") + arguments);
@@ -129,8 +120,9 @@ Face faceOf(const QStringList &arguments)
         return Face::help;
     if (parser.isSet("version"))
         return Face::version;
-    if (arguments.value(0) == "shot")
-        return Face::shot;
+    for (const FaceRow &row : kFaceRows)
+        if (arguments.value(0) == row.word)
+            return row.face;
     return parser.isSet("no-dialog") ? Face::batch : Face::window;
 }
 
@@ -155,6 +147,10 @@ QString helpText()
 {
     QCommandLineParser parser;
     addOptions(parser);
+    QString uses = QStringLiteral("qnprint - %1\n\nOther uses:").arg(kPurpose);
+    for (const FaceRow &row : kFaceRows)
+        uses += QStringLiteral("\n  qnprint %1\n      %2").arg(row.synopsis, row.description);
+    parser.setApplicationDescription(uses);
     return parser.helpText();
 }
 

@@ -1,6 +1,8 @@
 // What the command line of `qnprint` asks for.
 #pragma once
 
+#include "Usage.h"
+
 #include "Dialog/PrintRequest.h"
 #include "Session/Environment.h"
 
@@ -9,13 +11,6 @@
 #include <QStringList>
 
 namespace host {
-
-inline constexpr int kDone = 0;
-inline constexpr int kRefused = 1; // or cancelled, or failed
-inline constexpr int kWrongUse = 2;
-
-/// What the program becomes. Only the window needs a display.
-enum class Face { window, batch, script, shot, help, version };
 
 /// The face that a command line asks for, whatever else may be wrong with it.
 Face faceOf(const QStringList &arguments);
@@ -28,7 +23,7 @@ struct CommandLine
     Environment environment;
 };
 
-/// Without the word that stands for a face.
+/// Without the word that stands for a face, and without Qt's own arguments.
 foundation::Or<CommandLine> readCommandLine(const QStringList &arguments);
 
 /// Needs an application, whose name it says.

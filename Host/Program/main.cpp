@@ -1,4 +1,5 @@
 // `qnprint`: which face of the dialog the command line asks for.
+#include "Application.h"
 #include "OpenDialog.h"
 #include "QnVersion.h"
 
@@ -7,30 +8,13 @@
 #include "Server/Answering.h"
 #include "Window/WindowTexts.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 
-#include <algorithm>
 #include <iostream>
 
 namespace {
 
 using host::Face;
-
-QtMessageHandler usualHandler = nullptr;
-
-/// What the platform without a display says of itself is nothing to a person who asked for none.
-void withoutPlatformRemarks(QtMsgType type, const QMessageLogContext &context, const QString &message)
-{
-    if (!message.startsWith("This plugin does not support") && !message.startsWith("QStandardPaths: "))
-        usualHandler(type, context, message);
-}
-
-void doWithoutDisplay()
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    usualHandler = qInstallMessageHandler(withoutPlatformRemarks);
-}
 
 QStringList rawArguments(int argc, char *argv[])
 {
@@ -46,39 +30,31 @@ int tell(const QString &text)
     return host::kDone;
 }
 
-int run(Face face, QStringList arguments)
+/// The command line is read before there is an application: wrong use is told without a display as well.
+int run(Face face, const host::Arguments &arguments)
 {
-    if (face == Face::script)
+    if (face == Face::script) {
+        const host::Application application(face, arguments.ofQt);
         return host::runScript();
-    if (face == Face::shot)
-        arguments.removeFirst();
-    const auto line = host::readCommandLine(arguments);
+    }
+    const auto line = host::readCommandLine(arguments.ours.mid(face == Face::shot ? 1 : 0));
     if (!line) {
         host::complain(line.problem().sentence);
         return host::kWrongUse;
     }
+    if (face != Face::shot && line->request.ppd.isEmpty())
+        host::prepareConversation(); // starts while the application does
+    const host::Application application(face, arguments.ofQt);
     line->environment.apply();
     if (face == Face::shot)
         return host::takeShot(*line);
     return face == Face::batch ? host::printWithoutWindow(*line) : host::openDialog(*line);
 }
 
-/// Told before the line is read, and then in part only: what is started for nothing does no harm.
-bool mayUsePPDFile(const QStringList &arguments)
-{
-    return std::ranges::any_of(arguments, [](const QString &argument) { return argument.startsWith("--ppd"); });
-}
-
 [[noreturn]] void talkWithServer(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv); // for translations
     host::answerConversation(host::useWindowTexts);
-}
-
-int runApplication(Face face, int argc, char *argv[])
-{
-    QApplication application(argc, argv);
-    return run(face, QCoreApplication::arguments().mid(1)); // Qt has taken its own
 }
 
 } // namespace
@@ -92,17 +68,13 @@ int main(int argc, char *argv[])
 
     if (argc == 2 && qstrcmp(argv[1], host::kConversation) == 0)
         talkWithServer(argc, argv);
-    const QStringList arguments = rawArguments(argc, argv);
-    const Face face = host::faceOf(arguments);
+    const auto arguments = host::partArguments(rawArguments(argc, argv));
+    const Face face = host::faceOf(arguments.ours);
     if (face == Face::version)
         return tell("qnprint " QN_VERSION "\n");
     if (face == Face::help) {
         const QCoreApplication application(argc, argv);
         return tell(host::helpText());
     }
-    if (face != Face::window)
-        doWithoutDisplay();
-    if ((face == Face::window || face == Face::batch) && !mayUsePPDFile(arguments))
-        host::prepareConversation(); // starts while the application does
-    return runApplication(face, argc, argv);
+    return run(face, arguments);
 }

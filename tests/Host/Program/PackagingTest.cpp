@@ -1,10 +1,11 @@
-// What a file manager is told of us.
+// What is installed, and what a file manager is told of us.
 #include "Jobs/Document.h"
 
 #include "Print.h"
 #include "Results.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -59,6 +60,22 @@ TEST(DesktopEntry, OffersNoOtherTypeAndTakesAFileNameForNothingElse)
     EXPECT_EQ(entry("MimeType").split(';', Qt::SkipEmptyParts).size(), static_cast<qsizetype>(kSamples.size()));
     EXPECT_EQ(entry("Exec"), "qnprint -- %f"); // whatever a name begins with, it is a name
     EXPECT_TRUE(QFile::exists(QString(QN_SOURCE_DIR "/packaging/%1.svg").arg(entry("Icon"))));
+}
+
+TEST(AnInstallation, HasTheManualAndTheCompletionsWhereTheyAreLookedFor)
+{
+    const QTemporaryDir prefix;
+    ASSERT_EQ(QProcess::execute(QN_CMAKE, {"--install", QN_BUILD_DIR, "--prefix", prefix.path()}), 0);
+    for (const auto &[installed, made] : {std::pair{"man/man1/qnprint.1", "qnprint.1"},
+                                          {"bash-completion/completions/qnprint", "qnprint.bash"},
+                                          {"zsh/site-functions/_qnprint", "_qnprint"},
+                                          {"fish/vendor_completions.d/qnprint.fish", "qnprint.fish"}}) {
+        QFile there(prefix.filePath(QString("share/") + installed));
+        QFile here(QString(QN_MANUAL_DIR "/") + made);
+        EXPECT_TRUE(there.open(QIODevice::ReadOnly) && here.open(QIODevice::ReadOnly)) << installed;
+        EXPECT_EQ(there.readAll(), here.readAll()) << installed;
+    }
+    EXPECT_FALSE(QFile::exists(prefix.filePath("bin/qnprint-manual")));
 }
 
 } // namespace

@@ -35,7 +35,8 @@ protected:
         const auto noScreen = m_screen.start();
         ASSERT_FALSE(noScreen) << noScreen->toStdString();
         m_program.setProcessEnvironment(m_screen.extended(m_server.environment()));
-        m_program.start(QN_PROGRAM, {"-d", "counter", "--language", "en", "--locale", "de_DE", kTicket});
+        m_program.start(QN_PROGRAM,
+                        {"-d", "counter", "--title", "Ferry ticket", "--language", "en", "--locale", "de_DE", kTicket});
         ASSERT_TRUE(m_program.waitForStarted(kMilliseconds)) << m_program.errorString().toStdString();
         ASSERT_TRUE(wait("button", "Print")) << "the printer does not come";
     }
@@ -72,6 +73,20 @@ protected:
         QThread::msleep(600); // the menu takes a second click at once for the first one
         m_screen.click(*entry);
     }
+    /// By keys. The second printer may not be in the menu yet, as it is asked for when the first one stands.
+    bool chooseOffice()
+    {
+        const auto isOnOffice = [](const Seen &each) {
+            return each.label == "Printer:" && each.name.startsWith("office");
+        };
+        bool done = false;
+        for (int i = 0; i < kTries && !done; ++i) {
+            m_screen.press("alt+r");
+            m_screen.press("Down");
+            done = m_screen.waitFor("qnprint", isOnOffice, kMilliseconds / kTries).has_value();
+        }
+        return done && wait("button", "Print");
+    }
     bool ended(int status)
     {
         return m_program.waitForFinished(kMilliseconds) && m_program.exitStatus() == QProcess::NormalExit &&
@@ -106,7 +121,7 @@ TEST_F(OnScreen, PrintsWhatAPersonChose)
     ASSERT_TRUE(ended(0));
     EXPECT_EQ(m_program.readAllStandardOutput(), "counter-1\n");
     const auto job = m_server.record(1);
-    EXPECT_EQ(job["title"], "ticket.pdf");
+    EXPECT_EQ(job["title"], "Ferry ticket");
     EXPECT_EQ(job["size"], QString::number(QFile(kTicket).size()));
     EXPECT_EQ(job["PageSize"], "RollA4");
     EXPECT_EQ(job["QnPaperSizeType"], "QnRollSize");
@@ -160,18 +175,25 @@ TEST_F(OnScreen, TellsThroughTheDesktopWhatBecameOfTheJob)
     NotificationService service;
     ASSERT_TRUE(bus.registerVirtualObject("/org/freedesktop/Notifications", &service));
     ASSERT_TRUE(bus.registerService("org.freedesktop.Notifications"));
-    m_screen.press("alt+r");
-    m_screen.press("Down");
-    ASSERT_TRUE(m_screen.waitFor(
-        "qnprint", [](const Seen &each) { return each.label == "Printer:" && each.name.startsWith("office"); }));
-    ASSERT_TRUE(wait("button", "Print"));
+    ASSERT_TRUE(chooseOffice());
     m_screen.press("alt+p");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !service.told.isEmpty(); }, kMilliseconds));
     ASSERT_GE(service.told.size(), 5);
-    EXPECT_EQ(service.told[3], "ticket.pdf waits: office is stopped (out of <b>paper</b>)");
+    EXPECT_EQ(service.told[3], "Ferry ticket waits: office is stopped (out of <b>paper</b>)");
     EXPECT_EQ(service.told[4], ""); // a body may be taken for markup
     ASSERT_TRUE(ended(0));
     QDBusConnection::disconnectFromBus("desktop");
+}
+
+TEST_F(OnScreen, OpensOnThePrinterOfTheLastJob)
+{
+    ASSERT_TRUE(chooseOffice());
+    m_screen.press("alt+p");
+    ASSERT_TRUE(ended(0));
+    m_program.start(QN_PROGRAM, {"--language", "en", kTicket});
+    ASSERT_TRUE(wait("button", "Print"));
+    EXPECT_TRUE(m_screen.waitFor("qnprint",
+                                 [](const Seen &each) { return each.label == "Printer:" && each.name == "office"; }));
 }
 
 TEST_F(OnScreen, StopsAnAmountThatIsOutOfRangeAndLetsThePersonMendIt)
@@ -200,11 +222,7 @@ TEST_F(OnScreen, StopsAnAmountThatIsOutOfRangeAndLetsThePersonMendIt)
 
 TEST_F(OnScreen, SwitchesToAnotherPrinterByKeysAndClosesWithEscape)
 {
-    m_screen.press("alt+r");
-    m_screen.press("Down");
-    ASSERT_TRUE(m_screen.waitFor("qnprint",
-                                 [](const Seen &each) { return each.label == "Printer:" && each.name == "office"; }));
-    ASSERT_TRUE(wait("button", "Print"));
+    ASSERT_TRUE(chooseOffice());
     m_screen.press("Escape");
     ASSERT_TRUE(ended(1));
     EXPECT_EQ(m_server.openJobs(), "");
