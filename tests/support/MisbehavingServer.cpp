@@ -325,20 +325,20 @@ MisbehavingServer::MisbehavingServer(QMap<Step, Mode> faults)
     m_listener = std::jthread([this](const std::stop_token &stop) { listen(stop); });
 }
 
+MisbehavingServer::Served::~Served()
+{
+    ::shutdown(socket, SHUT_RDWR);
+    thread.join();
+    ::close(socket);
+}
+
 MisbehavingServer::~MisbehavingServer()
 {
     m_listener.request_stop();
     ::shutdown(m_socket, SHUT_RDWR);
     m_listener.join();
     ::close(m_socket);
-    {
-        const std::scoped_lock lock(m_mutex);
-        for (const int connection : m_connections)
-            ::shutdown(connection, SHUT_RDWR);
-    }
-    m_threads.clear();
-    for (const int connection : m_connections)
-        ::close(connection);
+    m_connections.clear();
 }
 
 QProcessEnvironment MisbehavingServer::environment() const
@@ -371,6 +371,7 @@ QList<Step> MisbehavingServer::asked() const
     return m_asked;
 }
 
+/// Some answers have the library connect again and again: what has ended is let go, or threads and files would run out.
 void MisbehavingServer::listen(const std::stop_token &stop)
 {
     while (!stop.stop_requested()) {
@@ -379,11 +380,12 @@ void MisbehavingServer::listen(const std::stop_token &stop)
             continue;
         const int one = 1;
         ::setsockopt(connection, IPPROTO_TCP, TCP_NODELAY, &one, sizeof(one));
-        const std::scoped_lock lock(m_mutex);
-        m_connections.push_back(connection);
-        m_threads.emplace_back([this, connection] {
-            serve(connection);
-            ::shutdown(connection, SHUT_RDWR);
+        m_connections.remove_if([](const Served &each) { return each.hasEnded.load(); });
+        Served &served = m_connections.emplace_back(connection);
+        served.thread = std::thread([this, &served] {
+            serve(served.socket);
+            ::shutdown(served.socket, SHUT_RDWR);
+            served.hasEnded = true;
         });
     }
 }
