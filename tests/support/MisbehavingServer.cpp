@@ -77,7 +77,9 @@ QByteArray printer(int port)
            attribute(0x45, "printer-uri-supported",
                      "ipp://127.0.0.1:" + QByteArray::number(port) + "/printers/counter") +
            attribute(0x23, "printer-state", number(3, 4)) + attribute(0x22, "printer-is-accepting-jobs", "\x01") +
-           attribute(0x23, "printer-type", number(4, 4)) + attribute(0x45, "device-uri", "usb://Qn/Thermal?serial=1");
+           attribute(0x23, "printer-type", number(4, 4)) + attribute(0x45, "device-uri", "usb://Qn/Thermal?serial=1") +
+           attribute(0x44, "media-supported", "iso_a4_210x297mm") + attribute(0x44, "", "na_letter_8.5x11in") +
+           attribute(0x44, "", "om_ticket_80x200mm");
 }
 
 QByteArray answerTo(Step step, quint32 request, int port)
@@ -292,6 +294,7 @@ bool misbehave(const Connection &connection, Mode mode, const QByteArray &body, 
     case Mode::password: return status("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n");
     case Mode::upgrade: return status("426 Upgrade Required", "Upgrade: TLS/1.2\r\nConnection: Upgrade\r\n");
     case Mode::error: return status("500 Internal");
+    case Mode::notFound: return status("404 Not Found");
     case Mode::unknownHttpStatus: return status("4010 Odd");
     case Mode::unknownStatus: return connection.say(http(head(request, 0x7379) + kEnd, type));
     case Mode::refusal:

@@ -43,6 +43,7 @@ public:
         password,
         upgrade,
         error,
+        notFound,
         unknownHttpStatus,
         unknownStatus,
         refusal, // with words that would do harm on a terminal
