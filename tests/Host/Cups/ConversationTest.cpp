@@ -69,7 +69,7 @@ protected:
         file.close();
         setConversationProgram(file.fileName());
     }
-    static foundation::Or<QJsonObject> ask() { return converse({{"ask", "queues"}}, {}, {}); }
+    static foundation::Or<QJsonObject> ask() { return converse({{"ask", "queues"}}, {120s}, {}); }
     /// A line that answers, with so many bytes in all.
     static QByteArray answerOf(qint64 bytes)
     {
@@ -131,9 +131,10 @@ protected:
         m_process = childOf(::gettid());
         ASSERT_GT(m_process, 0);
     }
-    void waitUntilItIsLimited() const
+    /// Until it has another limit than we, from whom it has its first ones.
+    void waitForItsOwn(const QByteArray &limit) const
     {
-        while (limitOf(m_process, "Max file size") < 0)
+        while (limitOf(m_process, limit) == limitOf(::getpid(), limit))
             std::this_thread::sleep_for(1ms);
     }
 
@@ -181,7 +182,7 @@ TEST_F(TheProcess, HasNoFileOfTheDialog)
 
 TEST_F(TheProcess, MayWriteLittleAndLeavesNoCore)
 {
-    waitUntilItIsLimited();
+    waitForItsOwn("Max file size");
     EXPECT_EQ(limitOf(m_process, "Max file size"), 64 * kMebibyte);
     EXPECT_EQ(limitOf(m_process, "Max core file size"), 0);
 }
@@ -189,8 +190,7 @@ TEST_F(TheProcess, MayWriteLittleAndLeavesNoCore)
 #ifndef __SANITIZE_ADDRESS__
 TEST_F(TheProcess, MayTake200MebibytesBeyondItself)
 {
-    while (limitOf(m_process, "Max address space") < 0)
-        std::this_thread::sleep_for(1ms);
+    waitForItsOwn("Max address space");
     const qint64 itself = processFile(m_process, "statm").split(' ').first().toLongLong() * ::sysconf(_SC_PAGESIZE);
     const qint64 beyond = limitOf(m_process, "Max address space") - itself;
     EXPECT_LE(beyond, 200 * kMebibyte);
