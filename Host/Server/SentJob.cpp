@@ -19,8 +19,7 @@ void addOptions(printing::CupsOptions &options, const Job &job)
 {
     for (const auto &[key, value] : job.options.asKeyValueRange())
         options.add(key.toUtf8().constData(), value.toUtf8().constData());
-    if (job.copies > 1)
-        options.add("copies", QByteArray::number(job.copies).constData());
+    options.add("copies", QByteArray::number(job.copies).constData()); // one as well: a queue may have another default
     if (!job.pages.isEmpty())
         options.add("page-ranges", job.pages.toUtf8().constData());
 }

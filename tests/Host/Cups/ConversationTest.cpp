@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
@@ -158,8 +157,9 @@ TEST_F(TheProcess, IsReadyBeforeTheQuestionAndTakesIt)
 
 TEST_F(TheProcess, HasNoFileOfTheDialog)
 {
-    QTemporaryFile input;
-    ASSERT_TRUE(input.open());
+    const QTemporaryDir folder;
+    QFile input(folder.filePath("input"));
+    ASSERT_TRUE(input.open(QIODevice::ReadWrite));
     const int before = ::dup(STDIN_FILENO);
     ASSERT_EQ(::dup2(input.handle(), STDIN_FILENO), STDIN_FILENO);
     QStringList files;

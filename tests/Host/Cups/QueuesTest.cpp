@@ -71,10 +71,11 @@ TEST_F(QueuesOfTheServer, AreDescribedInTheWordsOfTheServer)
     EXPECT_FALSE(entry("plain").takesJobs);
 }
 
-TEST_F(QueuesOfTheServer, TakeOneCopyWithoutAWordAboutIt)
+TEST_F(QueuesOfTheServer, PrintTheCopiesThatWereAskedForWhateverTheirOwnDefault)
 {
+    ASSERT_EQ(m_server.run("lpadmin", {"-p", "counter", "-o", "copies-default=3"}), 0);
     EXPECT_EQ(value(sendTo("counter")), "counter-1");
-    EXPECT_FALSE(m_server.record(1)["options"].contains("copies=")) << m_server.record(1)["options"].toStdString();
+    EXPECT_EQ(m_server.record(1)["copies"], "1");
 }
 
 TEST_F(QueuesOfTheServer, PrintNothingByAPPDThatIsNotTheirsAnyMore)
@@ -96,6 +97,13 @@ TEST_F(QueuesOfTheServer, AreNotThereWhenTheServerIsNot)
     m_server.stop();
     EXPECT_EQ(sentence(sendTo("counter")), "counter: no CUPS server answers");
     EXPECT_EQ(sentence(sendTo("counter", queue.ppd)), "counter: no CUPS server answers");
+}
+
+TEST(AServer, ThatGivesNoAnswerHasNoJobEither)
+{
+    const MisbehavingServer server({{Step::standard, Mode::rubbish}});
+    server.adoptEnvironment();
+    EXPECT_EQ(sentence(sendTo("counter")), "counter: the CUPS server gave no proper answer"); // so that nobody looks
 }
 
 TEST(AQueueWithoutAPPD, HasThePapersThatTheServerOffers)
