@@ -71,6 +71,18 @@ TEST_F(QueuesOfTheServer, AreDescribedInTheWordsOfTheServer)
     EXPECT_FALSE(entry("plain").takesJobs);
 }
 
+TEST_F(QueuesOfTheServer, InAClassHaveAPPDTogetherWhereOneHasOne)
+{
+    ASSERT_TRUE(m_server.addPlainQueue("plain", "file:///dev/null"));
+    for (const auto &[member, name] :
+         {std::pair("counter", "hall"), std::pair("plain", "hall"), std::pair("plain", "yard")})
+        ASSERT_EQ(m_server.run("lpadmin", {"-p", member, "-c", name}), 0);
+    const auto hall = value(findQueue({"hall", {}}, {}));
+    ASSERT_TRUE(hall.ppd);
+    EXPECT_TRUE(value(PPDDocument::open(hall.ppd->path))->hasOption("QnMedia"));
+    EXPECT_FALSE(value(findQueue({"yard", {}}, {})).ppd);
+}
+
 TEST_F(QueuesOfTheServer, PrintTheCopiesThatWereAskedForWhateverTheirOwnDefault)
 {
     ASSERT_EQ(m_server.run("lpadmin", {"-p", "counter", "-o", "copies-default=3"}), 0);
