@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <csignal>
 #include <sys/wait.h>
 #include <thread>
@@ -50,6 +51,14 @@ qint64 limitOf(qint64 process, const QByteArray &name)
             return limit == "unlimited" ? -1 : limit.toLongLong();
         }
     return 0;
+}
+
+/// Leaves ones where the next calls have what they have not set.
+[[gnu::noinline]] void soilTheStack()
+{
+    std::array<volatile uchar, 65536> soil;
+    for (volatile uchar &each : soil)
+        each = 0xff;
 }
 
 /// A conversation with a program of the test's own.
@@ -110,6 +119,7 @@ echo "{\"answer\":{\"blocked\":\"$blocked\",\"ignored\":\"$ignored\",\"leader\":
     ::pthread_sigmask(SIG_BLOCK, &all, &before);
     for (const int number : {SIGINT, SIGTERM, SIGUSR1})
         std::signal(number, SIG_IGN);
+    soilTheStack();
     const auto answer = value(ask());
     for (const int number : {SIGINT, SIGTERM, SIGUSR1})
         std::signal(number, SIG_DFL);
