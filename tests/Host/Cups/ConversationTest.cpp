@@ -68,11 +68,11 @@ protected:
     void TearDown() override { setConversationProgram(QN_PROGRAM); }
     /// Lines of shell, which begin when the question is read. They write to the dialog; the standard output that they
     /// began with is 3.
-    void answerBy(const QByteArray &lines)
+    void answerBy(const QByteArray &lines, const QByteArray &reading = "read -r question")
     {
         QFile file(m_folder.filePath("program"));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("#!/bin/sh\nread -r question\nexec 3>&1 >&0\n" + lines + '\n');
+        file.write("#!/bin/sh\n" + reading + "\nexec 3>&1 >&0\n" + lines + '\n');
         ASSERT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
         file.close();
         setConversationProgram(file.fileName());
@@ -95,6 +95,12 @@ TEST_F(AProgramAtTheOtherEnd, ThatEndsWithoutAWordGivesAnAnswerThatCannotBeRead)
     const auto answer = ask();
     EXPECT_EQ(sentence(answer), kUnread);
     EXPECT_EQ(answer.problem().kind, Problem::Kind::unanswered);
+}
+
+TEST_F(AProgramAtTheOtherEnd, ThatEndsBeforeItHasReadTheQuestionDoesSoToo)
+{
+    answerBy("exit 0", "head -c 1 >/dev/null");
+    EXPECT_EQ(sentence(ask()), kUnread);
 }
 
 TEST_F(AProgramAtTheOtherEnd, MaySayALineOf32MebibytesAndNoMore)
@@ -163,6 +169,17 @@ TEST_F(TheProcess, IsReadyBeforeTheQuestionAndTakesIt)
     });
     EXPECT_FALSE(findQueue({"counter", {}}, stop.get_token()));
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+}
+
+TEST(AProcess, ThatEndsWhileItWaitsIsReplaced)
+{
+    const MisbehavingServer server({});
+    server.adoptEnvironment();
+    prepareConversation();
+    ::kill(static_cast<pid_t>(childOf(::gettid())), SIGKILL);
+    siginfo_t end{};
+    ASSERT_EQ(::waitid(P_ALL, 0, &end, WEXITED | WNOWAIT), 0);
+    EXPECT_EQ(value(findQueue({"counter", {}}, {})).name, "counter");
 }
 
 TEST_F(TheProcess, HasNoFileOfTheDialog)
