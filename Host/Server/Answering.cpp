@@ -1,5 +1,6 @@
 // The process that talks with the server. It waits for its question, answers it, and is gone. What it may use is
-// limited from the beginning, and when the dialog goes it does not stay.
+// limited from the beginning, and when the dialog goes it does not stay. No signal has a handler here, so that none
+// interrupts a call.
 #include "Answering.h"
 
 #include "Printers.h"
@@ -101,8 +102,6 @@ std::optional<Question> readQuestion()
         message.msg_control = control.data();
         message.msg_controllen = control.size();
         const ssize_t count = ::recvmsg(kDialog, &message, MSG_CMSG_CLOEXEC);
-        if (count < 0 && errno == EINTR)
-            continue;
         if (count <= 0)
             return std::nullopt;
         text.append(part.data(), count);
@@ -119,9 +118,9 @@ void tell(const QJsonObject &json)
     for (qsizetype told = 0; told < line.size();) {
         const ssize_t count =
             ::send(kDialog, line.data() + told, static_cast<std::size_t>(line.size() - told), MSG_NOSIGNAL);
-        if (count < 0 && errno != EINTR)
+        if (count < 0)
             return;
-        told += qMax<ssize_t>(count, 0);
+        told += count;
     }
 }
 
@@ -130,9 +129,9 @@ void stopWhenTold(const std::stop_source &stop)
 {
     char byte = 0;
     ssize_t count = 1;
-    while (count > 0 || (count < 0 && errno == EINTR)) {
+    while (count > 0) {
         count = ::recv(kDialog, &byte, 1, 0);
-        dialogHasGone = count == 0 || (count < 0 && errno != EINTR);
+        dialogHasGone = count <= 0;
         stop.request_stop();
     }
     std::this_thread::sleep_for(kTimeAlone);

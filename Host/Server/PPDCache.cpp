@@ -76,30 +76,10 @@ bool keep(const QByteArray &content, const QString &path, std::time_t asOf)
            copy.setFileTime(QDateTime::fromSecsSinceEpoch(asOf), QFileDevice::FileModificationTime) && copy.commit();
 }
 
+/// Of a class as well: the server gives the PPD of one of its printers.
 QByteArray resourceOf(const QString &queue)
 {
     return "/printers/" + QByteArray(QUrl::toPercentEncoding(queue)) + ".ppd";
-}
-
-/// The queues of a class; none when it is a queue itself.
-QStringList membersOf(const ServerConnection &server, const QString &queue)
-{
-    const auto answer = server.attributesOf(queue, "member-names");
-    ipp_attribute_t *const names = answer ? ippFindAttribute(answer->get(), "member-names", IPP_TAG_NAME) : nullptr;
-    QStringList members;
-    for (int i = 0; i < ippGetCount(names); ++i)
-        members.append(QString::fromUtf8(ippGetString(names, i, nullptr)));
-    return members;
-}
-
-/// A class prints by the PPD of its first member.
-Or<Download> download(ServerConnection &server, const QString &queue, std::time_t knownAsOf)
-{
-    auto file = server.download(resourceOf(queue), knownAsOf);
-    if (file || file.problem().kind != Problem::Kind::notFound)
-        return file;
-    const QStringList members = membersOf(server, queue);
-    return members.isEmpty() ? std::move(file) : server.download(resourceOf(members.first()), knownAsOf);
 }
 
 Or<std::optional<CachedPPD>> taken(const Download &file, const QString &path)
@@ -126,7 +106,7 @@ Or<std::optional<CachedPPD>> fetchPPD(ServerConnection &server, const QString &q
     const QString path = cachePath(queue);
     const auto kept = unsealed(path);
     const std::time_t asOf = kept ? QFileInfo(path).lastModified().toSecsSinceEpoch() : 0;
-    const auto file = download(server, queue, asOf);
+    const auto file = server.download(resourceOf(queue), asOf);
     if (!file) {
         if (file.problem().kind == Problem::Kind::notFound)
             return std::optional<CachedPPD>();
@@ -139,7 +119,7 @@ Or<std::optional<CachedPPD>> fetchPPD(ServerConnection &server, const QString &q
 
 Or<bool> hasPPDChanged(ServerConnection &server, const QString &queue, const CachedPPD &known)
 {
-    const auto file = download(server, queue, known.asOf);
+    const auto file = server.download(resourceOf(queue), known.asOf);
     if (!file && file.problem().kind == Problem::Kind::notFound)
         return true;
     if (!file)

@@ -19,8 +19,7 @@ void addOptions(printing::CupsOptions &options, const Job &job)
 {
     for (const auto &[key, value] : job.options.asKeyValueRange())
         options.add(key.toUtf8().constData(), value.toUtf8().constData());
-    if (job.copies > 1)
-        options.add("copies", QByteArray::number(job.copies).constData());
+    options.add("copies", QByteArray::number(job.copies).constData()); // one as well: a queue may have another default
     if (!job.pages.isEmpty())
         options.add("page-ranges", job.pages.toUtf8().constData());
 }
@@ -110,13 +109,6 @@ Or<void> SentJob::sendDocument(int id, const JobProgress &progress)
     return answer ? Or<void>() : answer.problem();
 }
 
-Problem withReason(Problem problem, const std::stop_token &stop)
-{
-    if (stop.stop_requested())
-        problem.sentence = ServerConnection::tr("cancelled");
-    return problem;
-}
-
 } // namespace
 
 Or<void> cancelJob(int id, std::chrono::milliseconds patience)
@@ -136,14 +128,14 @@ Or<int> sendJob(const JobOrder &order, const JobMade &made, const JobProgress &p
 {
     SentJob job(order, stop);
     if (const auto found = job.findQueue(); !found)
-        return withReason(found.problem(), stop);
+        return found.problem();
     made(0);
     const auto id = job.make();
     if (!id)
-        return withReason(id.problem(), stop);
+        return id;
     made(*id);
     if (const auto sent = job.sendDocument(*id, progress); !sent)
-        return Problem{withReason(sent.problem(), stop).sentence, Problem::Kind::unanswered};
+        return Problem{sent.problem().sentence, Problem::Kind::unanswered};
     return *id;
 }
 

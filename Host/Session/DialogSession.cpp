@@ -84,11 +84,9 @@ DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDo
 
 DialogSession::~DialogSession()
 {
-    if (!m_principal)
-        return;
     m_panels = &kNoPanels; // the panels' last words are reported to nobody
-    m_principal.reset();
-    --startedSessions;
+    if (m_principal)
+        --startedSessions;
 }
 
 void DialogSession::start(Prepare what)

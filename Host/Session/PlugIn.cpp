@@ -48,8 +48,7 @@ std::optional<QString> findBundle(const std::optional<QString> &dialogExtension)
         for (const QString &bundle : bundles)
             all.append(directory.filePath(bundle));
     }
-    const auto fitting = all.size() > 1 ? std::ranges::find_if(all, isForThisHost) : all.begin();
-    if (fitting != all.end())
+    if (const auto fitting = std::ranges::find_if(all, isForThisHost); fitting != all.end())
         return *fitting;
     return all.isEmpty() ? std::nullopt : std::optional(all.first()); // which then says what is wrong with it
 }

@@ -77,7 +77,9 @@ QByteArray printer(int port)
            attribute(0x45, "printer-uri-supported",
                      "ipp://127.0.0.1:" + QByteArray::number(port) + "/printers/counter") +
            attribute(0x23, "printer-state", number(3, 4)) + attribute(0x22, "printer-is-accepting-jobs", "\x01") +
-           attribute(0x23, "printer-type", number(4, 4)) + attribute(0x45, "device-uri", "usb://Qn/Thermal?serial=1");
+           attribute(0x23, "printer-type", number(4, 4)) + attribute(0x45, "device-uri", "usb://Qn/Thermal?serial=1") +
+           attribute(0x44, "media-supported", "iso_a4_210x297mm") + attribute(0x44, "", "na_letter_8.5x11in") +
+           attribute(0x44, "", "om_ticket_80x200mm");
 }
 
 QByteArray answerTo(Step step, quint32 request, int port)
@@ -292,6 +294,7 @@ bool misbehave(const Connection &connection, Mode mode, const QByteArray &body, 
     case Mode::password: return status("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n");
     case Mode::upgrade: return status("426 Upgrade Required", "Upgrade: TLS/1.2\r\nConnection: Upgrade\r\n");
     case Mode::error: return status("500 Internal");
+    case Mode::notFound: return status("404 Not Found");
     case Mode::unknownHttpStatus: return status("4010 Odd");
     case Mode::unknownStatus: return connection.say(http(head(request, 0x7379) + kEnd, type));
     case Mode::refusal:
@@ -325,20 +328,20 @@ MisbehavingServer::MisbehavingServer(QMap<Step, Mode> faults)
     m_listener = std::jthread([this](const std::stop_token &stop) { listen(stop); });
 }
 
+MisbehavingServer::Served::~Served()
+{
+    ::shutdown(socket, SHUT_RDWR);
+    thread.join();
+    ::close(socket);
+}
+
 MisbehavingServer::~MisbehavingServer()
 {
     m_listener.request_stop();
     ::shutdown(m_socket, SHUT_RDWR);
     m_listener.join();
     ::close(m_socket);
-    {
-        const std::scoped_lock lock(m_mutex);
-        for (const int connection : m_connections)
-            ::shutdown(connection, SHUT_RDWR);
-    }
-    m_threads.clear();
-    for (const int connection : m_connections)
-        ::close(connection);
+    m_connections.clear();
 }
 
 QProcessEnvironment MisbehavingServer::environment() const
@@ -371,6 +374,7 @@ QList<Step> MisbehavingServer::asked() const
     return m_asked;
 }
 
+/// Some answers have the library connect again and again: what has ended is let go, or threads and files would run out.
 void MisbehavingServer::listen(const std::stop_token &stop)
 {
     while (!stop.stop_requested()) {
@@ -379,11 +383,12 @@ void MisbehavingServer::listen(const std::stop_token &stop)
             continue;
         const int one = 1;
         ::setsockopt(connection, IPPROTO_TCP, TCP_NODELAY, &one, sizeof(one));
-        const std::scoped_lock lock(m_mutex);
-        m_connections.push_back(connection);
-        m_threads.emplace_back([this, connection] {
-            serve(connection);
-            ::shutdown(connection, SHUT_RDWR);
+        m_connections.remove_if([](const Served &each) { return each.hasEnded.load(); });
+        Served &served = m_connections.emplace_back(connection);
+        served.thread = std::thread([this, &served] {
+            serve(served.socket);
+            ::shutdown(served.socket, SHUT_RDWR);
+            served.hasEnded = true;
         });
     }
 }

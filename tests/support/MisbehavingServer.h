@@ -8,9 +8,10 @@
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 
+#include <atomic>
+#include <list>
 #include <mutex>
 #include <thread>
-#include <vector>
 
 namespace support {
 
@@ -42,6 +43,7 @@ public:
         password,
         upgrade,
         error,
+        notFound,
         unknownHttpStatus,
         unknownStatus,
         refusal, // with words that would do harm on a terminal
@@ -63,6 +65,19 @@ public:
     bool wasAsked(Step step) const { return asked().contains(step); }
 
 private:
+    /// A connection and the thread that serves it.
+    struct Served
+    {
+        explicit Served(int connection)
+            : socket(connection)
+        {}
+        ~Served();
+
+        int socket;
+        std::atomic<bool> hasEnded = false;
+        std::thread thread;
+    };
+
     void listen(const std::stop_token &stop);
     void serve(int connection);
 
@@ -72,8 +87,7 @@ private:
     int m_port = 0;
     mutable std::mutex m_mutex;
     QList<Step> m_asked;
-    std::vector<int> m_connections;
-    std::vector<std::jthread> m_threads;
+    std::list<Served> m_connections; // the listener's
     std::jthread m_listener;
 };
 

@@ -678,10 +678,6 @@
         <translation>nimmt keine Aufträge an</translation>
     </message>
     <message>
-        <source>cancelled</source>
-        <translation>abgebrochen</translation>
-    </message>
-    <message>
         <source>%1 is stopped</source>
         <translation>%1 ist angehalten</translation>
     </message>

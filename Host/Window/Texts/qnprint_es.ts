@@ -678,10 +678,6 @@
         <translation>no acepta trabajos</translation>
     </message>
     <message>
-        <source>cancelled</source>
-        <translation>cancelado</translation>
-    </message>
-    <message>
         <source>%1 is stopped</source>
         <translation>%1 está detenida</translation>
     </message>

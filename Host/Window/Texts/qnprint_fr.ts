@@ -678,10 +678,6 @@
         <translation>n’accepte pas de tâches</translation>
     </message>
     <message>
-        <source>cancelled</source>
-        <translation>annulé</translation>
-    </message>
-    <message>
         <source>%1 is stopped</source>
         <translation>%1 est arrêtée</translation>
     </message>

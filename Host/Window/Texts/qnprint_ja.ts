@@ -678,10 +678,6 @@
         <translation>ジョブを受け付けません</translation>
     </message>
     <message>
-        <source>cancelled</source>
-        <translation>キャンセルしました</translation>
-    </message>
-    <message>
         <source>%1 is stopped</source>
         <translation>%1 は停止中</translation>
     </message>

@@ -678,10 +678,6 @@
         <translation>不接受作业</translation>
     </message>
     <message>
-        <source>cancelled</source>
-        <translation>已取消</translation>
-    </message>
-    <message>
         <source>%1 is stopped</source>
         <translation>%1 已停止</translation>
     </message>

@@ -452,35 +452,59 @@ struct Ending
 
 void PrintTo(const Ending &row, std::ostream *out) { *out << row.name; }
 
-class Endings : public CupsPrinting, public testing::WithParamInterface<Ending>
+class EndingWhileSending : public CupsPrinting
+{
+protected:
+    /// Begins to send a large document.
+    void begin()
+    {
+        ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0); // nothing of the job may be printed before
+        const QString large = m_server.path("tmp/large.txt");
+        QFile file(large);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_TRUE(file.resize(0) && file.write(QByteArray(64 << 20, 'x')));
+        file.close();
+        m_program.setProcessEnvironment(m_server.environment());
+        m_program.start(QN_PROGRAM, {"--no-dialog", "-d", "counter", large});
+        const auto isReceiving = [this] { return m_server.log().contains("Send-Document"); };
+        for (int i = 0; i < 1000 && !isReceiving(); ++i)
+            QThread::msleep(5);
+        ASSERT_TRUE(isReceiving());
+    }
+    void signal(int number) { ::kill(static_cast<pid_t>(m_program.processId()), number); }
+    /// What the server has of the document.
+    qint64 bytesReceived() const
+    {
+        const auto files = QDir(m_server.path("spool")).entryInfoList(QDir::Files, QDir::Size); // the largest first
+        return files.isEmpty() ? 0 : files.first().size();
+    }
+    bool isGone() const { return m_server.openJobs().isEmpty() && m_server.spooled().isEmpty(); }
+    /// After a kill, what talks with the server finds itself alone and takes the job back.
+    bool waitUntilItIsGone() const
+    {
+        for (int i = 0; i < 100 && !isGone(); ++i)
+            QThread::msleep(100);
+        return isGone();
+    }
+
+    QProcess m_program;
+};
+
+class Endings : public EndingWhileSending, public testing::WithParamInterface<Ending>
 {};
 
 TEST_P(Endings, LeaveNoJobBehind)
 {
-    ASSERT_EQ(m_server.run("cupsdisable", {"counter"}), 0); // nothing of the job may be printed before
-    const QString large = m_server.path("tmp/large.txt");
-    QFile file(large);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.resize(0) && file.write(QByteArray(64 << 20, 'x')));
-    file.close();
-    QProcess program;
-    program.setProcessEnvironment(m_server.environment());
-    program.start(QN_PROGRAM, {"--no-dialog", "-d", "counter", large});
-    const auto isReceiving = [this] { return m_server.log().contains("Send-Document"); };
-    for (int i = 0; i < 1000 && !isReceiving(); ++i)
-        QThread::msleep(5);
-    ASSERT_TRUE(isReceiving());
-    ::kill(static_cast<pid_t>(program.processId()), GetParam().signal);
-    ASSERT_TRUE(program.waitForFinished(20000));
-    if (GetParam().signal != SIGKILL) {
-        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-        EXPECT_EQ(program.exitCode(), 1);
-        EXPECT_TRUE(program.readAllStandardError().endsWith("qnprint: counter: cancelled; nothing was printed\n"));
+    begin();
+    signal(GetParam().signal);
+    ASSERT_TRUE(m_program.waitForFinished(20000));
+    if (GetParam().signal == SIGKILL) {
+        EXPECT_TRUE(waitUntilItIsGone());
+        return;
     }
-    // After a kill, what talks with the server finds itself alone and takes the job back.
-    const auto isGone = [this] { return m_server.openJobs().isEmpty() && m_server.spooled().isEmpty(); };
-    for (int i = 0; i < 100 && GetParam().signal == SIGKILL && !isGone(); ++i)
-        QThread::msleep(100);
+    EXPECT_EQ(m_program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(m_program.exitCode(), 1);
+    EXPECT_TRUE(m_program.readAllStandardError().endsWith("qnprint: counter: cancelled; nothing was printed\n"));
     EXPECT_TRUE(isGone());
 }
 
@@ -488,5 +512,18 @@ INSTANTIATE_TEST_SUITE_P(By, Endings,
                          testing::Values(Ending{"Interrupt", SIGINT}, Ending{"Terminate", SIGTERM},
                                          Ending{"HangUp", SIGHUP}, Ending{"Kill", SIGKILL}),
                          [](const auto &row) { return row.param.name; });
+
+TEST_F(EndingWhileSending, LeavesNoJobBehindWhenWhatItWasToldIsUnread)
+{
+    begin();
+    signal(SIGSTOP); // what is told from now on nobody reads
+    const qint64 enough = bytesReceived() + (1 << 20);
+    for (int i = 0; i < 4000 && bytesReceived() < enough; ++i)
+        QThread::msleep(5);
+    ASSERT_GE(bytesReceived(), enough);
+    signal(SIGKILL);
+    ASSERT_TRUE(m_program.waitForFinished(20000));
+    EXPECT_TRUE(waitUntilItIsGone());
+}
 
 } // namespace
