@@ -29,7 +29,7 @@ protected:
 TEST_F(TheCommand, SaysOfEveryOptionWhatItTakesAndWhatItIsFor)
 {
     ASSERT_EQ(run({"--help"}), 0);
-    EXPECT_TRUE(m_output.section('\n', 0, 0).endsWith(" [options] [file]")) << m_output.toStdString();
+    EXPECT_TRUE(m_output.section('\n', 0, 0).endsWith(" [options] [file...]")) << m_output.toStdString();
     // Names in the first column, words in the second, which also goes on in further lines.
     static const QRegularExpression entry(R"(^  (-\S.*?)(?: {2,}(\S.*)| *)$)", QRegularExpression::MultilineOption);
     QStringList options;
