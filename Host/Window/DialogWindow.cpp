@@ -314,6 +314,7 @@ void DialogWindow::chooseFiles()
 /// No larger than the screen; the settings scroll then, and what prints and cancels stays.
 void DialogWindow::fitToScreen()
 {
+    m_ui->settings->layout()->activate(); // or it still counts what was hidden
     const QSize room = screen()->availableSize() - QSize(0, kHeightOfFrame);
     const bool scrolls = sizeHint().height() > room.height();
     const QSize wanted = sizeHint() + QSize(scrolls ? m_ui->scroller->widthOfBar() : 0, 0);

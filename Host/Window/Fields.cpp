@@ -4,6 +4,7 @@
 #include "Foundation/PlainText.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -37,9 +38,19 @@ FittingScrollArea::FittingScrollArea(QWidget *parent)
     : QScrollArea(parent)
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Of itself it brings only that into sight which the focus comes to from within.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && widget() && widget()->isAncestorOf(now))
+            ensureWidgetVisible(now, 0, 0);
+    });
 }
 
-QSize FittingScrollArea::sizeHint() const { return widget() ? widget()->sizeHint() : QScrollArea::sizeHint(); }
+/// No wider than it needs be: the panel sets the width, and what stands above it makes do with that.
+QSize FittingScrollArea::sizeHint() const
+{
+    return widget() ? QSize(widget()->minimumSizeHint().width(), widget()->sizeHint().height())
+                    : QScrollArea::sizeHint();
+}
 
 QSize FittingScrollArea::minimumSizeHint() const
 {

@@ -108,9 +108,10 @@ Screen::~Screen()
             end(*process);
 }
 
-std::optional<QString> Screen::start()
+std::optional<QString> Screen::start(const QSize &size)
 {
-    m_display.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"});
+    const QString screen = QString("%1x%2x24").arg(size.width()).arg(size.height());
+    m_display.start("Xvfb", {"-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset"});
     if (!m_display.waitForStarted(kMilliseconds) || !m_display.waitForReadyRead(kMilliseconds))
         return QString("Xvfb can't be started: %1").arg(m_display.errorString());
     m_displayName = ':' + QString::fromLatin1(m_display.readLine().trimmed());

@@ -36,7 +36,7 @@ public:
     Screen &operator=(const Screen &) = delete;
 
     /// Nil when it stands; otherwise one sentence that says why not.
-    std::optional<QString> start();
+    std::optional<QString> start(const QSize &size = {1280, 900});
 
     /// An environment, with what a program needs to show itself here.
     QProcessEnvironment extended(QProcessEnvironment environment) const;
