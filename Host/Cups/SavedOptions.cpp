@@ -22,6 +22,7 @@ using foundation::Problem;
 namespace {
 
 constexpr int kMillisecondsToLock = 2000;
+constexpr qint64 kLargestFile = qint64{4} * 1024 * 1024;
 constexpr auto kNewFile = ".qnprint-new"; // behind the name
 constexpr qsizetype kLongestName = 127;
 
@@ -91,12 +92,12 @@ QString userFile() { return QDir::homePath() + "/.cups/lpoptions"; }
 /// No lines when there is no file; nil when there is one that can't be read.
 std::optional<QByteArrayList> linesOf(const QString &path)
 {
-    QFile file(path);
-    if (!file.exists())
+    if (!QFileInfo::exists(path))
         return QByteArrayList();
-    if (!file.open(QIODevice::ReadOnly))
+    const auto file = foundation::openRegularFile(path);
+    if (!file || (*file)->size() > kLargestFile)
         return std::nullopt;
-    QByteArrayList lines = file.readAll().split('\n');
+    QByteArrayList lines = (*file)->readAll().split('\n');
     if (lines.last().isEmpty())
         lines.removeLast();
     return lines;

@@ -5,6 +5,7 @@
 #include "PrinterFinder.h"
 
 #include "Foundation/Locale.h"
+#include "Foundation/PlainText.h"
 #include "Foundation/UserDefaults.h"
 #include "Jobs/PageRanges.h"
 #include "Printing/Units.h"
@@ -57,6 +58,8 @@ PrintDialog::PrintDialog(PrintRequest request, std::shared_ptr<Document> documen
     connect(m_finder, &PrinterFinder::failed, this,
             [this](const Problem &problem) { whenFree([this, problem] { finderFailed(problem); }); });
     connect(m_finder, &PrinterFinder::foundAll, this, &PrintDialog::finderFoundAll);
+    connect(m_finder, &PrinterFinder::failedAll, this,
+            [this](const Problem &problem) { whenFree([this, problem] { finderFailedAll(problem); }); });
 }
 
 PrintDialog::~PrintDialog() = default;
@@ -82,7 +85,7 @@ Or<void> PrintDialog::start()
 
 QString PrintDialog::jobTitle() const
 {
-    return m_request.title.isEmpty() ? m_documents.front()->title() : m_request.title;
+    return foundation::plainLine(m_request.title.isEmpty() ? m_documents.front()->title() : m_request.title);
 }
 
 bool PrintDialog::canPrint() const { return m_state == State::ready && m_target->takesJobs() && !m_documents.empty(); }
@@ -191,11 +194,14 @@ void PrintDialog::finderFailed(const Problem &problem)
                             : problem.sentence);
     setState(State::noPrinter);
     askForCredentials(problem, [this] { look(m_wanted, m_carried); });
+    if (problem.kind == Problem::Kind::noChoice && m_hasAllPrinters)
+        chooseAmong(m_printers);
 }
 
 void PrintDialog::lookForOthers()
 {
-    if (m_asksServer && !m_hasAllPrinters)
+    const bool isRefused = m_state == State::noPrinter && m_problem.kind == Problem::Kind::noAccess;
+    if (m_asksServer && !m_hasAllPrinters && !isRefused)
         m_finder->findAll();
 }
 
@@ -206,6 +212,13 @@ void PrintDialog::finderFoundAll(const Queues &queues)
     offerPrinters(queues.queues, m_state == State::looking || !m_target ? wanted : m_target->name());
     if (m_state == State::noPrinter && m_problem.kind == Problem::Kind::noChoice)
         chooseAmong(queues.queues);
+}
+
+/// Without a printer there is nothing but that choice; with one, the others are not missed.
+void PrintDialog::finderFailedAll(const Problem &problem)
+{
+    if (m_state == State::noPrinter && m_problem.kind == Problem::Kind::noChoice)
+        finderFailed(problem);
 }
 
 /// Nobody has said which: the only one, or the person says.
@@ -364,8 +377,12 @@ void PrintDialog::savePreset(const QString &name)
         return say(About::settings, saved.problem().sentence);
     m_restored = settings();
     Q_EMIT presetsChanged();
-    say(About::settings, name.isEmpty() ? tr("Saved as your defaults for %1.").arg(m_target->name())
-                                        : tr("Saved as “%1” for %2.").arg(name, m_target->name()));
+    if (!name.isEmpty())
+        say(About::settings, tr("Saved as “%1” for %2.").arg(name, m_target->name()));
+    else
+        say(About::settings, (m_amount.copies == 1 ? tr("Saved as your defaults for %1.")
+                                                   : tr("Saved as your defaults for %1, without the number of copies."))
+                                 .arg(m_target->name()));
 }
 
 void PrintDialog::removePreset()
@@ -420,6 +437,7 @@ void PrintDialog::print()
     }
     m_pagesToSend = *pages;
     m_refusedCredentials = 0;
+    m_hasSentOne = false;
     send();
 }
 
@@ -473,8 +491,11 @@ void PrintDialog::sendNext()
 void PrintDialog::finish(const Or<QString> &sent)
 {
     m_job = {};
-    if (!sent)
-        return fail(sent.problem());
+    const Problem stopped{tr("Cancelled. What is left was not printed.")};
+    if (!sent) // without an answer the job was taken back
+        return fail(m_isStopping && m_hasSentOne && sent.problem().kind == Problem::Kind::unanswered ? stopped
+                                                                                                     : sent.problem());
+    m_hasSentOne = true;
     m_refusedCredentials = 0;
     rememberPrinter();
     const QString fate = m_target->fateOf(jobTitle());
@@ -482,7 +503,7 @@ void PrintDialog::finish(const Or<QString> &sent)
     Q_EMIT documentsChanged();
     Q_EMIT printed(*sent, fate);
     if (!m_documents.empty() && m_isStopping) // the stop came too late for this one
-        return fail({tr("Cancelled. What is left was not printed.")});
+        return fail(stopped);
     if (!m_documents.empty())
         return sendNext();
     say(About::job, {});

@@ -130,6 +130,7 @@ private:
     void finderFound(const Queue &queue);
     void finderFailed(const foundation::Problem &problem);
     void finderFoundAll(const Queues &queues);
+    void finderFailedAll(const foundation::Problem &problem);
     void chooseAmong(const std::vector<QueueEntry> &printers);
     QueueName lastPrinter() const;
     void rememberPrinter() const;
@@ -147,6 +148,7 @@ private:
     PrintRequest m_request;
     std::vector<std::shared_ptr<Document>> m_documents;
     bool m_isStopping = false;
+    bool m_hasSentOne = false; // of the documents that are printed now
     int m_refusedCredentials = 0;
     std::function<void()> m_again; // what credentials are wanted for
     QString m_pagesToSend;         // in the form that servers take

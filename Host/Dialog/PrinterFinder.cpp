@@ -46,6 +46,8 @@ void PrinterFinder::findAll()
         [this](const Or<Queues> &queues) {
             if (queues)
                 Q_EMIT foundAll(*queues);
+            else
+                Q_EMIT failedAll(queues.problem());
         });
 }
 

@@ -16,13 +16,14 @@ public:
 
     /// Answers once, with `found` or with `failed`. Drops what an earlier call has not found yet.
     void find(const QueueName &name);
-    /// Answers with `foundAll`, or not at all: without the others a printer that is known by its name still serves.
+    /// Answers with `foundAll` or with `failedAll`.
     void findAll();
 
 Q_SIGNALS:
     void found(const host::Queue &queue);
     void failed(const foundation::Problem &problem);
     void foundAll(const host::Queues &queues);
+    void failedAll(const foundation::Problem &problem);
 
 private:
     void answer(const foundation::Or<Queue> &queue);

@@ -2,6 +2,7 @@
 // who watches the folder meets half a job.
 #include "FolderSink.h"
 
+#include "Foundation/PlainText.h"
 #include "Foundation/RegularFile.h"
 
 #include <QDateTime>
@@ -106,7 +107,7 @@ bool writeTicket(QTemporaryFile &ticket, const QByteArray &text)
 /// A file name from a title: nothing that leaves the folder or hides in it.
 QString baseName(const QString &title)
 {
-    QString base = QFileInfo(title).completeBaseName().replace('/', '_');
+    QString base = QFileInfo(foundation::plainLine(title).replace('/', '_')).completeBaseName();
     while (base.startsWith('.'))
         base.remove(0, 1);
     base.truncate(kLongestBaseName);

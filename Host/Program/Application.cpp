@@ -18,7 +18,7 @@ namespace {
 
 struct QtArgumentRow
 {
-    const char *name; // behind one dash or two
+    const char *name = nullptr; // behind one dash or two
     bool takesNext = false;
     bool takesJoined = false; // behind "="
 };

@@ -20,12 +20,12 @@ enum class Completion { nothing, ppdFile, folder, queue };
 
 struct OptionRow
 {
-    const char *letter; // "d" of `-d`
-    const char *word;   // "destination" of `--destination`
-    const char *value;  // what it takes is called
-    const char *fallback;
-    const char *description; // one sentence, for the help as well
-    const char *more;        // only in the manual page
+    const char *letter = nullptr; // "d" of `-d`
+    const char *word = nullptr;   // "destination" of `--destination`
+    const char *value = nullptr;  // what it takes is called
+    const char *fallback = nullptr;
+    const char *description = nullptr; // one sentence, for the help as well
+    const char *more = nullptr;        // only in the manual page
     Completion completion = Completion::nothing;
     bool isRepeated = false;
 };

@@ -2,6 +2,7 @@
 #include "Certificate.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <array>
 #include <gnutls/gnutls.h>
@@ -30,10 +31,10 @@ public:
     /// CUPS has a place for each person's, and for the system's beside its configuration, wherever that is.
     static Shown keptFor(const char *server)
     {
-        const QByteArray system = qgetenv("CUPS_SERVERROOT") + "/ssl";
+        const QString system = qEnvironmentVariable("CUPS_SERVERROOT", QN_CUPS_SERVERROOT) + "/ssl";
         cups_array_t *list = nullptr;
         if (httpLoadCredentials(nullptr, &list, server) != 0)
-            httpLoadCredentials(system.constData(), &list, server);
+            httpLoadCredentials(QFile::encodeName(system).constData(), &list, server);
         return Shown(list);
     }
     ~Shown() { httpFreeCredentials(m_list); }

@@ -172,7 +172,7 @@ Problem ServerConnection::problem() const
 {
     if (!m_http)
         return {tr("no CUPS server answers"), Problem::Kind::noService};
-    if (m_lacksPassword)
+    if (m_lacksPassword || (m_hasSaidPassword && httpGetStatus(m_http.get()) == HTTP_STATUS_FORBIDDEN))
         return accessProblem();
     if (hasRefused())
         return {foundation::plainLine(QString::fromUtf8(cupsLastErrorString()))};

@@ -139,7 +139,10 @@ void DialogWindow::connectFields()
     connect(m_ui->retry, &QPushButton::clicked, &m_dialog, &PrintDialog::lookAgain);
     connect(m_ui->choose, &QPushButton::clicked, this, &DialogWindow::chooseFiles);
     connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::unfold);
-    connect(m_ui->buttons, &QDialogButtonBox::accepted, &m_dialog, &PrintDialog::print);
+    connect(m_ui->buttons, &QDialogButtonBox::accepted, this, [this] {
+        if (m_paper->commit())
+            m_dialog.print();
+    });
     connect(m_ui->buttons, &QDialogButtonBox::rejected, this, &DialogWindow::reject);
 }
 
@@ -247,8 +250,12 @@ void DialogWindow::showInPlaceOfPanel()
 void DialogWindow::showState()
 {
     const auto state = m_dialog.state();
-    setSending(state == PrintDialog::State::sending);
+    const bool isSending = state == PrintDialog::State::sending;
+    if (isSending)
+        setSending(true); // before the button goes that may have the focus
     m_print->setEnabled(m_dialog.canPrint());
+    if (!isSending)
+        setSending(false); // when what had it can have it again
     m_ui->retry->setVisible(m_dialog.canLookAgain());
     if (state != PrintDialog::State::sending && state != PrintDialog::State::looking)
         m_dialog.lookForOthers();

@@ -117,6 +117,7 @@ void LengthBox::setLimits(double least, double most)
     setCorrectionMode(CorrectToNearestValue);
     setRange(least, most);
     setToolTip(limits());
+    setAccessibleDescription(limits());
 }
 
 QString LengthBox::limits() const
@@ -124,10 +125,27 @@ QString LengthBox::limits() const
     return tr("%1 to %2", "two lengths").arg(textFromValue(minimum()), textFromValue(maximum()) + suffix());
 }
 
+/// Of itself it takes no further digit once a number is too large, and says nothing of it.
+QValidator::State LengthBox::validate(QString &input, int &at) const
+{
+    const QValidator::State state = QDoubleSpinBox::validate(input, at);
+    return state == QValidator::Invalid && typed(input) ? QValidator::Intermediate : state;
+}
+
+/// What is no number at all becomes again what it was.
 void LengthBox::fixup(QString &input) const
 {
-    Q_EMIT corrected(input);
-    QDoubleSpinBox::fixup(input);
+    const std::optional<double> length = typed(input);
+    if (length)
+        Q_EMIT corrected(textFromValue(*length) + suffix());
+    input = textFromValue(qBound(minimum(), length.value_or(value()), maximum())) + suffix();
+}
+
+std::optional<double> LengthBox::typed(QString input) const
+{
+    bool isNumber = false;
+    const double length = locale().toDouble(input.remove(suffix()).trimmed(), &isNumber);
+    return isNumber ? std::optional(length) : std::nullopt;
 }
 
 void keepFromWheel(QWidget &field)

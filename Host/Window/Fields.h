@@ -5,6 +5,8 @@
 #include <QDoubleSpinBox>
 #include <QScrollArea>
 
+#include <optional>
+
 namespace host {
 
 /// As large as what it holds where the screen has room, else scrolling up and down; never sideways.
@@ -40,8 +42,8 @@ private:
     QString elided() const;
 };
 
-/// A length between limits, which its tool tip names. One that is typed outside them becomes the nearest limit, and is
-/// told of.
+/// A length between limits, which its tool tip and its description name. One that is typed outside them becomes the
+/// nearest limit, and is told of.
 class LengthBox : public QDoubleSpinBox
 {
     Q_OBJECT
@@ -51,10 +53,14 @@ public:
     void setLimits(double least, double most);
     /// "25 to 216 mm"
     QString limits() const;
+    QValidator::State validate(QString &input, int &at) const override;
     void fixup(QString &input) const override;
 
 Q_SIGNALS:
     void corrected(const QString &typed) const;
+
+private:
+    std::optional<double> typed(QString input) const;
 };
 
 /// From now on the wheel moves a menu or a number only while it has the focus: whoever scrolls past it changes nothing.

@@ -13,6 +13,12 @@
 
 namespace host {
 
+namespace {
+
+constexpr int kMillisecondsToRead = 1000;
+
+} // namespace
+
 PaperChooser::PaperChooser(const Parts &parts, QObject *parent)
     : QObject(parent)
     , m_parts(parts)
@@ -25,7 +31,7 @@ PaperChooser::PaperChooser(const Parts &parts, QObject *parent)
             m_correction =
                 tr("The printer does not take %1, but %2.", "a length, and limits").arg(typed, side->limits());
         });
-        connect(side, &QDoubleSpinBox::editingFinished, this, &PaperChooser::choose);
+        connect(side, &QDoubleSpinBox::editingFinished, this, &PaperChooser::chooseOther);
     }
     m_parts.ownSize->hide();
     connect(m_parts.papers, &QComboBox::activated, this, &PaperChooser::choose);
@@ -45,6 +51,7 @@ void PaperChooser::offer(const PrintTarget &target)
         m_parts.width->setValue(chosen.size->width / m_pointsPerUnit);
         m_parts.height->setValue(chosen.size->height / m_pointsPerUnit);
     }
+    m_settled = sides();
     showSides();
 }
 
@@ -68,9 +75,28 @@ void PaperChooser::showSides()
     m_parts.ownSize->setVisible(m_parts.papers->currentData() == printing::kUserDefinedPaper);
 }
 
+/// Whoever only walks through the fields changes nothing: they show a size rounded.
+void PaperChooser::chooseOther()
+{
+    if (sides() != m_settled || !m_correction.isEmpty())
+        choose();
+}
+
+bool PaperChooser::commit()
+{
+    for (LengthBox *const side : {m_parts.width, m_parts.height})
+        side->interpretText();
+    if (m_parts.ownSize->isVisibleTo(m_parts.ownSize->parentWidget()))
+        chooseOther();
+    return !m_corrected.isValid() || m_corrected.elapsed() >= kMillisecondsToRead;
+}
+
+std::pair<double, double> PaperChooser::sides() const { return {m_parts.width->value(), m_parts.height->value()}; }
+
 void PaperChooser::choose()
 {
     showSides();
+    m_settled = sides();
     const int index = m_parts.papers->currentIndex();
     if (index < 0)
         return;
@@ -79,8 +105,10 @@ void PaperChooser::choose()
                                                                             m_parts.height->value() * m_pointsPerUnit}
                                                           : m_papers[static_cast<std::size_t>(index)].size;
     Q_EMIT chose({name, size});
-    if (!m_correction.isEmpty())
-        Q_EMIT corrected(std::exchange(m_correction, {}));
+    if (m_correction.isEmpty())
+        return;
+    m_corrected.start();
+    Q_EMIT corrected(std::exchange(m_correction, {}));
 }
 
 } // namespace host

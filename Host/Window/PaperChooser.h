@@ -3,6 +3,7 @@
 
 #include "Dialog/PrintTarget.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 
 class QComboBox;
@@ -30,6 +31,9 @@ public:
     /// Shows the papers of a printer with the chosen one selected; nothing is reported.
     void offer(const PrintTarget &target);
     bool isEmpty() const;
+    /// Takes what stands in the fields, before it is printed. False when a size was corrected just now, and nobody can
+    /// have read of it.
+    bool commit();
 
 Q_SIGNALS:
     void chose(const host::ChosenPaper &paper); // a person did
@@ -40,9 +44,13 @@ private:
     void offerOwnSize(const CustomSizeLimits &limits);
     void showSides();
     void choose();
+    void chooseOther();
+    std::pair<double, double> sides() const;
 
     Parts m_parts;
-    QString m_correction; // that the next choice tells of
+    std::pair<double, double> m_settled; // the sides that the printer has, as the fields show them
+    QElapsedTimer m_corrected;           // runs since the last correction
+    QString m_correction;                // that the next choice tells of
     double m_pointsPerUnit;
     std::vector<PaperEntry> m_papers;
 };

@@ -98,8 +98,8 @@ if [ $# -eq 0 ]; then exit 0; fi
 cat "${6:--}" >/dev/null
 )";
 
-/// With the port, the level of the log, how to authenticate, when to encrypt, and who may
-/// look, administrate and print.
+/// With the port, the level of the log, how to authenticate, when to encrypt, and who may look
+/// and administrate, and further limits.
 constexpr auto kConfiguration = R"(Listen 127.0.0.1:%1
 LogLevel %2
 AccessLogLevel all
@@ -151,15 +151,20 @@ QByteArray CupsServer::serverConfiguration() const
 {
     using Guards = Setup::Guards;
     const QString open = "Order allow,deny\nAllow all\n";
-    const QString guarded = open + "AuthType Basic\nRequire valid-user\n";
+    const QString whoMay = m_setup.mayPrint ? QString("user ") + m_setup.mayPrint : QString("valid-user");
+    const QString guarded = open + "AuthType Basic\nRequire " + whoMay + '\n';
     const QString looking = m_setup.guards == Guards::everything ? guarded : open;
-    const QString printing =
-        m_setup.guards == Guards::printing ? "<Limit Create-Job Send-Document>\n" + guarded + "</Limit>\n" : QString();
+    const auto limit = [&](const char *operations) {
+        return QString("<Limit ") + operations + ">\n" + guarded + "</Limit>\n";
+    };
+    const QString more = m_setup.guards == Guards::printing  ? limit("Create-Job Send-Document")
+                         : m_setup.guards == Guards::listing ? limit("CUPS-Get-Printers")
+                                                             : QString();
     // What the server may write is limited: then its log must be short, as it is a file too.
     const QString log = m_setup.largestFile ? "error" : "debug";
     return QString(kConfiguration)
         .arg(QString::number(m_port), log, m_setup.guards == Guards::nothing ? "None" : "Basic",
-             m_setup.isEncrypted ? "Required" : "Never", looking, open, printing)
+             m_setup.isEncrypted ? "Required" : "Never", looking, open, more)
         .toUtf8();
 }
 

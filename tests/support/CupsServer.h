@@ -22,8 +22,9 @@ public:
 
     struct Setup
     {
-        enum class Guards { nothing, printing, everything };
+        enum class Guards { nothing, listing, printing, everything };
         Guards guards = Guards::nothing; // what it asks for a password for: `kUser`, `kPassword`
+        const char *mayPrint = nullptr;  // nil: whoever says the password
         bool isEncrypted = false;        // with a certificate of its own making
         int largestFile = 0;             // in KiB, for everything that the server writes; 0: no limit
     };

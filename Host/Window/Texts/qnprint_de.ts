@@ -526,6 +526,10 @@
         <source>Cancelled. What is left was not printed.</source>
         <translation>Abgebrochen. Der Rest wurde nicht gedruckt.</translation>
     </message>
+    <message>
+        <source>Saved as your defaults for %1, without the number of copies.</source>
+        <translation>Als Ihr Standard für %1 gesichert, ohne die Zahl der Kopien.</translation>
+    </message>
 </context>
 <context>
     <name>host::PrintTarget</name>

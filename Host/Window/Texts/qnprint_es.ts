@@ -526,6 +526,10 @@
         <source>Cancelled. What is left was not printed.</source>
         <translation>Cancelado. El resto no se ha imprimido.</translation>
     </message>
+    <message>
+        <source>Saved as your defaults for %1, without the number of copies.</source>
+        <translation>Guardado como sus valores predeterminados para %1, sin el número de copias.</translation>
+    </message>
 </context>
 <context>
     <name>host::PrintTarget</name>

@@ -526,6 +526,10 @@
         <source>Cancelled. What is left was not printed.</source>
         <translation>Annulé. Le reste n’a pas été imprimé.</translation>
     </message>
+    <message>
+        <source>Saved as your defaults for %1, without the number of copies.</source>
+        <translation>Enregistré comme vos réglages par défaut pour %1, sans le nombre de copies.</translation>
+    </message>
 </context>
 <context>
     <name>host::PrintTarget</name>

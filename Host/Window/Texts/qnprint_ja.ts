@@ -526,6 +526,10 @@
         <source>Cancelled. What is left was not printed.</source>
         <translation>キャンセルしました。残りは印刷されていません。</translation>
     </message>
+    <message>
+        <source>Saved as your defaults for %1, without the number of copies.</source>
+        <translation>%1 の既定値として保存しました（部数は含みません）。</translation>
+    </message>
 </context>
 <context>
     <name>host::PrintTarget</name>

@@ -526,6 +526,10 @@
         <source>Cancelled. What is left was not printed.</source>
         <translation>已取消。其余部分没有打印。</translation>
     </message>
+    <message>
+        <source>Saved as your defaults for %1, without the number of copies.</source>
+        <translation>已保存为 %1 的默认设置，不含份数。</translation>
+    </message>
 </context>
 <context>
     <name>host::PrintTarget</name>

@@ -14,6 +14,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -58,6 +59,18 @@ protected:
     QTemporaryDir m_home;
     SavedOptions m_saved{"counter"};
 };
+
+TEST_F(Saved, IsNothingInAPlaceThatIsNoFile)
+{
+    QDir(m_home.path()).mkpath(".cups");
+    const QByteArray place = QFile::encodeName(m_home.filePath(".cups/lpoptions"));
+    ASSERT_EQ(::mkfifo(place.constData(), 0600), 0); // whoever opened it would wait
+    EXPECT_EQ(SavedOptions("counter").presets(), QStringList());
+    EXPECT_FALSE(SavedOptions("counter").save("fine", {{"QnMedia", "Thermal"}}));
+    ASSERT_EQ(::unlink(place.constData()), 0);
+    ASSERT_EQ(::symlink("/dev/zero", place.constData()), 0); // or read without end
+    EXPECT_EQ(SavedOptions("counter").presets(), QStringList());
+}
 
 TEST_F(Saved, AreNoneAtFirst)
 {

@@ -35,7 +35,7 @@ public:
             QThread::msleep(1);
         hasEnded = true;
         if (stop.stop_requested())
-            return foundation::Problem{"stopped"};
+            return foundation::Problem{"stopped", foundation::Problem::Kind::unanswered};
         return QString("sent");
     }
 
@@ -189,6 +189,22 @@ TEST_F(DialogWithoutWindow, SendsNoFurtherDocumentWhenAStopComesTooLateForOne)
     EXPECT_EQ(m_dialog->documents().size(), 1U);
     EXPECT_EQ(m_dialog->state(), State::ready);
     EXPECT_EQ(m_dialog->message(), "Cancelled. What is left was not printed.");
+}
+
+TEST_F(DialogWithoutWindow, SaysOfSeveralDocumentsThatOnlyTheRestWasNotPrinted)
+{
+    const QString ticket = QN_SOURCE_DIR "/examples/documents/ticket.pdf";
+    m_dialog->chooseDocuments({ticket, ticket});
+    startJob();
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    QSignalSpy failed(m_dialog.get(), &PrintDialog::failed);
+    QObject::connect(m_dialog.get(), &PrintDialog::printed, [this] { m_sink->mayEnd = false; });
+    m_sink->mayEnd = true;
+    ASSERT_TRUE(printed.wait(kMilliseconds));
+    m_dialog->stop();
+    ASSERT_TRUE(failed.wait(kMilliseconds));
+    EXPECT_EQ(m_dialog->message(), "Cancelled. What is left was not printed.");
+    EXPECT_EQ(m_dialog->documents().size(), 1U);
 }
 
 TEST_F(DialogWithoutWindow, LeavesNoJobHalfSentWhenItEnds)

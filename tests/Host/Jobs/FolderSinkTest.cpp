@@ -93,7 +93,16 @@ TEST_F(Folder, IsNotLeftByATitle)
     ASSERT_TRUE(submit(".hidden"));
     ASSERT_TRUE(submit(QString(5000, 'x')));
     EXPECT_EQ(files().size(), 6);
-    EXPECT_TRUE(files().contains("escape.pdf"));
+    EXPECT_TRUE(files().contains("_.._.._escape.pdf")) << files().join('|').toStdString();
+}
+
+TEST_F(Folder, HasNamesOfOneLineWithEverythingThatATitleSays)
+{
+    ASSERT_TRUE(submit("Invoice 1/2.pdf"));
+    ASSERT_TRUE(submit("red\n\x1b[31m.pdf"));
+    EXPECT_TRUE(files().contains("Invoice 1_2.pdf")) << files().join('|').toStdString();
+    for (const QString &name : files())
+        EXPECT_FALSE(name.contains('\n') || name.contains('\x1b')) << name.toStdString();
 }
 
 TEST_F(Folder, KeepsNothingOfAJobThatIsStopped)

@@ -163,6 +163,23 @@ TEST(Words, OfATitleAreOneCleanLine)
     EXPECT_FALSE(said.contains('\x1b'));
 }
 
+TEST(Words, OfAFileNameAreOneCleanTitle)
+{
+    QTemporaryDir folder;
+    const QString odd = folder.filePath("red \x1b[31m\nmore.pdf");
+    ASSERT_TRUE(QFile::copy(kTicket, odd));
+    QProcess program;
+    program.start(QN_PROGRAM, {"--no-dialog", "--ppd", QN_SOURCE_DIR "/examples/ppd/full.ppd", "--output",
+                               folder.filePath("out"), odd});
+    ASSERT_TRUE(program.waitForFinished(kMilliseconds));
+    const auto tickets = QDir(folder.filePath("out")).entryInfoList({"*.json"});
+    ASSERT_EQ(tickets.size(), 1);
+    QFile ticket(tickets[0].filePath());
+    ASSERT_TRUE(ticket.open(QIODevice::ReadOnly));
+    const QString title = QJsonDocument::fromJson(ticket.readAll())["title"].toString();
+    EXPECT_EQ(title, "red [31m more.pdf");
+}
+
 struct Option
 {
     const char *text;

@@ -5,6 +5,7 @@
 #include "Jobs/FolderSink.h"
 #include "Toolkit/Controls.h"
 #include "Window/Fields.h"
+#include "Window/PaperChooser.h"
 #include "Window/SummaryView.h"
 
 #include <QDir>
@@ -177,6 +178,79 @@ TEST_F(Window, SaysWhatAPaperMayMeasureWhenASideIsOutsideIt)
     QApplication::processEvents();
     EXPECT_EQ(message(), "");
     EXPECT_NEAR(session().paper().size->width, 100 * 72 / 25.4, 0.001);
+}
+
+class OwnSize : public Window
+{
+protected:
+    void SetUp() override
+    {
+        Window::SetUp();
+        papers()->setFocus();
+        QTest::keyClick(papers(), Qt::Key_End);
+        ASSERT_EQ(papers()->currentData(), "customsize");
+        m_width = find<LengthBox>("paperWidth");
+        m_width->setFocus();
+        m_width->selectAll();
+    }
+    double width() const { return session().paper().size->width / 72 * 25.4; }
+
+    LengthBox *m_width = nullptr;
+};
+
+TEST_F(OwnSize, IsPrintedAsItWasTypedAlsoWhenTheFieldIsNotLeft)
+{
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    QTest::keyClicks(m_width, "100");
+    QTest::keyClick(m_window.get(), Qt::Key_P, Qt::AltModifier);
+    ASSERT_TRUE(printed.wait(10000));
+    EXPECT_NEAR(width(), 100, 0.01);
+}
+
+TEST_F(OwnSize, ThatWasCorrectedIsReadBeforeItIsPrinted)
+{
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    for (const auto &[typed, taken] : {std::pair{"20", 26}, std::pair{"300", 215}}) {
+        m_width->setFocus();
+        m_width->selectAll();
+        QTest::keyClicks(m_width, typed);
+        QTest::keyClick(m_width, Qt::Key_Return);
+        EXPECT_EQ(message(), QString("The printer does not take %1 mm, but 26 to 215 mm.").arg(typed));
+        EXPECT_EQ(m_width->value(), taken);
+        EXPECT_EQ(m_dialog->state(), PrintDialog::State::ready);
+    }
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            QTest::keyClick(m_width, Qt::Key_Return); // again, as somebody does who has read it
+            return m_dialog->state() == PrintDialog::State::sending;
+        },
+        10000));
+    ASSERT_TRUE(printed.wait(10000));
+    EXPECT_NEAR(width(), 215, 0.01);
+}
+
+TEST_F(OwnSize, StaysExactlyWhenAPersonOnlyWalksThroughItsFields)
+{
+    m_dialog->choosePaper({"customsize", printing::Paper{288, 432}}); // 4 x 6 inches, 102 x 152 mm as it shows
+    Q_EMIT m_dialog->paperChanged();
+    QSignalSpy chosen(m_window->findChild<PaperChooser *>(), &PaperChooser::chose);
+    ASSERT_EQ(m_width->value(), 102);
+    QTest::keyClick(m_width, Qt::Key_Tab);
+    QTest::keyClick(find<LengthBox>("paperHeight"), Qt::Key_Tab);
+    EXPECT_EQ(chosen.size(), 0);
+    EXPECT_DOUBLE_EQ(session().paper().size->width, 288);
+}
+
+TEST_F(OwnSize, IsWhatItWasWhenAFieldIsLeftEmpty)
+{
+    QTest::keyClicks(m_width, "100");
+    QTest::keyClick(m_width, Qt::Key_Tab);
+    m_width->setFocus();
+    m_width->clear();
+    QTest::keyClick(m_width, Qt::Key_Tab);
+    EXPECT_EQ(m_width->value(), 100);
+    EXPECT_EQ(message(), "");
+    EXPECT_EQ(m_width->accessibleDescription(), "26 to 215 mm");
 }
 
 TEST_F(Window, DoesNotPrintWhenReturnEndsTheAmount)

@@ -126,6 +126,24 @@ TEST_F(GuardedWindow, AsksThreeTimesForAJobAndKeepsIt)
     EXPECT_EQ(m_server.recordCount(), 1);
 }
 
+TEST_F(GuardedWindow, AsksAgainWhenThePersonHasNoRightToPrint)
+{
+    startGuarded({.guards = Guards::everything, .mayPrint = "zoe"});
+    open();
+    answer(CupsServer::kPassword);
+    EXPECT_EQ(askedFor(), kRefusal);
+    QTest::keyClick(box(), Qt::Key_Escape);
+    EXPECT_TRUE(waitForMessage(kRefusal));
+}
+
+TEST_F(GuardedWindow, AsksWhoWantsToChooseAPrinterWhereThatIsGuarded)
+{
+    startGuarded({.guards = Guards::listing});
+    open("");
+    answer(CupsServer::kPassword);
+    EXPECT_TRUE(waitFor([this] { return canPrint(); })) << message().toStdString(); // the only one is taken
+}
+
 TEST_F(GuardedWindow, StaysWithoutAPrinterWhenThePersonDoesNotSay)
 {
     startGuarded({.guards = Guards::everything});

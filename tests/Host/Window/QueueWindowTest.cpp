@@ -89,6 +89,24 @@ TEST_F(QueueWindow, SaysThatThePrintServiceDoesNotRun)
     EXPECT_TRUE(waitFor([this] { return canPrint(); })) << message().toStdString();
 }
 
+TEST_F(QueueWindow, GivesTheFocusBackToPrintWhenAJobDidNotGo)
+{
+    openAndWait();
+    m_server.kill();
+    QTest::mouseClick(button("&Print"), Qt::LeftButton);
+    ASSERT_TRUE(waitForMessage("counter: no CUPS server answers"));
+    EXPECT_EQ(m_window->focusWidget(), button("&Print"));
+}
+
+TEST_F(QueueWindow, SaysThatTheDefaultsDoNotHoldTheNumberOfCopies)
+{
+    openAndWait();
+    find<QSpinBox>("copies")->setValue(3);
+    trigger("Save as &Defaults");
+    EXPECT_EQ(message(), "Saved as your defaults for counter, without the number of copies.");
+    EXPECT_FALSE(SavedOptions("counter").options().contains("copies"));
+}
+
 TEST_F(QueueWindow, PrintsWithReturn)
 {
     for (const char *field : {"printers", "papers", "presets", "copies", "pages"}) {
