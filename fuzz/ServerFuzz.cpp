@@ -31,9 +31,9 @@ void send(bool knowsPPD)
     if (knowsPPD)
         order.ppd = host::CachedPPD{{}, 1, "digest"};
     int made = 0;
-    const auto id = host::sendJob(order, [&made](int number) { made = number; }, [](qint64, qint64) {}, {});
-    expectOneSentence(id);
-    fuzzing::promise(!id || (*id > 0 && *id == made));
+    const auto sent = host::sendJob(order, [&made](int number) { made = number; }, [](qint64, qint64) {}, {});
+    expectOneSentence(sent);
+    fuzzing::promise(!sent || (sent->id > 0 && sent->id == made));
 }
 
 void ask(char what)

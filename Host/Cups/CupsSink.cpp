@@ -29,6 +29,7 @@ QJsonObject CupsSink::question(const Job &job) const
 
 Or<QString> CupsSink::submit(const Job &job, const JobProgress &progress, std::stop_token stop)
 {
+    m_whyItWaits.reset();
     std::optional<int> id;
     const auto hear = [&](const QJsonObject &told) {
         if (told.contains(wire::kId))
@@ -38,8 +39,11 @@ Or<QString> CupsSink::submit(const Job &job, const JobProgress &progress, std::s
     };
     prepareConversation(); // should the job have to be cancelled
     const auto sent = converse(question(job), m_patience, stop, job.document->descriptor(), hear);
-    if (sent)
+    if (sent) {
+        if (sent->contains(wire::kWaits))
+            m_whyItWaits = (*sent)[wire::kWaits].toString();
         return QStringLiteral("%1-%2").arg(m_queue, QString::number((*sent)[wire::kId].toInt()));
+    }
     const bool isStopped = stop.stop_requested();
     Problem problem = sent.problem();
     if (problem.kind == Problem::Kind::unanswered && id) {

@@ -25,6 +25,7 @@ public:
     {}
     /// The problem is of the kind `outdated` when the PPD has changed.
     foundation::Or<QString> submit(const Job &job, const JobProgress &progress, std::stop_token stop) override;
+    std::optional<QString> whyItWaits() const override { return m_whyItWaits; }
 
 private:
     QJsonObject question(const Job &job) const;
@@ -35,6 +36,7 @@ private:
     QString m_queue;
     std::optional<CachedPPD> m_ppd;
     Patience m_patience;
+    std::optional<QString> m_whyItWaits;
 };
 
 } // namespace host

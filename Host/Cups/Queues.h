@@ -69,8 +69,7 @@ struct Queue
     std::vector<PaperEntry> papers; // of a queue without PPD; their names are those that a job may ask for
     QString note;                   // one clause on its state; empty when it just prints
     bool takesJobs = true;
-    std::optional<QString> whyJobsWait = std::nullopt; // one clause; nil when they don't
-    std::optional<QString> distrust = std::nullopt;    // why the server's certificate is not trusted, in one clause
+    std::optional<QString> distrust = std::nullopt; // why the server's certificate is not trusted, in one clause
 };
 
 struct Queues

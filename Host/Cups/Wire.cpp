@@ -98,8 +98,6 @@ QJsonObject toJson(const Queue &queue)
         json["uri"] = *queue.uri;
     if (queue.distrust)
         json["distrust"] = *queue.distrust;
-    if (queue.whyJobsWait)
-        json["whyJobsWait"] = *queue.whyJobsWait;
     if (queue.ppd)
         json[wire::kPPD] = toJson(*queue.ppd);
     return json;
@@ -113,8 +111,6 @@ Queue queueFrom(const QJsonObject &json)
         queue.uri = json["uri"].toString();
     if (json.contains("distrust"))
         queue.distrust = json["distrust"].toString();
-    if (json.contains("whyJobsWait"))
-        queue.whyJobsWait = json["whyJobsWait"].toString();
     if (json.contains(wire::kPPD))
         queue.ppd = ppdFrom(json[wire::kPPD].toObject());
     return queue;

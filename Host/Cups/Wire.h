@@ -43,6 +43,8 @@ inline constexpr auto kPPD = "ppd";
 inline constexpr auto kAnswer = "answer";
 inline constexpr auto kProblem = "problem";
 
+inline constexpr auto kWaits = "waits"; // of a job that was sent: why it waits; missing when it does not
+
 // Of what is told on the way to one:
 inline constexpr auto kId = "id";     // of the job that was made; 0 while it is asked for
 inline constexpr auto kDone = "done"; // bytes

@@ -33,7 +33,6 @@ void PrintTarget::describe(const Queue &queue)
     m_name = queue.name;
     m_note = queue.note;
     m_takesJobs = queue.takesJobs;
-    m_whyJobsWait = queue.whyJobsWait;
     m_preset = queue.preset;
     if (queue.distrust)
         m_doubts.append(*queue.distrust);
@@ -43,8 +42,9 @@ QString PrintTarget::fateOf(const QString &title) const
 {
     if (!m_isQueue)
         return {};
-    return m_whyJobsWait ? tr("%1 waits: %2", "a document, and why").arg(title, *m_whyJobsWait)
-                         : tr("%1: sent to %2").arg(title, m_name);
+    const auto whyItWaits = m_sink->whyItWaits();
+    return whyItWaits ? tr("%1 waits: %2", "a document, and why").arg(title, *whyItWaits)
+                      : tr("%1: sent to %2").arg(title, m_name);
 }
 
 OptionValues PrintTarget::restore(const QString &) { return {}; }

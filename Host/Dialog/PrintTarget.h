@@ -94,7 +94,6 @@ protected:
     QString m_note;
     bool m_isQueue = false;
     bool m_takesJobs = true;
-    std::optional<QString> m_whyJobsWait;
     QStringList m_doubts;
     Amount m_amount;
     OptionValues m_serverOptions;

@@ -34,6 +34,9 @@ public:
     /// Sends a job; blocks, and may run on a thread of its own. Answers where the job went, for people. A job that is
     /// stopped or fails leaves nothing behind, or its problem says what may be left.
     virtual foundation::Or<QString> submit(const Job &job, const JobProgress &progress, std::stop_token stop) = 0;
+
+    /// Why the job that went last waits where it is, in one clause; nil when it does not.
+    virtual std::optional<QString> whyItWaits() const { return std::nullopt; }
 };
 
 /// Hands the document's content to `write`, part by part. A problem when `write` has one, when the document can't be

@@ -159,13 +159,17 @@ Or<QJsonObject> send(const QJsonObject &json, int descriptor, std::chrono::milli
         job = made;
         tell({{wire::kId, made}});
     };
-    const auto id = sendJob(
+    const auto sent = sendJob(
         order, madeOne, [](qint64 done, qint64 total) { tell({{wire::kDone, done}, {wire::kOf, total}}); }, stop);
-    if (id)
-        return QJsonObject{{wire::kId, *id}};
+    if (sent) {
+        QJsonObject answer{{wire::kId, sent->id}};
+        if (sent->whyItWaits)
+            answer[wire::kWaits] = *sent->whyItWaits;
+        return answer;
+    }
     if (job > 0 && dialogHasGone)
         (void)cancelJob(job, patience); // nobody else will
-    return id.problem();
+    return sent.problem();
 }
 
 Or<QJsonObject> cancel(int id, std::chrono::milliseconds patience)

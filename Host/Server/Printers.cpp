@@ -139,7 +139,6 @@ Or<Queue> askForQueue(const QueueName &name, std::chrono::milliseconds patience)
                 {},
                 state.note(),
                 state.takesJobs(),
-                state.whyJobsWait(),
                 server.distrust()};
     if (const char *uri = optionOf(destination, "device-uri"))
         queue.uri = QString::fromUtf8(uri);

@@ -2,6 +2,7 @@
 #include "SentJob.h"
 
 #include "PPDCache.h"
+#include "PrinterState.h"
 #include "ServerConnection.h"
 
 #include <QUrl>
@@ -38,6 +39,8 @@ public:
     /// Looks whether there is what the job is for.
     Or<void> findQueue();
     Or<int> make();
+    /// Asked before there is a job that the answer could cost.
+    std::optional<QString> whyItWillWait() const { return PrinterState(m_server, *m_destination).whyJobsWait(); }
     Or<void> sendDocument(int id, const JobProgress &progress);
 
 private:
@@ -124,19 +127,22 @@ Or<void> cancelJob(int id, std::chrono::milliseconds patience)
     return answer ? Or<void>() : answer.problem();
 }
 
-Or<int> sendJob(const JobOrder &order, const JobMade &made, const JobProgress &progress, const std::stop_token &stop)
+Or<AcceptedJob> sendJob(const JobOrder &order, const JobMade &made, const JobProgress &progress,
+                        const std::stop_token &stop)
 {
     SentJob job(order, stop);
     if (const auto found = job.findQueue(); !found)
         return found.problem();
+    AcceptedJob accepted{0, job.whyItWillWait()};
     made(0);
     const auto id = job.make();
     if (!id)
-        return id;
+        return id.problem();
     made(*id);
     if (const auto sent = job.sendDocument(*id, progress); !sent)
         return Problem{sent.problem().sentence, Problem::Kind::unanswered};
-    return *id;
+    accepted.id = *id;
+    return accepted;
 }
 
 } // namespace host

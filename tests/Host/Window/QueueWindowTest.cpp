@@ -98,6 +98,22 @@ TEST_F(QueueWindow, GivesTheFocusBackToPrintWhenAJobDidNotGo)
     EXPECT_EQ(m_window->focusWidget(), button("&Print"));
 }
 
+TEST_F(QueueWindow, TellsOfTheJobByWhatTheQueueIsWhenItIsSent)
+{
+    openAndWait();
+    QSignalSpy printed(m_dialog.get(), &PrintDialog::printed);
+    ASSERT_EQ(m_server.run("cupsdisable", {"-r", "out of paper", "counter"}), 0); // with the window open
+    button("&Print")->click();
+    ASSERT_TRUE(printed.wait(kPatience));
+    EXPECT_EQ(printed[0][1], "ticket.pdf waits: counter is stopped (out of paper)");
+    openAndWait();
+    QSignalSpy again(m_dialog.get(), &PrintDialog::printed);
+    ASSERT_EQ(m_server.run("cupsenable", {"counter"}), 0);
+    button("&Print")->click();
+    ASSERT_TRUE(again.wait(kPatience));
+    EXPECT_EQ(again[0][1], "ticket.pdf: sent to counter");
+}
+
 TEST_F(QueueWindow, SaysThatTheDefaultsDoNotHoldTheNumberOfCopies)
 {
     openAndWait();
