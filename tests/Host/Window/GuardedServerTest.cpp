@@ -123,6 +123,7 @@ TEST_F(GuardedWindow, AsksThreeTimesForAJobAndKeepsIt)
     button("&Print")->click();
     answer(CupsServer::kPassword);
     EXPECT_TRUE(waitFor([&] { return printed.size() == 1; })) << message().toStdString();
+    EXPECT_EQ(m_server.record(1)["user"], CupsServer::kUser);
     EXPECT_EQ(m_server.recordCount(), 1);
 }
 
