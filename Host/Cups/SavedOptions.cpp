@@ -21,7 +21,7 @@ using foundation::Problem;
 
 namespace {
 
-constexpr int kMillisecondsToLock = 2000;
+constexpr int kMillisecondsToLock = 5000;
 constexpr qint64 kLargestFile = qint64{4} * 1024 * 1024;
 constexpr auto kNewFile = ".qnprint-new"; // behind the name
 constexpr qsizetype kLongestName = 127;
