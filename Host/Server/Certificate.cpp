@@ -113,13 +113,13 @@ struct Reason
     const char *text;
 };
 
-/// In the order in which they are told; the first one is.
+/// The first one that holds is told. What a certificate says of its owner is worth nothing while nobody vouches for it.
 constexpr std::array kReasons{
     Reason{GNUTLS_CERT_REVOKED, QT_TRANSLATE_NOOP("host::Certificate", "it was withdrawn")},
-    Reason{GNUTLS_CERT_UNEXPECTED_OWNER, QT_TRANSLATE_NOOP("host::Certificate", "it is another computer's")},
-    Reason{GNUTLS_CERT_EXPIRED, QT_TRANSLATE_NOOP("host::Certificate", "it has expired")},
     Reason{GNUTLS_CERT_SIGNER_NOT_FOUND | GNUTLS_CERT_SIGNER_NOT_CA,
            QT_TRANSLATE_NOOP("host::Certificate", "nobody that this computer trusts vouches for it")},
+    Reason{GNUTLS_CERT_UNEXPECTED_OWNER, QT_TRANSLATE_NOOP("host::Certificate", "it is another computer's")},
+    Reason{GNUTLS_CERT_EXPIRED, QT_TRANSLATE_NOOP("host::Certificate", "it has expired")},
     Reason{~0U, QT_TRANSLATE_NOOP("host::Certificate", "it is not valid")},
 };
 
