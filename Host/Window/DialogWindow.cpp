@@ -361,7 +361,7 @@ void DialogWindow::offerPresets()
     m_ui->presets->clear();
     m_ui->presets->addItem(tr("Defaults"), QString());
     for (const QString &name : saved ? saved->presets() : QStringList())
-        m_ui->presets->addItem(name, name);
+        m_ui->presets->addItem(foundation::withoutControls(name), name);
     const QString preset = target ? target->preset() : QString();
     m_ui->presets->setCurrentIndex(std::max(0, m_ui->presets->findData(preset, Qt::UserRole, Qt::MatchFixedString)));
     m_ui->form->setRowVisible(m_ui->presetRow, saved || !target);
@@ -376,7 +376,7 @@ void DialogWindow::showPresetName()
 {
     const int index = m_ui->presets->currentIndex();
     const QString preset = m_ui->presets->currentData().toString();
-    const QString name = preset.isEmpty() ? tr("Defaults") : preset;
+    const QString name = preset.isEmpty() ? tr("Defaults") : foundation::withoutControls(preset);
     m_ui->presets->setItemText(index, m_dialog.isPresetChanged() ? tr("%1 (changed)").arg(name) : name);
 }
 

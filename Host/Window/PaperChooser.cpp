@@ -4,6 +4,7 @@
 #include "Fields.h"
 
 #include "Foundation/Locale.h"
+#include "Foundation/PlainText.h"
 #include "Printing/Units.h"
 
 #include <QComboBox>
@@ -42,7 +43,7 @@ void PaperChooser::offer(const PrintTarget &target)
     m_papers = target.papers();
     m_parts.papers->clear();
     for (const PaperEntry &paper : m_papers)
-        m_parts.papers->addItem(paper.text, paper.name);
+        m_parts.papers->addItem(foundation::withoutControls(paper.text), paper.name);
     if (const auto limits = target.customSizeLimits())
         offerOwnSize(*limits);
     const ChosenPaper chosen = target.paper();

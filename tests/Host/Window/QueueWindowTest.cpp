@@ -114,6 +114,23 @@ TEST_F(QueueWindow, TellsOfTheJobByWhatTheQueueIsWhenItIsSent)
     EXPECT_EQ(again[0][1], "ticket.pdf: sent to counter");
 }
 
+TEST_F(QueueWindow, ShowsThePresetsOfOtherProgramsWithoutWhatTurnsTheReading)
+{
+    const QString name = QString::fromUtf8("ex\u202epress");
+    ASSERT_TRUE(SavedOptions("counter").save({}, {{"QnMedia", "ThermalCopy"}})); // makes the folder
+    QFile saved(m_server.path("home/.cups/lpoptions"));
+    ASSERT_TRUE(saved.open(QIODevice::Append));
+    saved.write("Dest counter/" + name.toUtf8() + " QnMedia=Thermal\n");
+    saved.close();
+    openAndWait();
+    ASSERT_EQ(presets()->count(), 2);
+    EXPECT_FALSE(presets()->itemText(1).contains(QChar(0x202e)));
+    choose(*presets(), 1);
+    EXPECT_FALSE(presets()->currentText().contains(QChar(0x202e)));
+    EXPECT_EQ(m_dialog->target()->preset(), name);
+    EXPECT_EQ(marked("QnMedia"), "Thermal");
+}
+
 TEST_F(QueueWindow, SaysThatTheDefaultsDoNotHoldTheNumberOfCopies)
 {
     openAndWait();
