@@ -34,7 +34,7 @@ class Bundle;
 
 /// Raised whenever a declaration of this file changes; a bundle names the one it was built with in its Info.json. The
 /// number stands here only: the build reads this line for the Info.json, the preprocessor for the identifier below.
-#define QN_PDE_INTERFACE_VERSION 101
+#define QN_PDE_INTERFACE_VERSION 102
 inline constexpr int kPDEInterfaceVersion = QN_PDE_INTERFACE_VERSION;
 
 /// The panel type that stands for printing options.
@@ -66,6 +66,18 @@ struct PDESummary
 {
     QMap<QString, QString> values;
     QStringList displayOrder;
+};
+
+/// What the marked choices do to a printed page.
+struct PDEPrintEffect
+{
+    enum class Halftone { binary, dither, diffusion };
+
+    std::optional<Halftone> halftone; // nil when the printer has no choice of methods
+    bool reversed = false;            // black and white change places
+    bool mirrored = false;            // left and right
+    std::optional<double> feed;       // millimetres behind each page; nil while no amount counts
+    bool perforated = false;
 };
 
 /// A panel laid open for scripts, tests and diagnosis; a dialog for people needs none of it.
@@ -123,6 +135,10 @@ public:
 
     /// nil when the panel gives none. Changes nothing.
     virtual std::optional<PDESummary> summaryInfo() = 0;
+
+    /// What the choices marked now do to a printed page; nil when the panel does not say. A host shows the plain page
+    /// then. Optional; changes nothing.
+    virtual std::optional<PDEPrintEffect> printEffect() { return std::nullopt; }
 
     /// Asked when the user prints; false keeps the dialog open, and the panel has told the user why. May mark choices;
     /// may show an alert, and returns when it is dismissed.

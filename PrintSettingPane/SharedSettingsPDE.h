@@ -17,6 +17,7 @@ public:
 
     std::optional<QStringList> supportedPPDOptionKeys() override;
     std::optional<PDESummary> summaryInfo() override;
+    std::optional<PDEPrintEffect> printEffect() override;
     void PPDOptionKeyValueDidChange(const std::optional<QString> &key, const std::optional<QString> &choice) override;
 
 protected:
@@ -132,6 +133,7 @@ protected:
                         *mReversal_Selection = nullptr, *mMirror_Selection = nullptr, *mBiDiPrint_Selection = nullptr;
 
     bool usb_dec = false;           // the printer is connected by USB
+    std::optional<float> mFeedBeforeRefusal; // inches; while the PPD's parameter holds an amount that was not marked
     bool set_formatSetting = false; // the first display is done
     std::optional<QString> set_paperName;
     std::optional<QString> language_Nsme;
@@ -157,6 +159,8 @@ private:
     bool isInSummary(const SummaryRow &row);
     void addToSummary(PDESummary &summary, const SummaryRow &row, const OptionFields &fields);
     std::optional<QString> summaryValue(const SummaryRow &row, const OptionFields &fields) const;
+    std::int64_t markedIndex(OptionId id);
+    std::optional<double> markedFeed();
     QString choiceName(const ppd_choice_t &choice, const char *fallbackKey) const;
     void writeOption(const OptionFields &fields, std::int64_t index);
     void refreshPopUps(PDEItemFlags flags);

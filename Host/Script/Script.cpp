@@ -94,8 +94,8 @@ DialogSession::Parameters parameters(const ScriptRequest &request)
 
 } // namespace
 
-// `job` and `state` only tell what the host knows; every other request may run the panels' code.
-const std::array<Script::Verb, 21> Script::kVerbs{{
+// `job`, `effect` and `state` only tell what is marked and shown; every other request may run the panels' code.
+const std::array<Script::Verb, 22> Script::kVerbs{{
     // clang-format off
     {"open",     &Script::open,     Runs::panels},
     {"show",     &Script::show,     Runs::panels},
@@ -116,6 +116,7 @@ const std::array<Script::Verb, 21> Script::kVerbs{{
     {"summary",  &Script::summary,  Runs::panels},
     {"print",    &Script::print,    Runs::panels},
     {"job",      &Script::job,      Runs::nothing},
+    {"effect",   &Script::effect,   Runs::nothing},
     {"state",    &Script::state,    Runs::nothing},
     {"close",    &Script::close,    Runs::panels},
     // clang-format on
@@ -372,6 +373,22 @@ QJsonObject Script::print(const ScriptRequest &request)
 }
 
 QJsonObject Script::job(const ScriptRequest &) { return {{"options", toObject(session().marks().forJob())}}; }
+
+QJsonObject Script::effect(const ScriptRequest &)
+{
+    const auto effect = session().printEffect();
+    if (!effect)
+        return {{"effect", QJsonValue()}};
+    constexpr std::array kMethodNames{"binary", "dither", "diffusion"}; // in the order of the methods
+    const auto method = effect->halftone ? QJsonValue(kMethodNames.at(static_cast<std::size_t>(*effect->halftone)))
+                                         : QJsonValue();
+    return {{"effect",
+             QJsonObject{{"halftone", method},
+                         {"reversed", effect->reversed},
+                         {"mirrored", effect->mirrored},
+                         {"feed", effect->feed ? QJsonValue(*effect->feed) : QJsonValue()},
+                         {"perforated", effect->perforated}}}};
+}
 
 QJsonObject Script::close(const ScriptRequest &)
 {

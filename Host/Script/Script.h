@@ -30,7 +30,7 @@ private:
         QJsonObject (Script::*perform)(const ScriptRequest &);
         Runs runs;
     };
-    static const std::array<Verb, 21> kVerbs;
+    static const std::array<Verb, 22> kVerbs;
 
     QJsonObject open(const ScriptRequest &);
     QJsonObject show(const ScriptRequest &);
@@ -51,6 +51,7 @@ private:
     QJsonObject summary(const ScriptRequest &);
     QJsonObject print(const ScriptRequest &);
     QJsonObject job(const ScriptRequest &);
+    QJsonObject effect(const ScriptRequest &);
     QJsonObject state(const ScriptRequest &);
     QJsonObject close(const ScriptRequest &);
 

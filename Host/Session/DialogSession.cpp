@@ -276,6 +276,14 @@ void DialogSession::report(const std::optional<PPDMarks::Effect> &effect)
     }
 }
 
+std::optional<PDEPrintEffect> DialogSession::printEffect() const
+{
+    for (const auto &panel : panels())
+        if (auto effect = panel->printEffect())
+            return effect;
+    return std::nullopt;
+}
+
 QStringList DialogSession::takeRemarks() { return m_remarks.take(); }
 
 bool DialogSession::shouldPrint()

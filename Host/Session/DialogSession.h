@@ -106,6 +106,9 @@ public:
     /// values in the words of a person, in the order of the PPD.
     std::vector<SummaryRow> differences() const;
 
+    /// What the marked choices do to a printed page; nil when no panel says.
+    std::optional<PDEPrintEffect> printEffect() const;
+
     /// One sentence for each choice that did not stay as it was made, or moved another, since this was asked last.
     QStringList takeRemarks();
 
