@@ -124,17 +124,16 @@ void PrintSettingPDE_v100_::saveSetting_RollPrint() { savePopUpOfPaper(OptionId:
 void PrintSettingPDE_v100_::saveSetting_PaperFeed()
 {
     const double amount = mPaperFeedTxt.doubleValue();
-    std::optional<float> before = mFeedBeforeRefusal;
     if (ppd_cparam_t *const parameter = realParameter(ppd, kAmountParameter)) {
-        before = before.value_or(parameter->current.custom_real);
-        parameter->current.custom_real = static_cast<float>(amount); // in the unit shown, unconverted
+        mRefusedFeed = {markedInches(*parameter), static_cast<float>(amount)};
+        parameter->current.custom_real = mRefusedFeed->written; // in the unit shown, unconverted
     }
     if (!mPaperFeed_Choices || !printSettings || !mPaperFeed_Option)
         return;
     const double inches = foundation::IsMetric() ? amount / printing::kMillimetresPerInch : amount;
-    const bool isMarked = pdePluginCallbackObject->willChangePPDOptionKeyValue(mPaperFeed_Option->keyword,
-                                                                               QString::number(inches, 'f', kDecimals));
-    mFeedBeforeRefusal = isMarked ? std::nullopt : before;
+    if (pdePluginCallbackObject->willChangePPDOptionKeyValue(mPaperFeed_Option->keyword,
+                                                             QString::number(inches, 'f', kDecimals)))
+        mRefusedFeed.reset();
 }
 
 void PrintSettingPDE_v100_::adjustToPaper(const paper::Availability &rules, paper::Group group, int formFeed,

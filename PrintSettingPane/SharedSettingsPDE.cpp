@@ -193,8 +193,6 @@ void SharedSettingsPDE::PPDOptionKeyValueDidChange(const std::optional<QString> 
 {
     if (!key || !choice)
         return;
-    if (*key == optionRow(OptionId::paperFeed).keyword)
-        mFeedBeforeRefusal.reset();
     const auto *const row = std::ranges::find_if(kOptionRows, [&](const OptionRow &r) { return *key == r.keyword; });
     const auto fields = row == kOptionRows.end() ? std::nullopt : fieldsOf(row->id);
     if (fields)

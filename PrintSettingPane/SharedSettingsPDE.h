@@ -95,6 +95,9 @@ protected:
     /// The mirror option is withheld from users of system 10.6 and later.
     static bool withholdsMirror();
 
+    /// The amount that is marked, whatever a panel has written into its parameter since.
+    float markedInches(const ppd_cparam_t &parameter) const;
+
     // Inspection and interface file.
     struct ControlField
     {
@@ -133,7 +136,12 @@ protected:
                         *mReversal_Selection = nullptr, *mMirror_Selection = nullptr, *mBiDiPrint_Selection = nullptr;
 
     bool usb_dec = false;           // the printer is connected by USB
-    std::optional<float> mFeedBeforeRefusal; // inches; while the PPD's parameter holds an amount that was not marked
+    struct RefusedFeed
+    {
+        float marked; // inches, as before
+        float written;
+    };
+    std::optional<RefusedFeed> mRefusedFeed; // as long as the PPD's parameter holds what was written and not marked
     bool set_formatSetting = false; // the first display is done
     std::optional<QString> set_paperName;
     std::optional<QString> language_Nsme;

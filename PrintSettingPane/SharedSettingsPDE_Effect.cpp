@@ -28,6 +28,12 @@ std::int64_t SharedSettingsPDE::markedIndex(OptionId id)
     return fields && fields->choices ? indexOfMarkedOption(fields->choices, optionRow(id).keyword) : -1;
 }
 
+float SharedSettingsPDE::markedInches(const ppd_cparam_t &parameter) const
+{
+    const float inches = parameter.current.custom_real;
+    return mRefusedFeed && mRefusedFeed->written == inches ? mRefusedFeed->marked : inches;
+}
+
 /// Nil unless an amount is marked, and the form feed and the paper let it count.
 std::optional<double> SharedSettingsPDE::markedFeed()
 {
@@ -42,7 +48,7 @@ std::optional<double> SharedSettingsPDE::markedFeed()
     const ppd_cparam_t *const amount = custom ? ppdFindCustomParam(custom, kAmount) : nullptr;
     if (!marked || !amount || amount->type != PPD_CUSTOM_REAL || qstrcmp(marked->choice, "Custom") != 0)
         return std::nullopt;
-    return millimetres(mFeedBeforeRefusal.value_or(amount->current.custom_real));
+    return millimetres(static_cast<double>(markedInches(*amount)));
 }
 
 std::optional<PDEPrintEffect> SharedSettingsPDE::printEffect()
