@@ -8,6 +8,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace host {
 
 using foundation::Or;
@@ -45,6 +47,14 @@ QString PrintTarget::fateOf(const QString &title) const
     const auto whyItWaits = m_sink->whyItWaits();
     return whyItWaits ? tr("%1 waits: %2", "a document, and why").arg(title, *whyItWaits)
                       : tr("%1: sent to %2").arg(title, m_name);
+}
+
+Scaling PrintTarget::scaling() const
+{
+    for (const char *word : {"fit-to-page", "fitplot"}) // as older programs ask for it
+        if (m_serverOptions.value(word) == "true" || m_serverOptions.value(word) == "yes")
+            return Scaling::fit;
+    return scalingNamed(m_serverOptions.value("print-scaling")).value_or(Scaling::automatic);
 }
 
 OptionValues PrintTarget::restore(const QString &) { return {}; }
@@ -192,6 +202,21 @@ Or<void> PPDTarget::save(const QString &preset, std::optional<int> copies)
     return saved;
 }
 
+std::optional<Sheet> PPDTarget::sheet() const
+{
+    const ChosenPaper &chosen = m_session->paper();
+    if (!chosen.size)
+        return std::nullopt;
+    return Sheet{*chosen.size, m_session->ppd().printableArea(chosen.name, *chosen.size)};
+}
+
+Resolution PPDTarget::resolution() const
+{
+    const QString marked = m_session->marks().choiceOf("Resolution");
+    const auto standard = m_session->ppd().attribute("DefaultResolution");
+    return resolutionNamed(marked).value_or(resolutionNamed(standard.value_or(QString())).value_or(Resolution{}));
+}
+
 OptionValues PPDTarget::jobOptions() const
 {
     OptionValues options = PrintTarget::jobOptions();
@@ -222,6 +247,14 @@ void PlainTarget::choosePaper(const ChosenPaper &paper)
 {
     if (paper.name)
         m_serverOptions[kMedia] = *paper.name;
+}
+
+std::optional<Sheet> PlainTarget::sheet() const
+{
+    const auto entry = std::ranges::find(m_papers, m_serverOptions.value(kMedia), &PaperEntry::name);
+    if (entry == m_papers.end())
+        return std::nullopt;
+    return Sheet{entry->size, QRectF(0, 0, entry->size.width, entry->size.height)};
 }
 
 const PDEPanels &PlainTarget::panels() const

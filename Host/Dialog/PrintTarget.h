@@ -6,6 +6,7 @@
 #include "Cups/Queues.h"
 #include "Cups/SavedOptions.h"
 #include "Jobs/Job.h"
+#include "Pages/BurntPage.h"
 #include "Session/DialogSession.h"
 
 namespace host {
@@ -75,6 +76,13 @@ public:
     /// What a person is to know of choices that did not stay as they were made, one sentence each, told once.
     virtual QStringList takeRemarks() { return {}; }
 
+    // What a page looks like. Nil where that is not known.
+    virtual std::optional<Sheet> sheet() const = 0;
+    virtual std::optional<PDEPrintEffect> printEffect() const { return std::nullopt; }
+    virtual Resolution resolution() const { return {}; }
+    /// As the job says.
+    Scaling scaling() const;
+
     /// Whether all panels agree to print; one that does not has told the user why.
     virtual bool agrees() { return true; }
     /// What a job has to say, after the panels have agreed.
@@ -129,6 +137,9 @@ public:
     OptionValues restore(const QString &preset) override;
     foundation::Or<void> save(const QString &preset, std::optional<int> copies) override;
     QStringList takeRemarks() override { return m_session->takeRemarks(); }
+    std::optional<Sheet> sheet() const override;
+    std::optional<PDEPrintEffect> printEffect() const override { return m_session->printEffect(); }
+    Resolution resolution() const override;
     bool agrees() override { return m_session->shouldPrint(); }
     OptionValues jobOptions() const override;
 
@@ -153,6 +164,7 @@ public:
     std::vector<PaperEntry> papers() const override { return m_papers; }
     ChosenPaper paper() const override;
     void choosePaper(const ChosenPaper &paper) override;
+    std::optional<Sheet> sheet() const override;
     const PDEPanels &panels() const override;
 
 private:

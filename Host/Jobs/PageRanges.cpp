@@ -65,4 +65,16 @@ std::optional<QString> readPageRanges(const QString &text)
     return parts.join(',');
 }
 
+std::optional<std::vector<int>> pagesAmong(const QString &ranges, int count)
+{
+    std::vector<int> pages;
+    for (const auto &[first, last] : ranges.isEmpty() ? Ranges{{1, count}} : readParts(ranges).value_or(Ranges())) {
+        if (last > count)
+            return std::nullopt;
+        for (int page = first; page <= last; ++page)
+            pages.push_back(page);
+    }
+    return pages;
+}
+
 } // namespace host

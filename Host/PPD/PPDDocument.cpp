@@ -163,14 +163,30 @@ QString PPDDocument::choiceText(const QString &keyword, const QString &choice, c
     return found && *found->text ? text(found->text) : choice;
 }
 
+const ppd_size_t *PPDDocument::listedSize(const QString &name) const
+{
+    for (int i = 0; i < m_file->num_sizes; ++i)
+        if (name == text(m_file->sizes[i].name) && name != kCustomChoice)
+            return &m_file->sizes[i];
+    return nullptr;
+}
+
 std::optional<printing::Paper> PPDDocument::pageSize(const QString &name) const
 {
-    for (int i = 0; i < m_file->num_sizes; ++i) {
-        const ppd_size_t &size = m_file->sizes[i];
-        if (name == text(size.name) && name != kCustomChoice)
-            return printing::Paper{size.width, size.length};
-    }
-    return std::nullopt;
+    const ppd_size_t *const size = listedSize(name);
+    return size ? std::optional(printing::Paper{size->width, size->length}) : std::nullopt;
+}
+
+QRectF PPDDocument::printableArea(const std::optional<QString> &name, const printing::Paper &size) const
+{
+    const QRectF whole(0, 0, size.width, size.height);
+    const ppd_size_t *const listed = name ? listedSize(*name) : nullptr;
+    const float *const margins = m_file->custom_margins; // left, bottom, right, top
+    const QRectF area = listed ? QRectF(QPointF(listed->left, size.height - listed->top),
+                                        QPointF(listed->right, size.height - listed->bottom))
+                               : whole.adjusted(margins[0], margins[3], -margins[2], -margins[1]);
+    const QRectF reached = area & whole;
+    return reached.width() > 0 && reached.height() > 0 ? reached : whole;
 }
 
 std::vector<PaperEntry> PPDDocument::papers(const QString &language) const

@@ -8,6 +8,7 @@
 #include "Printing/ppd_api.h"
 
 #include <QCoreApplication>
+#include <QRectF>
 
 #include <memory>
 #include <vector>
@@ -69,6 +70,9 @@ public:
 
     /// The size of a paper by name; nil when the PPD has none of that name.
     std::optional<printing::Paper> pageSize(const QString &name) const;
+    /// The part of a paper that the printer can reach, in points, y downward from its upper left corner. A paper that
+    /// the PPD does not list has the margins of custom sizes. Where the PPD says nothing sensible, all of it.
+    QRectF printableArea(const std::optional<QString> &name, const printing::Paper &size) const;
     std::vector<PaperEntry> papers(const QString &language) const;
     /// Nil when the PPD takes no custom sizes.
     std::optional<CustomSizeLimits> customSizeLimits() const;
@@ -80,6 +84,7 @@ private:
     explicit PPDDocument(printing::PPDFile file);
 
     bool isPageSize(const ppd_option_t &option) const;
+    const ppd_size_t *listedSize(const QString &name) const;
 
     printing::PPDFile m_file;
     std::vector<ppd_option_t *> m_options;

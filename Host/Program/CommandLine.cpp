@@ -70,14 +70,14 @@ Or<OptionValues> readOptions(const QStringList &values)
     return options;
 }
 
-Or<PrintRequest> readRequest(const QCommandLineParser &parser)
+Or<PrintRequest> readRequest(const QCommandLineParser &parser, Face face)
 {
     PrintRequest request;
     request.queue = parser.value("destination");
     request.ppd = parser.value("ppd");
     request.output = parser.value("output");
     request.title = parser.value("title");
-    request.prefersLastPrinter = !parser.isSet("no-dialog");
+    request.prefersLastPrinter = face == Face::window;
     request.copies = readCopies(parser.value("n"));
     if (parser.isSet("n") && !request.copies)
         return Problem{
@@ -97,6 +97,27 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser)
         return options.problem();
     request.options = *std::move(options);
     return request;
+}
+
+/// Which page of a preview, and whether in grey.
+Or<void> readPreview(const QCommandLineParser &parser, CommandLine &line)
+{
+    for (const char *option : {"page", "plain"})
+        if (parser.isSet(option) && line.face != Face::preview)
+            return Problem{QString("--%1 goes with preview only").arg(option)};
+    bool isNumber = false;
+    line.page = parser.value("page").toInt(&isNumber);
+    line.plain = parser.isSet("plain");
+    if (!isNumber || line.page < 1)
+        return Problem{QString("--page %1: not a page's number").arg(parser.value("page"))};
+    return {};
+}
+
+const FaceRow *namedFace(const QStringList &arguments)
+{
+    const auto *const row =
+        std::ranges::find_if(kFaceRows, [&](const FaceRow &each) { return arguments.value(0) == each.word; });
+    return row == kFaceRows.end() ? nullptr : row;
 }
 
 } // namespace
@@ -120,9 +141,8 @@ Face faceOf(const QStringList &arguments)
         return Face::help;
     if (parser.isSet("version"))
         return Face::version;
-    for (const FaceRow &row : kFaceRows)
-        if (arguments.value(0) == row.word)
-            return row.face;
+    if (const FaceRow *const row = namedFace(arguments))
+        return row->face;
     return parser.isSet("no-dialog") ? Face::batch : Face::window;
 }
 
@@ -130,17 +150,24 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
 {
     QCommandLineParser parser;
     addOptions(parser);
-    if (!parser.parse(QStringList("qnprint") + arguments))
+    if (!parser.parse(QStringList("qnprint") + arguments.mid(namedFace(arguments) ? 1 : 0)))
         return Problem{parser.errorText()};
-    auto request = readRequest(parser);
+    CommandLine line;
+    line.face = faceOf(arguments);
+    auto request = readRequest(parser, line.face);
     if (!request)
         return request.problem();
     auto environment = readEnvironment(parser);
     if (!environment)
         return environment.problem();
-    request->language = parser.isSet("language") ? parser.value("language") : environment->locale.name();
-    return CommandLine{parser.positionalArguments(), *std::move(request), parser.value("panel"),
-                       *std::move(environment)};
+    if (const auto preview = readPreview(parser, line); !preview)
+        return preview.problem();
+    line.files = parser.positionalArguments();
+    line.panel = parser.value("panel");
+    line.environment = *std::move(environment);
+    line.request = *std::move(request);
+    line.request.language = parser.isSet("language") ? parser.value("language") : line.environment.locale.name();
+    return line;
 }
 
 QString helpText()

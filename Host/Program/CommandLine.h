@@ -17,13 +17,16 @@ Face faceOf(const QStringList &arguments);
 
 struct CommandLine
 {
-    QStringList files; // documents, or the picture of a shot
+    Face face = Face::window;
+    QStringList files; // documents, or pictures to be made
     PrintRequest request;
-    QString panel; // to show first; empty: the first one
+    QString panel;      // to show first; empty: the first one
+    int page = 1;       // of a preview
+    bool plain = false; // a preview in grey
     Environment environment;
 };
 
-/// Without the word that stands for a face, and without Qt's own arguments.
+/// Without Qt's own arguments.
 foundation::Or<CommandLine> readCommandLine(const QStringList &arguments);
 
 /// Needs an application, whose name it says.

@@ -13,5 +13,7 @@ int openDialog(const CommandLine &line);
 int printWithoutWindow(const CommandLine &line);
 /// `qnprint shot --ppd PPD PICTURE`: a picture of the window.
 int takeShot(const CommandLine &line);
+/// `qnprint preview DOCUMENT PICTURE`: a page as it will come out.
+int previewPage(const CommandLine &line);
 
 } // namespace host

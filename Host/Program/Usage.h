@@ -11,7 +11,7 @@ inline constexpr int kRefused = 1; // or cancelled, or failed
 inline constexpr int kWrongUse = 2;
 
 /// What the program becomes. Only the window needs a display.
-enum class Face { window, batch, script, shot, help, version };
+enum class Face { window, batch, script, shot, preview, help, version };
 
 /// What a shell offers for a value.
 enum class Completion { nothing, ppdFile, folder, queue };
@@ -52,6 +52,10 @@ inline constexpr std::array kOptionRows{
     OptionRow{
         nullptr, "no-dialog", nullptr, nullptr, "Print without a window, by the same rules and checks.",
         "Needs no display. An interrupt ends the program within two seconds, and cancels a job that is on its way."},
+    OptionRow{nullptr, "page", "number", "1", "The page of a preview, counted among those that are printed.",
+              "Goes with preview only."},
+    OptionRow{nullptr, "plain", nullptr, nullptr, "A preview in grey, as it is before the head burns it.",
+              "Before halftone, reversal and mirroring. Goes with preview only."},
     OptionRow{nullptr, "panel", "panel", nullptr, "Panel to show first, by its identifier.",
               "Does not go together with --no-dialog."},
     OptionRow{nullptr, "language", "language", nullptr, "Language of the panels.",
@@ -79,6 +83,10 @@ inline constexpr std::array kFaceRows{
     FaceRow{Face::shot, "shot", "shot --ppd file [options] picture",
             "Takes a picture of the window, without a display.",
             "The ending of the picture's name tells the format: .png."},
+    FaceRow{Face::preview, "preview", "preview [options] document picture",
+            "Takes a picture of a page as it comes out of the printer, without a display.",
+            "A dot of the thermal head is a pixel of the picture, a PNG of the whole sheet in black and white that has "
+            "the head's resolution. Nothing is printed. Pages are drawn by pdfinfo and pdftoppm of poppler-utils."},
 };
 
 struct ExitRow
@@ -129,6 +137,8 @@ inline constexpr std::array kExampleRows{
     TermRow{"qnprint -d counter/express ticket.pdf", "Opens it for a queue with one of its presets."},
     TermRow{"qnprint --no-dialog -d counter -n 2 -P 1-3,5 -o PageSize=A4 ticket.pdf", "Prints without a window."},
     TermRow{"qnprint --ppd printer.ppd --output out ticket.pdf", "Prints into a folder, without any CUPS server."},
+    TermRow{"qnprint preview -d counter -o QnHalftonePattern=Dither --page 2 invoice.pdf page.png",
+            "Shows what page 2 will look like."},
     TermRow{"qnprint shot --ppd printer.ppd --panel advanced panel.png", "Takes a picture of a panel."},
 };
 

@@ -37,7 +37,7 @@ int run(Face face, const host::Arguments &arguments)
         const host::Application application(face, arguments.ofQt);
         return host::runScript();
     }
-    const auto line = host::readCommandLine(arguments.ours.mid(face == Face::shot ? 1 : 0));
+    const auto line = host::readCommandLine(arguments.ours);
     if (!line) {
         host::complain(line.problem().sentence);
         return host::kWrongUse;
@@ -46,9 +46,12 @@ int run(Face face, const host::Arguments &arguments)
         host::prepareConversation(); // starts while the application does
     const host::Application application(face, arguments.ofQt);
     line->environment.apply();
-    if (face == Face::shot)
-        return host::takeShot(*line);
-    return face == Face::batch ? host::printWithoutWindow(*line) : host::openDialog(*line);
+    switch (face) {
+    case Face::shot: return host::takeShot(*line);
+    case Face::preview: return host::previewPage(*line);
+    case Face::batch: return host::printWithoutWindow(*line);
+    default: return host::openDialog(*line);
+    }
 }
 
 [[noreturn]] void talkWithServer(int argc, char *argv[])

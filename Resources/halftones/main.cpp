@@ -1,6 +1,8 @@
 // qn-halftones OUTDIR: draws the sample pictures of the halftone preview, each with its variant for dense displays.
 
-#include "Methods.h"
+#include "Pictures.h"
+
+#include "Halftone/Methods.h"
 
 #include <QDir>
 #include <QSaveFile>
@@ -14,7 +16,7 @@ namespace {
 struct Picture
 {
     const char *name;
-    QImage (*method)(const halftone::GreyImage &);
+    QImage (*method)(const QImage &);
 };
 
 constexpr Picture kPictures[] = {
@@ -35,7 +37,7 @@ bool write(const QImage &picture, const QString &path)
     return false;
 }
 
-bool writeBoth(const Picture &picture, const halftone::GreyImage &grey, const QDir &folder)
+bool writeBoth(const Picture &picture, const QImage &grey, const QDir &folder)
 {
     const QString name = QString::fromLatin1(picture.name);
     const QImage dots = picture.method(grey);
@@ -52,7 +54,7 @@ int main(int argc, char *argv[])
         return kWrongUse;
     }
     const QDir folder(QFile::decodeName(argv[1]));
-    const halftone::GreyImage grey = halftone::greySource();
+    const QImage grey = halftone::picture(halftone::greySource());
     for (const Picture &picture : kPictures)
         if (!writeBoth(picture, grey, folder))
             return EXIT_FAILURE;

@@ -1,24 +1,26 @@
-#include "Methods.h"
+#include "Pictures.h"
+
+#include "Halftone/Methods.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
 #include <string>
 
 using namespace halftone;
 
 namespace {
 
-using Method = QImage (*)(const GreyImage &);
+using Method = QImage (*)(const QImage &);
 
 constexpr std::array<Method, 3> kMethods{threshold, orderedDither, errorDiffusion};
 
-GreyImage flatField(int level)
+QImage flatField(int level)
 {
-    GreyImage grey;
-    grey.levels.fill(static_cast<std::uint8_t>(level));
+    QImage grey(GreyImage::side, GreyImage::side, QImage::Format_Grayscale8);
+    grey.fill(static_cast<uint>(level));
     return grey;
 }
 
@@ -45,7 +47,7 @@ void expectFlatFieldsKept(Method method, double tolerance)
 TEST(HalftoneMethods, EveryPictureIsOneDotPerLevelInBlackAndWhiteOnly)
 {
     for (const Method method : kMethods) {
-        const QImage dots = method(greySource());
+        const QImage dots = method(picture(greySource()));
         ASSERT_EQ(dots.format(), QImage::Format_Mono);
         ASSERT_EQ(dots.size(), QSize(GreyImage::side, GreyImage::side));
         for (int y = 0; y < dots.height(); ++y)
@@ -57,7 +59,7 @@ TEST(HalftoneMethods, EveryPictureIsOneDotPerLevelInBlackAndWhiteOnly)
 TEST(HalftoneMethods, ThresholdIsWhiteFromMidGreyUp)
 {
     const GreyImage grey = greySource();
-    const QImage dots = threshold(grey);
+    const QImage dots = threshold(picture(grey));
     for (int y = 0; y < GreyImage::side; ++y)
         for (int x = 0; x < GreyImage::side; ++x)
             ASSERT_EQ(isWhite(dots, x, y), grey.at(x, y) >= 128) << x << "," << y;
@@ -89,10 +91,37 @@ TEST(HalftoneMethods, OrderedDitherOfMidGreyIsACheckerboard)
 
 TEST(HalftoneMethods, ErrorDiffusionKeepsTheMeanOfEveryFlatField) { expectFlatFieldsKept(errorDiffusion, 0.01); }
 
+TEST(HalftoneMethods, ErrorDiffusionHandsOnWhatADotIsWrongBy)
+{
+    QImage grey(3, 2, QImage::Format_Grayscale8);
+    const uchar levels[2][3] = {{0, 100, 100}, {120, 120, 255}};
+    for (int y = 0; y < 2; ++y)
+        std::copy_n(levels[y], 3, grey.scanLine(y));
+    const QImage dots = errorDiffusion(grey);
+    // The first 100 is black and gives 43.75 to the other, which so becomes white and is 111.25 too much. Of that the
+    // white below is told 34.8, and the 120 beside it, walked backwards, comes to 117.9: black. The last has 190.
+    const bool white[2][3] = {{false, false, true}, {true, false, true}};
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 3; ++x)
+            EXPECT_EQ(isWhite(dots, x, y), white[y][x]) << x << "," << y;
+}
+
+TEST(HalftoneMethods, TakePicturesOfAnySize)
+{
+    for (const Method method : kMethods)
+        for (const QSize size : {QSize(1, 1), QSize(7, 3), QSize(8, 1), QSize(9, 2), QSize(33, 5), QSize(1, 40)}) {
+            QImage grey(size, QImage::Format_Grayscale8);
+            grey.fill(255U);
+            const QImage dots = method(grey);
+            ASSERT_EQ(dots.size(), size);
+            EXPECT_EQ(whiteShare(dots), 1) << size.width() << "x" << size.height();
+        }
+}
+
 TEST(HalftoneMethods, DenseVariantIsEveryDotAsTwoByTwoPixels)
 {
     for (const Method method : kMethods) {
-        const QImage dots = method(greySource());
+        const QImage dots = method(picture(greySource()));
         const QImage dense = doubled(dots);
         ASSERT_EQ(dense.format(), QImage::Format_Mono);
         ASSERT_EQ(dense.size(), 2 * dots.size());

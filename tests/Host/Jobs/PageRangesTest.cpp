@@ -45,4 +45,18 @@ INSTANTIATE_TEST_SUITE_P(Of, Copies,
                                          Number{"", std::nullopt}, Number{"x", std::nullopt},
                                          Number{"1.5", std::nullopt}));
 
+TEST(PagesOfADocument, AreAllWhereNoRangesAreGiven) { EXPECT_EQ(pagesAmong("", 3), (std::vector{1, 2, 3})); }
+
+TEST(PagesOfADocument, AreThoseOfTheRanges)
+{
+    EXPECT_EQ(pagesAmong("1-2,4", 4), (std::vector{1, 2, 4}));
+    EXPECT_EQ(pagesAmong("3", 3), std::vector{3});
+}
+
+TEST(PagesOfADocument, AreNoneBeyondItsEnd)
+{
+    for (const char *ranges : {"4", "2-4", "1,7-9", "1-999999999"})
+        EXPECT_EQ(pagesAmong(ranges, 3), std::nullopt) << ranges;
+}
+
 } // namespace

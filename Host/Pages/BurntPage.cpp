@@ -1,0 +1,129 @@
+#include "BurntPage.h"
+
+#include "Halftone/Methods.h"
+#include "Printing/Units.h"
+
+#include <QRegularExpression>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace host {
+
+namespace {
+
+constexpr double kLeastResolution = 50;
+constexpr double kLargestResolution = 1200;
+constexpr double kMostDots = 100e6; // 100 MB of grey
+constexpr double kMetresPerInch = printing::kMillimetresPerInch / 1000;
+
+bool isResolution(double dots) { return dots >= kLeastResolution && dots <= kLargestResolution; }
+
+int dotsAt(double points, double resolution)
+{
+    return static_cast<int>(std::lround(points / printing::kPointsPerInch * resolution));
+}
+
+QImage dotsBy(std::optional<PDEPrintEffect::Halftone> method, const QImage &grey)
+{
+    // A printer without a choice burns what is dark.
+    switch (method.value_or(PDEPrintEffect::Halftone::binary)) {
+    case PDEPrintEffect::Halftone::binary: return halftone::threshold(grey);
+    case PDEPrintEffect::Halftone::dither: return halftone::orderedDither(grey);
+    case PDEPrintEffect::Halftone::diffusion: return halftone::errorDiffusion(grey);
+    }
+    return halftone::threshold(grey);
+}
+
+bool isWhite(const uchar *bytes, int x) { return ((bytes[x / 8] << (x % 8)) & 0x80) != 0; }
+
+void setDot(uchar *bytes, int x, bool white)
+{
+    const auto bit = static_cast<uchar>(0x80 >> (x % 8));
+    bytes[x / 8] = static_cast<uchar>(white ? bytes[x / 8] | bit : bytes[x / 8] & ~bit);
+}
+
+/// Black for white, and left for right, within an area.
+void changeAbout(QImage &dots, const QRect &area, const PDEPrintEffect &effect)
+{
+    std::vector<uchar> before(static_cast<std::size_t>(dots.bytesPerLine()));
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        uchar *const bytes = dots.scanLine(y);
+        std::copy_n(bytes, before.size(), before.begin());
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const int from = effect.mirrored ? area.left() + area.right() - x : x;
+            setDot(bytes, x, isWhite(before.data(), from) != effect.reversed);
+        }
+    }
+}
+
+} // namespace
+
+std::optional<Resolution> resolutionNamed(const QString &name)
+{
+    static const QRegularExpression kForm(R"(\A(\d{1,5})(?:x(\d{1,5}))?dpi\z)");
+    const auto match = kForm.match(name);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const double across = match.captured(1).toDouble();
+    const double along = match.hasCaptured(2) ? match.captured(2).toDouble() : across;
+    return isResolution(across) && isResolution(along) ? std::optional(Resolution{across, along}) : std::nullopt;
+}
+
+SheetDots::SheetDots(const Sheet &sheet, Resolution resolution)
+    : m_sheet(sheet)
+    , m_resolution(resolution)
+{}
+
+QRect SheetDots::at(const QRectF &points) const
+{
+    const QPoint from(dotsAt(points.left(), m_resolution.across), dotsAt(points.top(), m_resolution.along));
+    const QPoint to(dotsAt(points.right(), m_resolution.across), dotsAt(points.bottom(), m_resolution.along));
+    return {from, QSize(to.x() - from.x(), to.y() - from.y())};
+}
+
+bool SheetDots::areBearable(QSizeF dots)
+{
+    return dots.width() >= 1 && dots.height() >= 1 && dots.width() * dots.height() <= kMostDots;
+}
+
+bool SheetDots::isBearable() const
+{
+    return areBearable({m_sheet.size.width / printing::kPointsPerInch * m_resolution.across,
+                        m_sheet.size.height / printing::kPointsPerInch * m_resolution.along});
+}
+
+QSize SheetDots::dotsOfPage(const Placement &placement) const
+{
+    const QSize dots = at(placement.where).size().expandedTo({1, 1});
+    return placement.isTurned ? dots.transposed() : dots;
+}
+
+QImage SheetDots::withPage(const QImage &page, const Placement &placement) const
+{
+    QImage sheet(size(), QImage::Format_Grayscale8);
+    sheet.setDotsPerMeterX(static_cast<int>(std::lround(m_resolution.across / kMetresPerInch)));
+    sheet.setDotsPerMeterY(static_cast<int>(std::lround(m_resolution.along / kMetresPerInch)));
+    sheet.fill(Qt::white);
+    const QImage upright = placement.isTurned ? page.transformed(QTransform().rotate(90)) : page;
+    const QPoint corner = at(placement.where).topLeft();
+    const QRect covered = QRect(corner, upright.size()) & printable();
+    for (int y = covered.top(); y <= covered.bottom(); ++y)
+        std::copy_n(upright.constScanLine(y - corner.y()) + covered.left() - corner.x(), covered.width(),
+                    sheet.scanLine(y) + covered.left());
+    return sheet;
+}
+
+QImage SheetDots::burnt(const QImage &sheet, const std::optional<PDEPrintEffect> &effect) const
+{
+    if (!effect)
+        return sheet;
+    QImage dots = dotsBy(effect->halftone, sheet);
+    if (effect->reversed || effect->mirrored)
+        changeAbout(dots, printable(), *effect);
+    return dots;
+}
+
+} // namespace host

@@ -1,0 +1,55 @@
+// A page as the thermal head burns it.
+#pragma once
+
+#include "Placement.h"
+
+#include "PDEPlugInInterface.h"
+
+#include <QImage>
+
+namespace host {
+
+/// Dots an inch.
+struct Resolution
+{
+    double across = 203; // the head's, where nothing says another
+    double along = 203;
+
+    friend bool operator==(const Resolution &, const Resolution &) = default;
+};
+
+/// Of "203dpi", "300x200dpi". Nil for what is none, and for what no head has.
+std::optional<Resolution> resolutionNamed(const QString &name);
+
+/// A sheet's dots.
+class SheetDots
+{
+public:
+    SheetDots(const Sheet &sheet, Resolution resolution);
+
+    const Sheet &sheet() const { return m_sheet; }
+    const Resolution &resolution() const { return m_resolution; }
+    QSize size() const { return at(QRectF(0, 0, m_sheet.size.width, m_sheet.size.height)).size(); }
+    /// Nearest to a place on the sheet in points.
+    QRect at(const QRectF &points) const;
+    QRect printable() const { return at(m_sheet.printable) & QRect({}, size()); }
+    /// Whether so many can be held in memory.
+    bool isBearable() const;
+    static bool areBearable(QSizeF dots);
+
+    /// The sheet with a page on it, in grey, and white where the printer can't reach. `page` is drawn in as many dots
+    /// as `where` of its placement has, before it is turned.
+    QImage withPage(const QImage &page, const Placement &placement) const;
+    /// How many those are.
+    QSize dotsOfPage(const Placement &placement) const;
+
+    /// As the head burns it: dots, black ones and white ones, by the method, changed about and mirrored where the
+    /// printer can reach. Without an effect the grey sheet itself.
+    QImage burnt(const QImage &sheet, const std::optional<PDEPrintEffect> &effect) const;
+
+private:
+    Sheet m_sheet;
+    Resolution m_resolution;
+};
+
+} // namespace host

@@ -1,0 +1,39 @@
+// The pages of a PDF, read and drawn by programs beside us: documents are anybody's input, and never come into our
+// own memory but as pictures.
+#pragma once
+
+#include "Jobs/Document.h"
+
+#include <QImage>
+#include <QSizeF>
+
+#include <stop_token>
+#include <vector>
+
+namespace host {
+
+class PageReader
+{
+    Q_DECLARE_TR_FUNCTIONS(host::PageReader)
+
+public:
+    /// Of a PDF, which is only borrowed, by its descriptor.
+    explicit PageReader(const Document &document);
+
+    /// The size of each page in points, as it is looked at. A problem when the document is damaged, locked, or of too
+    /// many pages, and when there is no program to read it.
+    foundation::Or<std::vector<QSizeF>> sizes(const std::stop_token &stop) const;
+
+    /// A page, from 1 on, in so many dots, as a QImage::Format_Grayscale8. A problem when it can't be drawn, or not in
+    /// the time and memory that it is given.
+    foundation::Or<QImage> draw(int page, QSize dots, const std::stop_token &stop) const;
+
+private:
+    foundation::Or<QByteArray> answerOf(const QString &program, const QStringList &arguments, qint64 mostBytes,
+                                        const std::stop_token &stop) const;
+
+    QString m_title;
+    QString m_path; // opened anew by each program, so that each begins at the document's beginning
+};
+
+} // namespace host

@@ -1,0 +1,38 @@
+// Where a page comes to stand on a sheet: as CUPS puts it there, before the driver sees it.
+#pragma once
+
+#include "Sheet.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace host {
+
+/// Of `print-scaling`, and as the server reads it.
+enum class Scaling {
+    automatic, // as it is; what is larger than the paper is fitted, or fills a paper without margins
+    autoFit,   // the same, but for such a paper
+    fit,       // as large as the printable area allows
+    fill,      // until it covers the printable area
+    none,      // as it is, and cut
+};
+
+/// Nil for a text that is none of its names.
+std::optional<Scaling> scalingNamed(const QString &name);
+
+/// What a document's pages are put on sheets by: `automatic` is decided once for all of them, by the largest. Sizes are
+/// in points, as pages are looked at.
+Scaling decided(Scaling wanted, const std::vector<QSizeF> &pages, const Sheet &sheet);
+
+struct Placement
+{
+    bool isTurned = false; // by a quarter, clockwise: a landscape page on portrait paper, or the other way about
+    QRectF where;          // of the page as it is turned, on the sheet, in points from its upper left corner
+};
+
+/// `scaling` has been decided.
+Placement placementOf(QSizeF page, const Sheet &sheet, Scaling scaling);
+
+} // namespace host

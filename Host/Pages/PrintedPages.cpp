@@ -1,0 +1,51 @@
+#include "PrintedPages.h"
+
+#include "LaidOut.h"
+
+#include "Jobs/PageRanges.h"
+
+namespace host {
+
+using foundation::Or;
+using foundation::Problem;
+
+Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Sheet &sheet, Scaling scaling,
+                                  const QString &ranges, const std::stop_token &stop)
+{
+    auto pages = laidOut(std::move(document), sheet);
+    if (!pages)
+        return pages.problem();
+    const QString title = (*pages)->title();
+    if ((*pages)->format() != "application/pdf")
+        return Problem{tr("%1: PostScript can't be shown before it is printed").arg(title)};
+    auto sizes = PageReader(**pages).sizes(stop);
+    if (!sizes)
+        return sizes.problem();
+    PrintedPages result;
+    result.m_document = *std::move(pages);
+    result.m_sizes = *std::move(sizes);
+    result.m_scaling = decided(scaling, result.m_sizes, sheet);
+    auto numbers = pagesAmong(ranges, result.countOfDocument());
+    if (!numbers)
+        return Problem{tr("Pages %1: %2 has %3", "ranges, a document, and how many pages it has")
+                           .arg(ranges, title, QString::number(result.countOfDocument()))};
+    result.m_numbers = *std::move(numbers);
+    return result;
+}
+
+Or<QImage> PrintedPages::sheet(int index, const SheetDots &dots, const std::stop_token &stop) const
+{
+    if (!dots.isBearable())
+        return Problem{tr("The paper is too large to be shown.")};
+    const int number = m_numbers.at(static_cast<std::size_t>(index));
+    const Placement placement = placementOf(m_sizes.at(static_cast<std::size_t>(number) - 1), dots.sheet(), m_scaling);
+    const QSize size = dots.dotsOfPage(placement);
+    if (!SheetDots::areBearable(size))
+        return Problem{tr("%1: page %2 is too large to be shown").arg(m_document->title(), QString::number(number))};
+    const auto page = PageReader(*m_document).draw(number, size, stop);
+    if (!page)
+        return page.problem();
+    return dots.withPage(*page, placement);
+}
+
+} // namespace host
