@@ -82,17 +82,25 @@ int openDialog(const CommandLine &line)
 
 int takeShot(const CommandLine &line)
 {
-    if (line.request.ppd.isEmpty() || line.files.size() != 1) {
-        complain("shot: needs --ppd FILE and the name of one picture");
+    if (line.request.ppd.isEmpty() || line.files.isEmpty() || line.files.size() > 2) {
+        complain("shot: needs --ppd FILE and the name of one picture, with a document before it or without");
         return kWrongUse;
     }
     useWindowTexts(line.request.language);
-    return withWindow(line, {}, [&line](DialogWindow &window, PrintDialog &) {
+    const QStringList documents = line.files.first(line.files.size() - 1);
+    return withWindow(line, documents, [&](DialogWindow &window, PrintDialog &dialog) {
+        if (dialog.documents().size() < static_cast<std::size_t>(documents.size())) {
+            complain(dialog.message());
+            return kRefused;
+        }
+        window.showPreview(!documents.isEmpty());
         window.show();
         QCoreApplication::processEvents();
-        if (window.grab().save(line.files.first()))
+        while (!window.isComplete())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (window.grab().save(line.files.last()))
             return kDone;
-        complain(QString("%1: can't be written").arg(line.files.first()));
+        complain(QString("%1: can't be written").arg(line.files.last()));
         return kRefused;
     });
 }

@@ -5,6 +5,7 @@
 
 #include "CredentialsBox.h"
 #include "PresetNameBox.h"
+#include "PreviewPane.h"
 #include "SummaryView.h"
 
 #include "Foundation/PlainText.h"
@@ -30,6 +31,7 @@ using foundation::UserDefaults;
 namespace {
 
 constexpr auto kSummaryIsUnfolded = "SummaryIsUnfolded";
+constexpr auto kPreviewIsUnfolded = "PreviewIsUnfolded";
 constexpr int kHeightOfFrame = 40; // that a window manager may add
 
 /// A menu or a number of a panel's, or of a bundle's of somebody else.
@@ -78,8 +80,13 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
     showAmount();
     showMessage();
     showState();
-    if (UserDefaults::standard().objectForKey(kSummaryIsUnfolded) == "yes")
-        m_ui->unfold->setChecked(true);
+    for (const auto &[button, key] :
+         {std::pair(m_ui->unfoldPreview, kPreviewIsUnfolded), std::pair(m_ui->unfold, kSummaryIsUnfolded)}) {
+        button->setChecked(UserDefaults::standard().objectForKey(key) == "yes");
+        connect(button, &QPushButton::clicked, this, [key = key](bool isUnfolded) {
+            UserDefaults::standard().setObjectForKey(isUnfolded ? "yes" : "no", key);
+        });
+    }
     fitToScreen();
 }
 
@@ -138,7 +145,8 @@ void DialogWindow::connectFields()
     connect(m_ui->tabs, &QTabBar::currentChanged, this, &DialogWindow::showPanelAt);
     connect(m_ui->retry, &QPushButton::clicked, &m_dialog, &PrintDialog::lookAgain);
     connect(m_ui->choose, &QPushButton::clicked, this, &DialogWindow::chooseFiles);
-    connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::unfold);
+    connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::showSummary);
+    connect(m_ui->unfoldPreview, &QPushButton::toggled, this, &DialogWindow::showPreview);
     connect(m_ui->buttons, &QDialogButtonBox::accepted, this, [this] {
         if (m_paper->commit())
             m_dialog.print();
@@ -328,16 +336,42 @@ void DialogWindow::fitToScreen()
     resize(wanted.boundedTo(room));
 }
 
-void DialogWindow::unfold(bool isUnfolded)
+void DialogWindow::showSummary(bool isShown)
 {
     if (!m_summary) {
         m_summary = new SummaryView(this);
-        m_ui->columns->addWidget(m_summary);
-        restoreTabOrder();
+        putBeside(*m_summary, 1);
     }
-    m_summary->setVisible(isUnfolded);
-    UserDefaults::standard().setObjectForKey(isUnfolded ? "yes" : "no", kSummaryIsUnfolded);
+    unfold(*m_summary, isShown);
     showSettings();
+}
+
+void DialogWindow::showPreview(bool isShown)
+{
+    m_ui->unfoldPreview->setChecked(isShown);
+    if (!m_preview && !isShown)
+        return;
+    if (!m_preview) {
+        m_preview = new PreviewPane(m_dialog, this);
+        putBeside(*m_preview, 2);
+    }
+    unfold(*m_preview, isShown);
+}
+
+/// The preview above the summary, whichever is seen first.
+void DialogWindow::putBeside(QWidget &part, int stretch)
+{
+    if (!m_beside) {
+        m_beside = new QVBoxLayout;
+        m_ui->columns->addLayout(m_beside);
+    }
+    m_beside->insertWidget(&part == m_preview ? 0 : -1, &part, stretch);
+    restoreTabOrder();
+}
+
+void DialogWindow::unfold(QWidget &part, bool isUnfolded)
+{
+    part.setVisible(isUnfolded);
     layout()->activate();
     fitToScreen();
 }
@@ -386,6 +420,8 @@ void DialogWindow::showSettings()
     if (m_summary && m_summary->isVisibleTo(this))
         m_summary->show(m_dialog.summary());
 }
+
+bool DialogWindow::isComplete() const { return !m_preview || !m_preview->preview().isBusy(); }
 
 bool DialogWindow::showPanel(const QString &identifier)
 {
@@ -440,9 +476,10 @@ void DialogWindow::restoreTabOrder()
     QWidget *last = previousInFocusChain();
     while (last->focusPolicy() == Qt::NoFocus)
         last = last->previousInFocusChain();
-    for (QWidget *below :
-         {static_cast<QWidget *>(m_summary), static_cast<QWidget *>(m_ui->retry), static_cast<QWidget *>(m_ui->choose),
-          static_cast<QWidget *>(m_ui->unfold), static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)}) {
+    for (QWidget *below : {static_cast<QWidget *>(m_preview), static_cast<QWidget *>(m_summary),
+                           static_cast<QWidget *>(m_ui->retry), static_cast<QWidget *>(m_ui->choose),
+                           static_cast<QWidget *>(m_ui->unfold), static_cast<QWidget *>(m_ui->unfoldPreview),
+                           static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)}) {
         if (!below)
             continue;
         setTabOrder(last, below);

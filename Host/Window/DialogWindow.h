@@ -12,9 +12,11 @@
 
 class QAction;
 class QPushButton;
+class QVBoxLayout;
 
 namespace host {
 
+class PreviewPane;
 class SummaryView;
 
 namespace Ui {
@@ -35,6 +37,11 @@ public:
     /// Shows a panel as soon as there is a printer; a message tells when there is no such panel.
     void showPanelFirst(const QString &identifier);
     void reject() override;
+
+    /// Shows the preview, or folds it away.
+    void showPreview(bool isShown);
+    /// Whether all of it that is to be seen is there.
+    bool isComplete() const;
 
 protected:
     bool event(QEvent *event) override;
@@ -62,7 +69,9 @@ private:
     void showPanelAt(int index);
     void showInPlaceOfPanel();
     void setSending(bool isSending);
-    void unfold(bool isUnfolded);
+    void showSummary(bool isShown);
+    void putBeside(QWidget &part, int stretch);
+    void unfold(QWidget &part, bool isUnfolded);
     void fitToScreen();
     void addToPanelSpace(QWidget &view);
     void restoreTabOrder();
@@ -74,7 +83,9 @@ private:
     PrintDialog &m_dialog;
     std::unique_ptr<Ui::DialogWindow> m_ui;
     PaperChooser *m_paper;
-    SummaryView *m_summary = nullptr; // made when it is first seen
+    QVBoxLayout *m_beside = nullptr; // what stands beside the settings; each made when it is first seen
+    PreviewPane *m_preview = nullptr;
+    SummaryView *m_summary = nullptr;
     QPointer<QWidget> m_focusBeforeJob;
     QString m_user; // who has said a password before
     QAction *m_remove;
