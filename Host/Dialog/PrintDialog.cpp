@@ -138,6 +138,13 @@ void PrintDialog::setPages(const QString &pages)
     settleSoon();
 }
 
+void PrintDialog::setScaling(Scaling scaling)
+{
+    if (m_target)
+        m_target->setScaling(scaling);
+    settleSoon();
+}
+
 void PrintDialog::choosePrinter(const QString &name)
 {
     if (m_state == State::sending)

@@ -71,6 +71,7 @@ public:
     bool show(PDEPanel &panel);
     void setCopies(int copies);
     void setPages(const QString &pages);
+    void setScaling(Scaling scaling);
     void restorePreset(const QString &name);
     /// An empty name saves the user's own defaults.
     void savePreset(const QString &name);

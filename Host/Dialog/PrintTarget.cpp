@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 
 namespace host {
 
@@ -49,12 +50,29 @@ QString PrintTarget::fateOf(const QString &title) const
                       : tr("%1: sent to %2").arg(title, m_name);
 }
 
+namespace {
+
+constexpr auto kScaling = "print-scaling";
+constexpr std::array kFitWords{"fit-to-page", "fitplot"}; // as older programs ask for it
+
+} // namespace
+
 Scaling PrintTarget::scaling() const
 {
-    for (const char *word : {"fit-to-page", "fitplot"}) // as older programs ask for it
+    for (const char *word : kFitWords)
         if (m_serverOptions.value(word) == "true" || m_serverOptions.value(word) == "yes")
             return Scaling::fit;
-    return scalingNamed(m_serverOptions.value("print-scaling")).value_or(Scaling::automatic);
+    return scalingNamed(m_serverOptions.value(kScaling)).value_or(Scaling::automatic);
+}
+
+void PrintTarget::setScaling(Scaling scaling)
+{
+    for (const char *word : kFitWords)
+        m_serverOptions.remove(word);
+    if (scaling == Scaling::automatic)
+        m_serverOptions.remove(kScaling);
+    else
+        m_serverOptions[kScaling] = nameOf(scaling);
 }
 
 OptionValues PrintTarget::restore(const QString &) { return {}; }

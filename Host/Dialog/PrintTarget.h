@@ -82,6 +82,7 @@ public:
     virtual Resolution resolution() const { return {}; }
     /// As the job says.
     Scaling scaling() const;
+    void setScaling(Scaling scaling);
 
     /// Whether all panels agree to print; one that does not has told the user why.
     virtual bool agrees() { return true; }

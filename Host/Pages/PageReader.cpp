@@ -17,6 +17,7 @@ using foundation::Problem;
 
 namespace {
 
+constexpr auto kInfo = "pdfinfo";
 constexpr int kMostPages = 100'000;
 constexpr qint64 kMostInfoBytes = qint64{100} * kMostPages; // a page takes two short lines
 constexpr auto kTimeToDraw = std::chrono::seconds(30);
@@ -140,10 +141,12 @@ Or<QByteArray> PageReader::answerOf(const QString &program, const QStringList &a
                        : tr("%1: the document is damaged").arg(m_title)};
 }
 
+bool PageReader::isThere() { return !QStandardPaths::findExecutable(kInfo).isEmpty(); }
+
 Or<std::vector<QSizeF>> PageReader::sizes(const std::stop_token &stop) const
 {
     const QString all = QString::number(kMostPages + 1);
-    const auto info = answerOf("pdfinfo", {"-f", "1", "-l", all, "-"}, kMostInfoBytes, stop);
+    const auto info = answerOf(kInfo, {"-f", "1", "-l", all, "-"}, kMostInfoBytes, stop);
     if (!info)
         return info.problem();
     auto sizes = readSizes(*info);

@@ -21,10 +21,14 @@ enum class Scaling {
 
 /// Nil for a text that is none of its names.
 std::optional<Scaling> scalingNamed(const QString &name);
+QString nameOf(Scaling scaling);
 
 /// What a document's pages are put on sheets by: `automatic` is decided once for all of them, by the largest. Sizes are
 /// in points, as pages are looked at.
 Scaling decided(Scaling wanted, const std::vector<QSizeF> &pages, const Sheet &sheet);
+
+/// A page's size as it lies on a sheet: landscape pages are turned on portrait paper, and the other way about.
+QSizeF turnedFor(const Sheet &sheet, QSizeF page);
 
 struct Placement
 {

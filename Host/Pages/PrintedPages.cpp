@@ -27,8 +27,10 @@ Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Shee
     result.m_scaling = decided(scaling, result.m_sizes, sheet);
     auto numbers = pagesAmong(ranges, result.countOfDocument());
     if (!numbers)
-        return Problem{tr("Pages %1: %2 has %3", "ranges, a document, and how many pages it has")
-                           .arg(ranges, title, QString::number(result.countOfDocument()))};
+        return Problem{result.countOfDocument() == 1
+                           ? tr("%1 has only one page, not %2", "a document, ranges of pages").arg(title, ranges)
+                           : tr("%1 has only %2 pages, not %3", "a document, a number, ranges of pages")
+                                 .arg(title, QString::number(result.countOfDocument()), ranges)};
     result.m_numbers = *std::move(numbers);
     return result;
 }

@@ -98,6 +98,7 @@ int takeShot(const CommandLine &line)
         QCoreApplication::processEvents();
         while (!window.isComplete())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents(); // what has come last takes its place
         if (window.grab().save(line.files.last()))
             return kDone;
         complain(QString("%1: can't be written").arg(line.files.last()));

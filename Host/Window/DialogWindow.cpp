@@ -304,7 +304,44 @@ void DialogWindow::showEvent(QShowEvent *event)
     QTimer::singleShot(0, this, [this] {
         m_dialog.prepareAll();
         showSettings();
+        checkDocument();
     });
+}
+
+void DialogWindow::checkDocument()
+{
+    if (m_check)
+        return;
+    m_check = std::make_unique<DocumentCheck>(m_dialog);
+    connect(m_check.get(), &DocumentCheck::changed, this, &DialogWindow::showCheck);
+}
+
+/// How many pages there are, beside those that are to be printed, and what helps where they don't go with the paper.
+void DialogWindow::showCheck()
+{
+    if (const auto pages = m_check->pages(); pages && !m_ofPages) {
+        m_ofPages = new QLabel(m_ui->settings);
+        m_ui->amountRow->addWidget(m_ofPages);
+    }
+    if (m_ofPages) {
+        m_ofPages->setVisible(m_check->pages().has_value());
+        m_ofPages->setText(tr("of %1", "how many pages").arg(QString::number(m_check->pages().value_or(0))));
+    }
+    const auto &remedy = m_check->remedy();
+    if (remedy && !m_remedy) {
+        m_remedy = new QPushButton(this);
+        m_remedy->setAutoDefault(false);
+        m_ui->messageRow->addWidget(m_remedy);
+        connect(m_remedy, &QPushButton::clicked, this, [this] {
+            m_check->takeRemedy();
+            showPaper();
+        });
+        restoreTabOrder();
+    }
+    if (m_remedy) {
+        m_remedy->setVisible(remedy && m_dialog.state() == PrintDialog::State::ready);
+        m_remedy->setText(remedy ? toolkit::withoutMnemonic(foundation::withoutControls(remedy->text)) : QString());
+    }
 }
 
 void DialogWindow::dragEnterEvent(QDragEnterEvent *event)
@@ -421,7 +458,10 @@ void DialogWindow::showSettings()
         m_summary->show(m_dialog.summary());
 }
 
-bool DialogWindow::isComplete() const { return !m_preview || !m_preview->preview().isBusy(); }
+bool DialogWindow::isComplete() const
+{
+    return (!m_preview || !m_preview->preview().isBusy()) && (!m_check || !m_check->isBusy());
+}
 
 bool DialogWindow::showPanel(const QString &identifier)
 {

@@ -3,7 +3,7 @@
 
 #include "PaperChooser.h"
 
-#include "Dialog/PrintDialog.h"
+#include "Dialog/DocumentCheck.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -11,6 +11,7 @@
 #include <memory>
 
 class QAction;
+class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
@@ -69,6 +70,8 @@ private:
     void showPanelAt(int index);
     void showInPlaceOfPanel();
     void setSending(bool isSending);
+    void checkDocument();
+    void showCheck();
     void showSummary(bool isShown);
     void putBeside(QWidget &part, int stretch);
     void unfold(QWidget &part, bool isUnfolded);
@@ -83,6 +86,9 @@ private:
     PrintDialog &m_dialog;
     std::unique_ptr<Ui::DialogWindow> m_ui;
     PaperChooser *m_paper;
+    std::unique_ptr<DocumentCheck> m_check; // once the window is there
+    QLabel *m_ofPages = nullptr;           // made when they are known
+    QPushButton *m_remedy = nullptr;       // made when there is one
     QVBoxLayout *m_beside = nullptr; // what stands beside the settings; each made when it is first seen
     PreviewPane *m_preview = nullptr;
     SummaryView *m_summary = nullptr;
