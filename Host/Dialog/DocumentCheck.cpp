@@ -26,8 +26,10 @@ double inUsersUnit(double points)
 
 QString number(double points)
 {
-    const double value = inUsersUnit(points);
-    return foundation::Locale::current().locale().toString(foundation::IsMetric() ? std::round(value) : value, 'g', 4);
+    constexpr int kMostDigits = 9;
+    const double steps = foundation::IsMetric() ? 1 : 100; // a unit
+    return foundation::Locale::current().locale().toString(std::round(inUsersUnit(points) * steps) / steps, 'g',
+                                                           kMostDigits);
 }
 
 QString unit() { return foundation::IsMetric() ? QStringLiteral("mm") : QStringLiteral("in"); }
@@ -142,11 +144,11 @@ DocumentCheck::Remedy DocumentCheck::remedyFor(QSizeF page, const Sheet &sheet) 
         for (const PaperEntry &paper : m_dialog.target()->papers())
             if (isNear(size, paper.size))
                 return {tr("Use %1", "a paper").arg(paper.text), ChosenPaper{paper.name, paper.size}};
-    const QSizeF upright = page.width() <= page.height() ? page : page.transposed(); // as such paper goes in
-    if (isWithin(upright, m_dialog.target()->customSizeLimits()))
-        return {tr("Use %1 × %2 %3", "width, height, unit")
-                    .arg(number(upright.width()), number(upright.height()), unit()),
-                ChosenPaper{printing::kUserDefinedPaper, printing::Paper{upright.width(), upright.height()}}};
+    for (const QSizeF size : {page, page.transposed()})
+        if (isWithin(size, m_dialog.target()->customSizeLimits()))
+            return {
+                tr("Use %1 × %2 %3", "width, height, unit").arg(number(size.width()), number(size.height()), unit()),
+                ChosenPaper{printing::kUserDefinedPaper, printing::Paper{size.width(), size.height()}}};
     return {tr("Fit to Paper"), std::nullopt};
 }
 

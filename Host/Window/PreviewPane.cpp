@@ -1,6 +1,8 @@
 // The preview with what turns its pages.
 #include "PreviewPane.h"
 
+#include "Fields.h"
+
 #include <QCheckBox>
 #include <QLabel>
 #include <QToolButton>
@@ -25,6 +27,7 @@ QToolButton *arrow(Qt::ArrowType direction, const QString &name)
 
 PreviewPane::PreviewPane(PrintDialog &dialog, QWidget *parent)
     : QWidget(parent)
+    , m_dialog(dialog)
     , m_preview(dialog)
     , m_view(new PageView(m_preview))
     , m_back(arrow(Qt::LeftArrow, tr("Page before")))
@@ -32,6 +35,7 @@ PreviewPane::PreviewPane(PrintDialog &dialog, QWidget *parent)
     , m_forward(arrow(Qt::RightArrow, tr("Next page")))
     , m_zoom(new QToolButton)
     , m_asPrinted(new QCheckBox(tr("As pr&inted")))
+    , m_scaling(new Menu)
 {
     m_number->setAlignment(Qt::AlignCenter);
     m_number->setTextFormat(Qt::PlainText);
@@ -54,6 +58,8 @@ PreviewPane::PreviewPane(PrintDialog &dialog, QWidget *parent)
     rows->addWidget(m_view, 1);
     rows->addLayout(turning);
     rows->addWidget(m_asPrinted);
+    rows->addWidget(m_scaling);
+    offerScalings();
 
     connect(m_back, &QToolButton::clicked, this, [this] { m_preview.setPage(m_preview.page() - 1); });
     connect(m_forward, &QToolButton::clicked, this, [this] { m_preview.setPage(m_preview.page() + 1); });
@@ -63,7 +69,19 @@ PreviewPane::PreviewPane(PrintDialog &dialog, QWidget *parent)
             [this] { m_zoom->setChecked(m_view->zoom() == PageView::Zoom::dots); });
     connect(m_asPrinted, &QCheckBox::toggled, &m_preview, &PagePreview::setBurnt);
     connect(&m_preview, &PagePreview::changed, this, &PreviewPane::follow);
+    connect(m_scaling, &QComboBox::activated, this,
+            [this] { m_dialog.setScaling(static_cast<Scaling>(m_scaling->currentData().toInt())); });
     follow();
+}
+
+void PreviewPane::offerScalings()
+{
+    m_scaling->addItem(tr("Size: automatic"), static_cast<int>(Scaling::automatic));
+    m_scaling->addItem(tr("Size: as it is"), static_cast<int>(Scaling::none));
+    m_scaling->addItem(tr("Size: fit to paper"), static_cast<int>(Scaling::fit));
+    m_scaling->addItem(tr("Size: fill the paper"), static_cast<int>(Scaling::fill));
+    m_scaling->setAccessibleName(tr("Size of the pages"));
+    m_scaling->setToolTip(tr("Automatic: pages that are larger than the paper are made smaller"));
 }
 
 void PreviewPane::showEvent(QShowEvent *event)
@@ -86,6 +104,10 @@ void PreviewPane::follow()
     m_view->setAccessibleDescription(count > 0 ? m_number->text() : m_preview.problem());
     m_back->setEnabled(m_preview.page() > 0);
     m_forward->setEnabled(m_preview.page() + 1 < count);
+    const auto scaling = m_dialog.target() ? m_dialog.target()->scaling() : Scaling::automatic;
+    const int index = m_scaling->findData(static_cast<int>(scaling));
+    m_scaling->setCurrentIndex(std::max(0, index)); // nearly the same as automatic
+    m_scaling->setEnabled(m_dialog.target());
     m_asPrinted->setEnabled(m_preview.effect().has_value());
 }
 

@@ -4,6 +4,7 @@
 #include "PageView.h"
 
 class QCheckBox;
+class QComboBox;
 class QLabel;
 class QToolButton;
 
@@ -24,8 +25,10 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void offerScalings();
     void follow();
 
+    PrintDialog &m_dialog;
     PagePreview m_preview;
     PageView *m_view;
     QToolButton *m_back;
@@ -33,6 +36,7 @@ private:
     QToolButton *m_forward;
     QToolButton *m_zoom;
     QCheckBox *m_asPrinted;
+    QComboBox *m_scaling;
 };
 
 } // namespace host
