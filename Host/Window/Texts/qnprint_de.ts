@@ -311,6 +311,45 @@
     </message>
 </context>
 <context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1: kann nicht mehr gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1: das Bild ist zu groß, um gesetzt zu werden</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1: hat sich während des Lesens geändert</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1: das Bild ist beschädigt</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1: Bilder dieser Art können nicht gelesen werden; die weiteren Bildformate von Qt sind nicht installiert</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1: kann für dieses Papier nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: seine Seiten können nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1: der Text ist zu lang, um gesetzt zu werden</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDDocument</name>
     <message>
         <source>%1: not a PPD file (the file is empty)</source>

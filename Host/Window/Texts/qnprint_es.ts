@@ -311,6 +311,45 @@
     </message>
 </context>
 <context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1: ya no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1: la imagen es demasiado grande para componerla</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1: ha cambiado mientras se leía</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1: la imagen está dañada</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1: no se puede leer este tipo de imagen; los formatos de imagen adicionales de Qt no están instalados</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1: no se puede componer para este papel</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: no se pueden guardar sus páginas: %2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1: el texto es demasiado largo para componerlo</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDDocument</name>
     <message>
         <source>%1: not a PPD file (the file is empty)</source>

@@ -311,6 +311,45 @@
     </message>
 </context>
 <context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1 : ne peut plus être lu</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1 : l’image est trop grande pour être mise en page</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1 : a changé pendant la lecture</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1 : l’image est endommagée</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1 : ce type d’image ne peut pas être lu ; les formats d’image supplémentaires de Qt ne sont pas installés</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1 : ne peut pas être mis en page pour ce papier</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1 : ses pages ne peuvent pas être enregistrées : %2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1 : le texte est trop long pour être mis en page</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDDocument</name>
     <message>
         <source>%1: not a PPD file (the file is empty)</source>

@@ -311,6 +311,45 @@
     </message>
 </context>
 <context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1：もう読み込めません</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1：画像が大きすぎてレイアウトできません</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1：読み取り中に変更されました</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1：画像が壊れています</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>キャンセルしました</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1：この種類の画像は読み取れません。Qt の追加画像形式がインストールされていません</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1：この用紙にはレイアウトできません</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：ページを保存できません：%2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1：テキストが長すぎてレイアウトできません</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDDocument</name>
     <message>
         <source>%1: not a PPD file (the file is empty)</source>

@@ -311,6 +311,45 @@
     </message>
 </context>
 <context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1：无法再读取</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1：图像太大，无法排版</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1：在读取过程中已更改</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1：图像已损坏</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1：无法读取此类图像；未安装 Qt 的附加图像格式</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1：无法按此纸张排版</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：无法保存其页面：%2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1：文本太长，无法排版</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDDocument</name>
     <message>
         <source>%1: not a PPD file (the file is empty)</source>
