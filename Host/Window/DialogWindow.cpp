@@ -392,8 +392,10 @@ bool DialogWindow::showPanel(const QString &identifier)
     const auto &panels = m_dialog.target()->panels();
     const auto found =
         std::ranges::find_if(panels, [&](const auto &panel) { return panel->identifier() == identifier; });
-    if (found == panels.end() || !(*found)->panelView())
+    if (found == panels.end() || !(*found)->panelView()) {
+        m_dialog.say(About::panel, tr("There is no panel “%1”.").arg(identifier));
         return false;
+    }
     m_ui->tabs->setCurrentIndex(static_cast<int>(found - panels.begin()));
     return true;
 }
@@ -401,11 +403,7 @@ bool DialogWindow::showPanel(const QString &identifier)
 void DialogWindow::showPanelFirst(const QString &identifier)
 {
     connect(
-        &m_dialog, &PrintDialog::targetChanged, this,
-        [this, identifier] {
-            if (!showPanel(identifier))
-                m_dialog.say(About::panel, tr("There is no panel “%1”.").arg(identifier));
-        },
+        &m_dialog, &PrintDialog::targetChanged, this, [this, identifier] { showPanel(identifier); },
         Qt::SingleShotConnection);
 }
 
