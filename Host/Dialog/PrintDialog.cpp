@@ -167,7 +167,7 @@ void PrintDialog::lookAgain()
         return;
     if (!m_request.ppd.isEmpty())
         return (void)useFile(); // the message tells of it
-    m_hasAllPrinters = false; // there may be others now
+    m_hasAllPrinters = false;   // there may be others now
     m_refusedCredentials = 0;
     look(m_wanted);
 }
@@ -415,14 +415,16 @@ void PrintDialog::chooseDocuments(const QStringList &paths)
 {
     if (m_state == State::sending)
         return;
-    m_documents.clear();
+    std::vector<std::shared_ptr<Document>> chosen;
     QStringList problems;
     for (const QString &path : paths) {
         if (auto document = Document::open(path))
-            m_documents.push_back(*std::move(document));
+            chosen.push_back(*std::move(document));
         else
             problems.append(document.problem().sentence);
     }
+    if (!chosen.empty() || problems.isEmpty())
+        m_documents = std::move(chosen);
     say(About::document, problems.join('\n'));
     Q_EMIT documentsChanged();
 }

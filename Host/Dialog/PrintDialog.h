@@ -28,8 +28,8 @@ public:
     /// A job that is on its way is stopped, and waited for so that nothing is left half sent.
     ~PrintDialog() override;
 
-    /// Takes the PPD file of the request, or begins to look for its queue. A problem when the file can't serve, which is
-    /// the state as well; that of a queue comes as a state only.
+    /// Takes the PPD file of the request, or begins to look for its queue. A problem when the file can't serve, which
+    /// is the state as well; that of a queue comes as a state only.
     foundation::Or<void> start();
 
     State state() const { return m_state; }
@@ -76,6 +76,7 @@ public:
     void savePreset(const QString &name);
     void removePreset();
     /// Takes other documents in place of those that there are; those that can't be printed are named, and left out.
+    /// Those that there are stay when none can.
     void chooseDocuments(const QStringList &paths);
     void print();
     /// Answers `credentialsWanted`, and does once more what they were wanted for.

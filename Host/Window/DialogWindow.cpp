@@ -39,6 +39,13 @@ bool movesWithWheel(const QWidget &field)
            (qobject_cast<const QAbstractSlider *>(&field) && !qobject_cast<const QScrollBar *>(&field));
 }
 
+/// What is dropped on a field is a document, as elsewhere on the window, and not the text of its address.
+void leaveDropsToTheWindow(QWidget &fields)
+{
+    for (QLineEdit *field : fields.findChildren<QLineEdit *>())
+        field->setAcceptDrops(false);
+}
+
 QStringList localFiles(const QMimeData &data)
 {
     QStringList files;
@@ -69,6 +76,7 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
                             static_cast<QWidget *>(m_ui->paperHeight)})
         keepFromWheel(*number);
     setAcceptDrops(true);
+    leaveDropsToTheWindow(*this);
     addButtons();
     connectFields();
     connectDialog();
@@ -313,9 +321,11 @@ void DialogWindow::dropEvent(QDropEvent *event)
 
 void DialogWindow::chooseFiles()
 {
-    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Choose Files to Print"));
-    if (!files.isEmpty())
-        m_dialog.chooseDocuments(files);
+    auto *const box = new QFileDialog(this, tr("Choose Files to Print"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setFileMode(QFileDialog::ExistingFiles);
+    connect(box, &QFileDialog::filesSelected, &m_dialog, &PrintDialog::chooseDocuments);
+    box->open();
 }
 
 /// No larger than the screen; the settings scroll then, and what prints and cancels stays.
@@ -421,6 +431,7 @@ void DialogWindow::addToPanelSpace(QWidget &view)
 {
     if (m_ui->panelSpace->indexOf(&view) < 0) {
         m_ui->panelSpace->addWidget(&view);
+        leaveDropsToTheWindow(view);
         for (QWidget *field : view.findChildren<QWidget *>())
             if (movesWithWheel(*field))
                 keepFromWheel(*field);

@@ -10,6 +10,10 @@
 
 #include <QDir>
 #include <QDoubleSpinBox>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QMimeData>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -40,9 +44,81 @@ protected:
         m_dialog->use(std::move(printer));
         showWindow();
     }
+    /// As a desktop delivers it: to the window, which finds out what lies under the pointer.
+    void drop(const QWidget &on, const QString &file)
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        data.setText(file);
+        const QPoint at = on.mapTo(m_window.get(), on.rect().center());
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window->windowHandle(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent dropped(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window->windowHandle(), &dropped);
+    }
+    void chooseFile(const QString &file)
+    {
+        button("Choose &File…")->click();
+        const QPointer<QFileDialog> box = find<QFileDialog>();
+        ASSERT_TRUE(box);
+        auto *const name = box->findChild<QLineEdit *>("fileNameEdit");
+        ASSERT_TRUE(name);
+        name->setText(file);
+        auto *const open = box->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Open);
+        ASSERT_TRUE(QTest::qWaitFor([open] { return open->isEnabled(); }));
+        QTest::mouseClick(open, Qt::LeftButton);
+        ASSERT_TRUE(QTest::qWaitFor([box] { return !box; }));
+    }
+    QString emptyFile() const
+    {
+        QFile file(m_directory.filePath("empty.pdf"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return file.fileName();
+    }
+
     QTemporaryDir m_directory;
     QString m_out = m_directory.filePath("out");
 };
+
+TEST_F(Window, TakesTheFileOfItsButton)
+{
+    m_dialog->chooseDocuments({});
+    ASSERT_FALSE(canPrint());
+    chooseFile(support::kTicket);
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf");
+    EXPECT_TRUE(canPrint());
+}
+
+TEST_F(Window, KeepsItsDocumentWhenTheFileOfItsButtonIsNone)
+{
+    chooseFile(emptyFile());
+    EXPECT_EQ(message(), "empty.pdf: the document is empty");
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf");
+    EXPECT_TRUE(canPrint());
+    chooseFile(support::kTicket);
+    EXPECT_EQ(message(), "");
+}
+
+TEST_F(Window, KeepsItsDocumentWhenWhatIsDroppedIsNone)
+{
+    drop(*m_window, emptyFile());
+    EXPECT_EQ(message(), "empty.pdf: the document is empty");
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf");
+    EXPECT_TRUE(canPrint());
+}
+
+TEST_F(Window, TakesWhatIsDroppedOnAFieldAsADocument)
+{
+    for (QLineEdit *field : {pages(), find<QSpinBox>("copies")->findChild<QLineEdit *>(),
+                             static_cast<QLineEdit *>(find<toolkit::FieldControl>("mPaperFeedTxt"))}) {
+        m_dialog->chooseDocuments({});
+        const QString before = field->text();
+        drop(*field, support::kTicket);
+        EXPECT_EQ(field->text(), before) << field->objectName().toStdString();
+        EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf") << field->objectName().toStdString();
+    }
+}
 
 TEST_F(Window, ShowsTheFirstPanelPreparedAndTheOthersRightAfter)
 {
