@@ -247,6 +247,8 @@ void DialogWindow::showMessage()
     if (text.isEmpty() && m_dialog.documents().empty() && m_dialog.state() == PrintDialog::State::ready)
         text = tr("Choose a file to print, or drop one here.");
     m_ui->message->say(foundation::withoutControls(text));
+    if (const QString wrong = messages.about(About::pages); m_ui->pages->accessibleDescription() != wrong)
+        m_ui->pages->setAccessibleDescription(wrong);
 }
 
 /// Where a panel would stand: why there is none.

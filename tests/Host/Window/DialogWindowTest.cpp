@@ -8,6 +8,7 @@
 #include "Window/PaperChooser.h"
 #include "Window/SummaryView.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QDragEnterEvent>
@@ -118,6 +119,24 @@ TEST_F(Window, TakesWhatIsDroppedOnAFieldAsADocument)
         EXPECT_EQ(field->text(), before) << field->objectName().toStdString();
         EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf") << field->objectName().toStdString();
     }
+}
+
+/// What assistive technology says of a field beside its name.
+QString descriptionOf(QWidget &field)
+{
+    return QAccessible::queryAccessibleInterface(&field)->text(QAccessible::Description);
+}
+
+TEST_F(Window, DescribesThePagesByWhatIsWrongWithThemAsLongAsItIs)
+{
+    const QString usual = descriptionOf(*pages());
+    QTest::keyClicks(pages(), "3-1");
+    EXPECT_EQ(descriptionOf(*pages()), usual);
+    QTest::mouseClick(button("&Print"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), pages());
+    EXPECT_EQ(descriptionOf(*pages()), "“3-1” are no pages. Write single pages and ranges, such as 1-3,5.");
+    QTest::keyClicks(pages(), "1-2");
+    EXPECT_EQ(descriptionOf(*pages()), usual);
 }
 
 TEST_F(Window, ShowsTheFirstPanelPreparedAndTheOthersRightAfter)
