@@ -13,12 +13,14 @@
 #include <QDoubleSpinBox>
 #include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QMimeData>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTextDocument>
+#include <QToolTip>
 #include <QTreeWidgetItemIterator>
 
 #include <gtest/gtest.h>
@@ -137,6 +139,46 @@ TEST_F(Window, DescribesThePagesByWhatIsWrongWithThemAsLongAsItIs)
     EXPECT_EQ(descriptionOf(*pages()), "“3-1” are no pages. Write single pages and ranges, such as 1-3,5.");
     QTest::keyClicks(pages(), "1-2");
     EXPECT_EQ(descriptionOf(*pages()), usual);
+}
+
+/// What a person sees who rests on something.
+QString toldBy(QWidget &widget)
+{
+    QToolTip::hideText();
+    const QPoint at = widget.rect().center();
+    QHelpEvent rest(QEvent::ToolTip, at, widget.mapToGlobal(at));
+    QCoreApplication::sendEvent(&widget, &rest);
+    return QToolTip::text();
+}
+
+TEST_F(Window, TellsTheWholeOfATextThatAMenuHasNoRoomFor)
+{
+    EXPECT_EQ(toldBy(*printers()), "");
+    const QString name = "<b>counter " + QString(300, 'x');
+    const int width = m_window->width();
+    printers()->setItemText(printers()->currentIndex(), name);
+    QApplication::processEvents();
+    EXPECT_EQ(m_window->width(), width);
+    EXPECT_TRUE(toldBy(*printers()).contains(name.toHtmlEscaped())) << toldBy(*printers()).toStdString();
+}
+
+TEST_F(Window, CutsAMessageThatIsTooLongAndTellsTheWholeOfIt)
+{
+    auto *const line = find<MessageLine>();
+    const QString sentence = QString("Every word of it counts. ").repeated(20).trimmed();
+    m_dialog->say(About::settings, sentence);
+    EXPECT_TRUE(line->text().endsWith("…")) << line->text().toStdString();
+    EXPECT_TRUE(sentence.startsWith(line->text().chopped(1)));
+    EXPECT_LE(line->heightForWidth(line->width()), line->height()); // nothing of it is below the line
+    EXPECT_TRUE(line->toolTip().contains(sentence)) << line->toolTip().toStdString();
+    EXPECT_EQ(line->accessibleName(), sentence);
+    const auto shown = line->text().size();
+    m_window->resize(m_window->width() * 3 / 2, m_window->height());
+    QApplication::processEvents();
+    EXPECT_GT(line->text().size(), shown);
+    m_dialog->say(About::settings, "Short.");
+    EXPECT_EQ(line->text(), "Short.");
+    EXPECT_EQ(line->toolTip(), "");
 }
 
 TEST_F(Window, ShowsTheFirstPanelPreparedAndTheOthersRightAfter)
