@@ -79,9 +79,7 @@ Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
     QFile input;
     if (!copy->open() || ::unlink(QFile::encodeName(copy->fileName()).constData()) != 0 ||
         !input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, *copy))
-        return Problem{
-            tr("standard input: %1")
-                .arg(copy->error() == QFileDevice::NoError ? foundation::systemErrorText(errno) : copy->errorString())};
+        return Problem{tr("standard input: %1").arg(foundation::fileErrorText(*copy))};
     return std::unique_ptr<QFile>(std::move(copy));
 }
 

@@ -12,7 +12,10 @@ namespace foundation {
 /// A regular file, open for reading. A pipe, a device or a folder is a problem, and none of them can make us wait.
 Or<std::unique_ptr<QFile>> openRegularFile(const QString &path);
 
-/// The text of a system error number, in the encoding that the system uses.
+/// The text of a system error number; the common ones in the language of the window.
 QString systemErrorText(int number);
+
+/// Why what was just done with a file has failed.
+QString fileErrorText(const QFileDevice &file);
 
 } // namespace foundation
