@@ -775,6 +775,10 @@
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>der CUPS-Server nimmt Benutzername oder Passwort nicht an</translation>
     </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>die Verbindung ist nicht verschlüsselt, andere im Netz können das Passwort also lesen</translation>
+    </message>
 </context>
 <context>
     <name>host::SummaryView</name>

@@ -775,6 +775,10 @@
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>el servidor CUPS no acepta el usuario o la contraseña</translation>
     </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>la conexión no está cifrada, por lo que otros en la red pueden leer la contraseña</translation>
+    </message>
 </context>
 <context>
     <name>host::SummaryView</name>

@@ -775,6 +775,10 @@
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>le serveur CUPS n’accepte pas le nom d’utilisateur ou le mot de passe</translation>
     </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>la connexion n’est pas chiffrée, d’autres sur le réseau peuvent donc lire le mot de passe</translation>
+    </message>
 </context>
 <context>
     <name>host::SummaryView</name>

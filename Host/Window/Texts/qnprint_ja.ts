@@ -775,6 +775,10 @@
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>CUPS サーバーはこのユーザー名またはパスワードを受け付けません</translation>
     </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>接続が暗号化されていないため、ネットワーク上の他の人がパスワードを読み取れます</translation>
+    </message>
 </context>
 <context>
     <name>host::SummaryView</name>

@@ -775,6 +775,10 @@
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>CUPS 服务器不接受该用户名或密码</translation>
     </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>连接未加密，网络上的其他人可以读到密码</translation>
+    </message>
 </context>
 <context>
     <name>host::SummaryView</name>
