@@ -396,7 +396,34 @@ void DialogWindow::showSettings()
 {
     showPresetName();
     if (m_summary && m_summary->isVisibleTo(this))
-        m_summary->show(m_dialog.summary());
+        showSummary();
+}
+
+namespace {
+
+/// Where all fields of the panels are grey, an amount that is marked does not count.
+bool takeAmounts(const PDEPanels &panels)
+{
+    bool haveFields = false;
+    for (const auto &panel : panels) {
+        const QWidget *const view = panel->panelView();
+        for (const QLineEdit *field : view ? view->findChildren<QLineEdit *>() : QList<QLineEdit *>()) {
+            if (field->isEnabledTo(view) && !field->isReadOnly())
+                return true;
+            haveFields = true;
+        }
+    }
+    return !haveFields;
+}
+
+} // namespace
+
+void DialogWindow::showSummary()
+{
+    std::vector<SummaryRow> rows = m_dialog.summary();
+    if (m_dialog.target() && !takeAmounts(m_dialog.target()->panels()))
+        std::erase_if(rows, [](const SummaryRow &row) { return row.isAmount; });
+    m_summary->show(rows);
 }
 
 bool DialogWindow::showPanel(const QString &identifier)

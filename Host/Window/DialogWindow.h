@@ -58,6 +58,7 @@ private:
     void showMessage();
     void showState();
     void showSettings();
+    void showSummary();
     void showPresetName();
     void showPanelAt(int index);
     void showInPlaceOfPanel();

@@ -181,6 +181,21 @@ TEST_F(Window, CutsAMessageThatIsTooLongAndTellsTheWholeOfIt)
     EXPECT_EQ(line->toolTip(), "");
 }
 
+TEST_F(Window, ClaimsNoAmountWhileItsFieldIsGrey)
+{
+    ASSERT_TRUE(summary().contains("Paper Feed=26 mm"));
+    auto *const formFeed = find<toolkit::PopUpControl>("mFormFeedModePopUp");
+    auto *const amount = find<toolkit::FieldControl>("mPaperFeedTxt");
+    ASSERT_TRUE(amount->isEnabled());
+    QTest::keyClick(formFeed, Qt::Key_Down);
+    QApplication::processEvents();
+    ASSERT_NE(formFeed->currentIndex(), 0);
+    EXPECT_TRUE(summary().filter("Paper Feed").isEmpty()) << summary().join('|').toStdString();
+    QTest::keyClick(formFeed, Qt::Key_Up);
+    QApplication::processEvents();
+    EXPECT_TRUE(summary().contains("Paper Feed=26 mm"));
+}
+
 TEST_F(Window, ShowsTheFirstPanelPreparedAndTheOthersRightAfter)
 {
     EXPECT_EQ(session().panelOnDisplay(), session().panel("basic"));
