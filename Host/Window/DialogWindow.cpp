@@ -41,6 +41,13 @@ bool movesWithWheel(const QWidget &field)
            (qobject_cast<const QAbstractSlider *>(&field) && !qobject_cast<const QScrollBar *>(&field));
 }
 
+/// What is dropped on a field is a document, as elsewhere on the window, and not the text of its address.
+void leaveDropsToTheWindow(QWidget &fields)
+{
+    for (QLineEdit *field : fields.findChildren<QLineEdit *>())
+        field->setAcceptDrops(false);
+}
+
 QStringList localFiles(const QMimeData &data)
 {
     QStringList files;
@@ -71,6 +78,7 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
                             static_cast<QWidget *>(m_ui->paperHeight)})
         keepFromWheel(*number);
     setAcceptDrops(true);
+    leaveDropsToTheWindow(*this);
     addButtons();
     connectFields();
     connectDialog();
@@ -247,6 +255,8 @@ void DialogWindow::showMessage()
     if (text.isEmpty() && m_dialog.documents().empty() && m_dialog.state() == PrintDialog::State::ready)
         text = tr("Choose a file to print, or drop one here.");
     m_ui->message->say(foundation::withoutControls(text));
+    if (const QString wrong = messages.about(About::pages); m_ui->pages->accessibleDescription() != wrong)
+        m_ui->pages->setAccessibleDescription(wrong);
 }
 
 /// Where a panel would stand: why there is none.
@@ -358,9 +368,11 @@ void DialogWindow::dropEvent(QDropEvent *event)
 
 void DialogWindow::chooseFiles()
 {
-    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Choose Files to Print"));
-    if (!files.isEmpty())
-        m_dialog.chooseDocuments(files);
+    auto *const box = new QFileDialog(this, tr("Choose Files to Print"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setFileMode(QFileDialog::ExistingFiles);
+    connect(box, &QFileDialog::filesSelected, &m_dialog, &PrintDialog::chooseDocuments);
+    box->open();
 }
 
 /// No larger than the screen; the settings scroll then, and what prints and cancels stays.
@@ -455,7 +467,34 @@ void DialogWindow::showSettings()
 {
     showPresetName();
     if (m_summary && m_summary->isVisibleTo(this))
-        m_summary->show(m_dialog.summary());
+        showSummary();
+}
+
+namespace {
+
+/// Where all fields of the panels are grey, an amount that is marked does not count.
+bool takeAmounts(const PDEPanels &panels)
+{
+    bool haveFields = false;
+    for (const auto &panel : panels) {
+        const QWidget *const view = panel->panelView();
+        for (const QLineEdit *field : view ? view->findChildren<QLineEdit *>() : QList<QLineEdit *>()) {
+            if (field->isEnabledTo(view) && !field->isReadOnly())
+                return true;
+            haveFields = true;
+        }
+    }
+    return !haveFields;
+}
+
+} // namespace
+
+void DialogWindow::showSummary()
+{
+    std::vector<SummaryRow> rows = m_dialog.summary();
+    if (m_dialog.target() && !takeAmounts(m_dialog.target()->panels()))
+        std::erase_if(rows, [](const SummaryRow &row) { return row.isAmount; });
+    m_summary->show(rows);
 }
 
 bool DialogWindow::isComplete() const
@@ -468,8 +507,10 @@ bool DialogWindow::showPanel(const QString &identifier)
     const auto &panels = m_dialog.target()->panels();
     const auto found =
         std::ranges::find_if(panels, [&](const auto &panel) { return panel->identifier() == identifier; });
-    if (found == panels.end() || !(*found)->panelView())
+    if (found == panels.end() || !(*found)->panelView()) {
+        m_dialog.say(About::panel, tr("There is no panel “%1”.").arg(identifier));
         return false;
+    }
     m_ui->tabs->setCurrentIndex(static_cast<int>(found - panels.begin()));
     return true;
 }
@@ -477,11 +518,7 @@ bool DialogWindow::showPanel(const QString &identifier)
 void DialogWindow::showPanelFirst(const QString &identifier)
 {
     connect(
-        &m_dialog, &PrintDialog::targetChanged, this,
-        [this, identifier] {
-            if (!showPanel(identifier))
-                m_dialog.say(About::panel, tr("There is no panel “%1”.").arg(identifier));
-        },
+        &m_dialog, &PrintDialog::targetChanged, this, [this, identifier] { showPanel(identifier); },
         Qt::SingleShotConnection);
 }
 
@@ -499,6 +536,7 @@ void DialogWindow::addToPanelSpace(QWidget &view)
 {
     if (m_ui->panelSpace->indexOf(&view) < 0) {
         m_ui->panelSpace->addWidget(&view);
+        leaveDropsToTheWindow(view);
         for (QWidget *field : view.findChildren<QWidget *>())
             if (movesWithWheel(*field))
                 keepFromWheel(*field);

@@ -33,9 +33,9 @@ public:
     explicit DialogWindow(PrintDialog &dialog);
     ~DialogWindow() override;
 
-    /// False when there is no such panel or it has no view.
+    /// False when there is no such panel or it has no view; a message tells so.
     bool showPanel(const QString &identifier);
-    /// Shows a panel as soon as there is a printer; a message tells when there is no such panel.
+    /// The same as soon as there is a printer.
     void showPanelFirst(const QString &identifier);
     void reject() override;
 
@@ -66,6 +66,7 @@ private:
     void showMessage();
     void showState();
     void showSettings();
+    void showSummary();
     void showPresetName();
     void showPanelAt(int index);
     void showInPlaceOfPanel();

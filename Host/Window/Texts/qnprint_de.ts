@@ -24,6 +24,57 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>das ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>kein Platz mehr auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>der zugeteilte Speicherplatz ist erschöpft</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>der Datenträger kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Fehler beim Lesen oder Schreiben</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -392,6 +443,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>der Kopf einer PPD-Datei fehlt</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>der Stern vor einem Schlüsselwort fehlt</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>ein Wert fehlt</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>die Zeile ist zu lang</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>ein nicht erlaubtes Zeichen</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>ein nicht erlaubtes Schlüsselwort oder ein nicht erlaubter Text</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>eine Gruppe oder Option, die nicht begonnen oder nicht beendet wird</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>sie kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -727,6 +813,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>der CUPS-Server nimmt Benutzername oder Passwort nicht an</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>die Verbindung ist nicht verschlüsselt, andere im Netz können das Passwort also lesen</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,57 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>no existe el archivo o la carpeta</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>permiso denegado</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>operación no permitida</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>no es una carpeta</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>no queda espacio en el dispositivo</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>cuota de disco superada</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>el archivo es demasiado grande</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>el dispositivo es de solo lectura</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>el nombre del archivo es demasiado largo</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>demasiados archivos abiertos</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>error de entrada o salida</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -392,6 +443,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>falta el encabezado de un archivo PPD</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>falta el asterisco ante una palabra clave</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>falta un valor</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>la línea es demasiado larga</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>un carácter no permitido</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>una palabra clave o un texto no permitidos</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>un grupo o una opción sin comienzo o sin final</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -727,6 +813,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>el servidor CUPS no acepta el usuario o la contraseña</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>la conexión no está cifrada, por lo que otros en la red pueden leer la contraseña</translation>
     </message>
 </context>
 <context>

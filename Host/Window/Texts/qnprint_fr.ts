@@ -24,6 +24,57 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>fichier ou dossier inexistant</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>accès refusé</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>opération non permise</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>plus de place sur le support</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>quota de disque dépassé</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>fichier trop volumineux</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>le support est en lecture seule</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>nom de fichier trop long</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>erreur d’entrée-sortie</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -392,6 +443,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>l’en-tête d’un fichier PPD manque</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>l’astérisque manque devant un mot-clé</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>une valeur manque</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>la ligne est trop longue</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>un caractère non autorisé</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>un mot-clé ou un texte non autorisé</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>un groupe ou une option qui n’est pas commencé ou pas terminé</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>illisible</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -727,6 +813,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>le serveur CUPS n’accepte pas le nom d’utilisateur ou le mot de passe</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>la connexion n’est pas chiffrée, d’autres sur le réseau peuvent donc lire le mot de passe</translation>
     </message>
 </context>
 <context>

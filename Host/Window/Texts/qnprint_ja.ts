@@ -24,6 +24,57 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>ファイルまたはフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセスが許可されていません</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>許可されていない操作です</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>空き容量がありません</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>ディスクの割り当て量を超えました</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>読み取り専用のファイルシステムです</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>ファイル名が長すぎます</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>入出力エラーです</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -392,6 +443,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>PPD ファイルのヘッダーがありません</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>キーワードの前のアスタリスクがありません</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>値がありません</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>行が長すぎます</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>使用できない文字があります</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>使用できないキーワードまたはテキストがあります</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>グループまたはオプションの開始か終了がありません</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>読み取れません</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -727,6 +813,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>CUPS サーバーはこのユーザー名またはパスワードを受け付けません</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>接続が暗号化されていないため、ネットワーク上の他の人がパスワードを読み取れます</translation>
     </message>
 </context>
 <context>

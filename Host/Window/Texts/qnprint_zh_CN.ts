@@ -24,6 +24,57 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>没有此文件或文件夹</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>权限不足</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>不允许的操作</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>是文件夹</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>不是文件夹</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>磁盘空间不足</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>超出磁盘配额</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>文件系统为只读</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>文件名过长</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>打开的文件过多</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>输入输出错误</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -392,6 +443,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>缺少 PPD 文件头</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>关键字前缺少星号</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>缺少值</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>行过长</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>含有不允许的字符</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>含有不允许的关键字或文本</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>组或选项没有开始或没有结束</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>无法读取</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -727,6 +813,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>CUPS 服务器不接受该用户名或密码</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>连接未加密，网络上的其他人可以读到密码</translation>
     </message>
 </context>
 <context>
