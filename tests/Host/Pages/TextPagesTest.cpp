@@ -215,18 +215,6 @@ TEST_F(TextPages, UseTheWholeSheetWhenNothingIsKnownOfIt)
     EXPECT_NEAR(words.first().x, 0, kNear);
 }
 
-TEST_F(TextPages, ShowBoxesThatAreEmptyForWhatNoFontHas)
-{
-    const support::RecordMessages remarks;
-    const QImage page = pdf(QByteArray("\U00012000\u1c50\u0905").repeated(20)).picture(); // rarely seen scripts
-    int dark = 0;
-    for (int x = 36; x < 36 + 400; ++x)
-        for (int y = 36; y < 36 + 12; ++y)
-            dark += qGray(page.pixel(x, y)) < 128;
-    EXPECT_GT(dark, 100);
-    EXPECT_LT(dark, 400 * 12 / 2);
-}
-
 TEST_F(TextPages, ReadFromTheRightWhereTheirLettersDo)
 {
     QMap<QString, double> places;
