@@ -8,7 +8,6 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
-#include <QPixelFormat>
 
 #include <algorithm>
 #include <utility>
@@ -46,14 +45,11 @@ Or<QByteArray> contentOf(Document &image)
     return content;
 }
 
-/// A picture is at least as large in memory as one of 32 bits.
-bool isTooLarge(const QImageReader &reader)
+/// In 32 bits a pixel. Deeper ones meet Qt's own limit: the depth that it tells of a damaged file is any number.
+bool isTooLarge(QSize size)
 {
-    constexpr int kBits = 32;
-    const QSize size = reader.size();
-    const auto format = reader.imageFormat();
-    const int bits = format == QImage::Format_Invalid ? kBits : QImage::toPixelFormat(format).bitsPerPixel();
-    return qint64(size.width()) * size.height() * std::max(bits, kBits) / 8 > qint64(kMostMegabytes) << 20;
+    constexpr qint64 kBytesOfPixel = 4;
+    return kBytesOfPixel * size.width() * size.height() > qint64(kMostMegabytes) << 20;
 }
 
 /// Transparent parts are paper.
@@ -101,7 +97,7 @@ void draw(PDFPages &pages, const QImage &image, bool isOnItsSide)
 
 Or<void> drawNext(PDFPages &pages, QImageReader &reader, const QString &title)
 {
-    if (isTooLarge(reader))
+    if (isTooLarge(reader.size()))
         return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(title)};
     const bool isOnItsSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
     const QImage image = reader.read();
@@ -123,6 +119,7 @@ Or<std::shared_ptr<Document>> drawAll(QImageReader &reader, const Document &imag
             return Problem{PDFPages::tr("cancelled")};
         if (const auto drawn = drawNext(**pages, reader, image.title()); !drawn)
             return drawn.problem();
+        reader.device()->seek(0); // where Qt's reader of TIFF has to find it to count the pages
         if (!hasPages || !reader.jumpToNextImage())
             return (*pages)->finish();
         if (page == kMostPages)
