@@ -295,6 +295,15 @@
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation>Vorscha&amp;u</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation>von %1</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -321,6 +330,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: kann so nicht gedruckt werden; PDF, PostScript, PNG, JPEG, GIF, TIFF und einfacher Text können es</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation>Das Dokument hat nur eine Seite.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Das Dokument hat nur %1 Seiten.</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation>Das Dokument ist %1 %3 breit, das Papier %2.</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation>Das Dokument ist %1 %3 lang, das Papier %2.</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation>%1 verwenden</translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>%1 × %2 %3 verwenden</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>An Papier anpassen</translation>
     </message>
 </context>
 <context>
@@ -513,6 +555,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation>Hier erscheinen die Seiten des Dokuments.</translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation>Die Größe des Papiers ist nicht bekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>Seiten können nicht gezeigt werden: %1 fehlt (es gehört zu poppler-utils).</translation>
+    </message>
+    <message>
+        <source>%1: the page takes too long, or too much memory, to be drawn</source>
+        <translation>%1: die Seite braucht zu lange oder zu viel Speicher, um gezeichnet zu werden</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1: das Dokument ist mit einem Passwort gesperrt</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: das Dokument ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1: das Dokument hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1: Seite %2 kann nicht gezeichnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -530,6 +617,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>Der Drucker nimmt nicht %1, sondern %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1: kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
@@ -575,6 +669,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>„%1“ gibt es schon; Sichern ersetzt sie.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation>Wie &amp;gedruckt</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation>Jeder Punkt des Druckers als ein Pixel des Bildschirms</translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation>In Schwarzweiß, mit dem, was die Einstellungen aus der Seite machen</translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation>Größe: automatisch</translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation>Größe: wie sie ist</translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation>Größe: an Papier anpassen</translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation>Größe: Papier füllen</translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation>Größe der Seiten</translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation>Automatisch: Seiten, die größer als das Papier sind, werden verkleinert</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
     </message>
 </context>
 <context>
@@ -666,6 +816,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 wartet: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1: PostScript kann vor dem Drucken nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 hat nur eine Seite, nicht %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 hat nur %2 Seiten, nicht %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>Das Papier ist zu groß, um gezeigt zu werden.</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1: Seite %2 ist zu groß, um gezeigt zu werden</translation>
     </message>
 </context>
 <context>

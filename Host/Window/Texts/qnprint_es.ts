@@ -295,6 +295,15 @@
         <source>&amp;Delete</source>
         <translation>&amp;Eliminar</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation>Vi&amp;sta previa</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation>de %1</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -321,6 +330,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: no se puede imprimir tal cual; PDF, PostScript, PNG, JPEG, GIF, TIFF y texto sin formato sí</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation>El documento tiene una sola página.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>El documento tiene solo %1 páginas.</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation>El documento mide %1 %3 de ancho y el papel %2.</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation>El documento mide %1 %3 de largo y el papel %2.</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation>Usar %1</translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>Usar %1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>Ajustar al papel</translation>
     </message>
 </context>
 <context>
@@ -513,6 +555,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation>Aquí aparecerán las páginas del documento.</translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation>No se conoce el tamaño del papel.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>No se pueden mostrar las páginas: falta %1 (es parte de poppler-utils).</translation>
+    </message>
+    <message>
+        <source>%1: the page takes too long, or too much memory, to be drawn</source>
+        <translation>%1: la página tarda demasiado o necesita demasiada memoria para dibujarse</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1: el documento está bloqueado con una contraseña</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: el documento está dañado</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1: el documento no tiene páginas</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1: no se puede dibujar la página %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -530,6 +617,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>La impresora no admite %1, sino %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1: no se puede escribir</translation>
     </message>
 </context>
 <context>
@@ -575,6 +669,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>«%1» ya existe; al guardar se reemplaza.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation>C&amp;omo se imprime</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation>Cada punto de la impresora como un píxel de la pantalla</translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation>En blanco y negro, con lo que los ajustes hacen con la página</translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation>Tamaño: automático</translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation>Tamaño: tal cual</translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation>Tamaño: ajustar al papel</translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation>Tamaño: llenar el papel</translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation>Tamaño de las páginas</translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation>Automático: las páginas más grandes que el papel se reducen</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -666,6 +816,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 espera: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1: PostScript no se puede mostrar antes de imprimirlo</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 tiene una sola página, no %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 tiene solo %2 páginas, no %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>El papel es demasiado grande para mostrarlo.</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1: la página %2 es demasiado grande para mostrarla</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,15 @@
         <source>&amp;Delete</source>
         <translation>&amp;Supprimer</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation>&amp;Aperçu</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation>sur %1</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -321,6 +330,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1 : ne peut pas être imprimé tel quel ; PDF, PostScript, PNG, JPEG, GIF, TIFF et texte brut le peuvent</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation>Le document n’a qu’une page.</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>Le document n’a que %1 pages.</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation>Le document fait %1 %3 de large, le papier %2.</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation>Le document fait %1 %3 de long, le papier %2.</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation>Utiliser %1</translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>Utiliser %1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>Adapter au papier</translation>
     </message>
 </context>
 <context>
@@ -513,6 +555,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation>Les pages du document s’afficheront ici.</translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation>La taille du papier n’est pas connue.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>Impossible d’afficher les pages : %1 manque (il fait partie de poppler-utils).</translation>
+    </message>
+    <message>
+        <source>%1: the page takes too long, or too much memory, to be drawn</source>
+        <translation>%1 : la page prend trop de temps ou trop de mémoire à dessiner</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1 : le document est verrouillé par un mot de passe</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1 : le document est endommagé</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1 : le document n’a pas de page</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1 : la page %2 ne peut pas être dessinée</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -530,6 +617,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>L’imprimante n’accepte pas %1, mais %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1 : impossible à écrire</translation>
     </message>
 </context>
 <context>
@@ -575,6 +669,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>« %1 » existe déjà ; l’enregistrement le remplace.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation>&amp;Tel qu’imprimé</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation>Chaque point de l’imprimante comme un pixel de l’écran</translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation>En noir et blanc, avec l’effet des réglages sur la page</translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation>Taille : automatique</translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation>Taille : telle quelle</translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation>Taille : adapter au papier</translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation>Taille : remplir le papier</translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation>Taille des pages</translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation>Automatique : les pages plus grandes que le papier sont réduites</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Page %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -666,6 +816,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 attend : %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1 : le PostScript ne peut pas être affiché avant l’impression</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 n’a qu’une page, pas %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 n’a que %2 pages, pas %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>Le papier est trop grand pour être affiché.</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1 : la page %2 est trop grande pour être affichée</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,15 @@
         <source>&amp;Delete</source>
         <translation>削除(&amp;D)</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation>プレビュー(&amp;W)</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation>/ %1</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -321,6 +330,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: このままでは印刷できません。PDF、PostScript、PNG、JPEG、GIF、TIFF、プレーンテキストを印刷できます</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation>文書は 1 ページだけです。</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>文書は %1 ページだけです。</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation>文書の幅は %1 %3、用紙の幅は %2 です。</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation>文書の長さは %1 %3、用紙の長さは %2 です。</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation>%1 を使用</translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>%1 × %2 %3 を使用</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>用紙に合わせる</translation>
     </message>
 </context>
 <context>
@@ -513,6 +555,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation>ここに文書のページが表示されます。</translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation>用紙のサイズがわかりません。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>ページを表示できません。%1 がありません (poppler-utils に含まれます)。</translation>
+    </message>
+    <message>
+        <source>%1: the page takes too long, or too much memory, to be drawn</source>
+        <translation>%1: ページの描画に時間またはメモリーがかかりすぎます</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1: 文書はパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: 文書が壊れています</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1: 文書にページがありません</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1: %2 ページを描画できません</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -530,6 +617,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>このプリンターで使えるのは %2 です（%1 は使えません）。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1: 書き込めません</translation>
     </message>
 </context>
 <context>
@@ -575,6 +669,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>「%1」はすでにあります。保存すると置き換えられます。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>前のページ</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation>印刷結果(&amp;I)</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation>プリンターの 1 ドットを画面の 1 ピクセルで表示</translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation>設定の効果を含めた白黒表示</translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation>サイズ: 自動</translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation>サイズ: 実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation>サイズ: 用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation>サイズ: 用紙いっぱい</translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation>ページのサイズ</translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation>自動: 用紙より大きいページは縮小されます</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>%1 / %2 ページ</translation>
     </message>
 </context>
 <context>
@@ -666,6 +816,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 は待機中です: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1: PostScript は印刷前に表示できません</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 は 1 ページだけで、%2 はありません</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 は %2 ページだけで、%3 はありません</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>用紙が大きすぎて表示できません。</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1: %2 ページは大きすぎて表示できません</translation>
     </message>
 </context>
 <context>

@@ -295,6 +295,15 @@
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation>预览(&amp;W)</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation>/ %1</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -321,6 +330,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1：无法直接打印；可以打印 PDF、PostScript、PNG、JPEG、GIF、TIFF 和纯文本</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation>文档只有 1 页。</translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation>文档只有 %1 页。</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation>文档宽 %1 %3，纸张宽 %2。</translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation>文档长 %1 %3，纸张长 %2。</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation>使用 %1</translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation>使用 %1 × %2 %3</translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation>适合纸张</translation>
     </message>
 </context>
 <context>
@@ -513,6 +555,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation>文档的页面将显示在这里。</translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation>纸张尺寸未知。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>无法显示页面：缺少 %1（属于 poppler-utils）。</translation>
+    </message>
+    <message>
+        <source>%1: the page takes too long, or too much memory, to be drawn</source>
+        <translation>%1：绘制该页面耗时过长或占用内存过多</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1：文档已用密码锁定</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1：文档已损坏</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1：文档没有页面</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1：无法绘制第 %2 页</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -530,6 +617,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>打印机不接受 %1，而是 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1：无法写入</translation>
     </message>
 </context>
 <context>
@@ -575,6 +669,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>“%1”已存在；保存会替换它。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation>打印效果(&amp;I)</translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation>1:1</translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation>打印机的每个点对应屏幕的一个像素</translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation>黑白显示，包含各项设置对页面的影响</translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation>大小：自动</translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation>大小：实际大小</translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation>大小：适合纸张</translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation>大小：充满纸张</translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation>页面大小</translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation>自动：比纸张大的页面会缩小</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
     </message>
 </context>
 <context>
@@ -666,6 +816,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 正在等待：%2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1：PostScript 在打印前无法显示</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 只有 1 页，没有 %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 只有 %2 页，没有 %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>纸张太大，无法显示。</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1：第 %2 页太大，无法显示</translation>
     </message>
 </context>
 <context>

@@ -143,7 +143,8 @@ TEST(WrongUse, IsToldWithoutADisplay)
              WrongRow{{"--system-version", "11"}, "--system-version 11: not of the form 11.0.0"},
              WrongRow{{"--output", "."}, "--output goes with --ppd only; a queue has its own way"},
              WrongRow{{"--no-dialog"}, "--no-dialog: no document to print"},
-             WrongRow{{"shot"}, "shot: needs --ppd FILE and the name of one picture"},
+             WrongRow{{"shot"},
+                      "shot: needs --ppd FILE and the name of one picture, with a document before it or without"},
          }) {
         const auto told = run(arguments);
         EXPECT_EQ(told.errors, QByteArray("qnprint: ") + said + '\n') << arguments.join(' ').toStdString();

@@ -247,6 +247,7 @@ TEST_F(Window, LeadsTabThroughItsControlsAsTheyStandAndBack)
                                     find<toolkit::PopUpControl>("mRollPrintPopUp"),
                                     button("Choose &File…"),
                                     button("S&ummary"),
+                                    button("Previe&w"),
                                     button("&Print")};
     find<QTabBar>()->setFocus();
     for (QWidget *next : expected) {

@@ -82,7 +82,7 @@ TEST_P(WindowTexts, HaveAMnemonicOfItsOwnForEachControl)
     for (const auto *button : window.findChildren<QPushButton *>())
         if (button->text().contains('&'))
             mnemonics.append(button->text().section('&', 1, 1).left(1).toLower());
-    EXPECT_EQ(mnemonics.size(), 10); // five fields, Print, Save, Try Again, Choose File, Summary
+    EXPECT_EQ(mnemonics.size(), 11); // five fields, Print, Save, Try Again, Choose File, Summary, Preview
     EXPECT_EQ(mnemonics.removeDuplicates(), 0) << mnemonics.join(' ').toStdString();
 }
 
