@@ -127,7 +127,7 @@ private:
     void askForCredentials(const foundation::Problem &problem, std::function<void()> again);
     void setState(State state);
     void look(const QueueName &name, const OptionValues &carried = {});
-    void finderFound(const Queue &queue);
+    void finderFound(OpenedQueue queue);
     void finderFailed(const foundation::Problem &problem);
     void finderFoundAll(const Queues &queues);
     void finderFailedAll(const foundation::Problem &problem);

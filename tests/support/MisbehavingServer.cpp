@@ -316,6 +316,7 @@ QByteArray examplePPD()
 MisbehavingServer::MisbehavingServer(QMap<Step, Mode> faults)
     : m_faults(std::move(faults))
     , m_socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    , m_ppd(examplePPD())
 {
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -368,6 +369,12 @@ void MisbehavingServer::mend()
     m_faults.clear();
 }
 
+void MisbehavingServer::setPPD(const QByteArray &ppd)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_ppd = ppd;
+}
+
 QList<Step> MisbehavingServer::asked() const
 {
     const std::scoped_lock lock(m_mutex);
@@ -395,7 +402,6 @@ void MisbehavingServer::listen(const std::stop_token &stop)
 
 void MisbehavingServer::serve(int socket)
 {
-    static const QByteArray kPPD = examplePPD();
     Connection connection(socket);
     while (const auto request = readRequest(connection)) {
         const auto at = reinterpret_cast<const uchar *>(request->body.constData());
@@ -405,14 +411,16 @@ void MisbehavingServer::serve(int socket)
         const quint32 id = request->isGet ? 0 : quint32{at[4]} << 24 | at[5] << 16 | at[6] << 8 | at[7];
         const Step step = request->isGet ? Step::ppd : stepOf(operation);
         std::optional<Mode> fault;
+        QByteArray ppd;
         {
             const std::scoped_lock lock(m_mutex);
             m_asked.append(step);
             if (m_faults.contains(step))
                 fault = m_faults[step];
+            ppd = m_ppd;
         }
         const QByteArray type = request->isGet ? "application/vnd.cups-ppd" : kIpp;
-        const QByteArray body = request->isGet ? kPPD : answerTo(step, id, m_port);
+        const QByteArray body = request->isGet ? ppd : answerTo(step, id, m_port);
         const bool goesOn = fault ? misbehave(connection, *fault, body, id, type) : connection.say(http(body, type));
         if (!goesOn)
             return;

@@ -56,6 +56,8 @@ public:
 
     /// From now on it answers well.
     void mend();
+    /// The PPD of its queue, in place of the full example.
+    void setPPD(const QByteArray &ppd);
     /// Makes it the server of this process, once and for good; files of the user go into a folder of its own.
     void adoptEnvironment() const;
     /// The environment in which programs find this server and no other.
@@ -87,6 +89,7 @@ private:
     int m_port = 0;
     mutable std::mutex m_mutex;
     QList<Step> m_asked;
+    QByteArray m_ppd;
     std::list<Served> m_connections; // the listener's
     std::jthread m_listener;
 };

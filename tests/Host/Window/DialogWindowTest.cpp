@@ -35,7 +35,7 @@ protected:
         setUp(m_directory.filePath("defaults.ini"));
         makeDialog({});
         const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}};
-        auto printer = support::value(targetOfQueue({}, {"Test", {}, {}, ppd, {}, {}}));
+        auto printer = support::value(targetOfQueue({}, support::value(withPPDOpened({"Test", {}, {}, ppd, {}, {}}))));
         printer->setSink(std::make_shared<FolderSink>(m_out));
         m_dialog->use(std::move(printer));
         showWindow();
@@ -343,14 +343,15 @@ protected:
         qputenv("HOME", m_directory.path().toUtf8());
         qputenv("CUPS_SERVERROOT", m_directory.path().toUtf8());
         setUp(m_directory.filePath("defaults.ini"));
-        const QString file = m_directory.filePath(QString::fromUtf8(kHarmful).replace('/', '|') + ".pdf");
+        const auto harmful = QString::fromUtf8(kHarmful);
+        const QString file = m_directory.filePath(QString(harmful).replace('/', '|') + ".pdf");
         ASSERT_TRUE(QFile::copy(support::kTicket, file));
         makeDialog({}, file);
         support::PPDText text;
         text.allOptions().attribute("ModelName", kHarmful).attribute("FileVersion", kHarmful);
         const CachedPPD ppd{text.file(), 0, {}};
-        m_dialog->use(support::value(
-            targetOfQueue({}, {QString::fromUtf8(kHarmful), {}, {}, ppd, {}, QString::fromUtf8(kHarmful)}, {})));
+        m_dialog->use(
+            support::value(targetOfQueue({}, support::value(withPPDOpened({harmful, {}, {}, ppd, {}, harmful})))));
         showWindow();
     }
     /// What a tool tip shows, which guesses whether it is HTML.
