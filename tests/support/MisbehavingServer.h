@@ -15,6 +15,25 @@
 
 namespace support {
 
+/// A server that nobody has chosen: a port on loopback that counts who comes, and hangs up on them.
+class Bystander
+{
+public:
+    Bystander();
+    ~Bystander();
+    Bystander(const Bystander &) = delete;
+    Bystander &operator=(const Bystander &) = delete;
+
+    int port() const { return m_port; }
+    int visits() const { return m_visits; }
+
+private:
+    int m_port = 0;
+    int m_socket;
+    std::atomic<int> m_visits = 0;
+    std::jthread m_listener;
+};
+
 class MisbehavingServer
 {
 public:
@@ -39,7 +58,8 @@ public:
         endlessAnswer,
         endlessBody,
         nesting,
-        redirect,
+        redirect,     // to the bystander
+        namesAnother, // answers well, but the bystander is where printer and job are said to be
         password,
         upgrade,
         error,
@@ -65,6 +85,8 @@ public:
     /// What was asked, in its order.
     QList<Step> asked() const;
     bool wasAsked(Step step) const { return asked().contains(step); }
+    /// Those who went to the server that this one has named in its place.
+    int visitsToBystander() const { return m_bystander.visits(); }
 
 private:
     /// A connection and the thread that serves it.
@@ -85,8 +107,9 @@ private:
 
     QMap<Step, Mode> m_faults;
     QTemporaryDir m_folder;
-    int m_socket = -1;
+    Bystander m_bystander;
     int m_port = 0;
+    int m_socket;
     mutable std::mutex m_mutex;
     QList<Step> m_asked;
     QByteArray m_ppd;
