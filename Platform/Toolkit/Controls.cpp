@@ -39,7 +39,7 @@ void PopUpControl::select(int index)
 void PopUpControl::insertTitle(const QString &title, int index)
 {
     const int selected = currentIndex();
-    insertItem(std::clamp(index, 0, count()), title);
+    insertItem(std::clamp(index, 0, count()), harmless(title));
     setCurrentIndex(selected);
 }
 
@@ -135,7 +135,7 @@ void PopUpControl::wheelEvent(QWheelEvent *event)
 void CheckControl::setTitle(const QString &title)
 {
     m_title = title;
-    setText(withoutMnemonic(title));
+    setText(withoutMnemonic(harmless(title)));
 }
 
 RadioControl::RadioControl(QWidget *parent)
@@ -176,7 +176,7 @@ void RadioControl::setRowTitle(int row, const QString &title)
 {
     if (auto *button = m_group->button(row)) {
         m_rows[row] = title;
-        button->setText(withoutMnemonic(title));
+        button->setText(withoutMnemonic(harmless(title)));
     }
 }
 
