@@ -12,8 +12,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// Together with the farewell to the first conversation, at most two seconds for whoever stops a job.
-constexpr Patience kForCancellingInHaste{1400ms, 1400ms, 0ms};
+// Together with the farewell to the first conversation, two seconds at most for whoever stops a job; a busy machine
+// needs some of them to start programs and to end them.
+constexpr Patience kForCancellingInHaste{1000ms, 1000ms, 0ms};
 constexpr Patience kForCancelling{10s, 10s, 0ms};
 
 } // namespace

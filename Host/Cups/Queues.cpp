@@ -40,4 +40,14 @@ Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Pa
     return Problem{QStringLiteral("%1: %2").arg(owner, answer.problem().sentence)};
 }
 
+Or<OpenedQueue> withPPDOpened(Queue queue)
+{
+    if (!queue.ppd)
+        return OpenedQueue{std::move(queue), nullptr};
+    auto ppd = PPDDocument::open(queue.ppd->path);
+    if (!ppd)
+        return Problem{QStringLiteral("%1: %2").arg(queue.name, ppd.problem().sentence)};
+    return OpenedQueue{std::move(queue), *std::move(ppd)};
+}
+
 } // namespace host

@@ -83,4 +83,14 @@ foundation::Or<Queues> allQueues(const std::stop_token &stop, const Patience &pa
 /// A problem names the queue, or is of the kind `noService` or `noChoice`.
 foundation::Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Patience &patience = {});
 
+/// A queue with its PPD open. Nothing of an open PPD belongs to the thread that has opened it.
+struct OpenedQueue
+{
+    Queue queue;
+    std::unique_ptr<PPDDocument> ppd; // null: the queue has none
+};
+
+/// Takes a while where the PPD is large. A problem names the queue and the file.
+foundation::Or<OpenedQueue> withPPDOpened(Queue queue);
+
 } // namespace host

@@ -1,4 +1,5 @@
-// Work that the thread of the dialog does not wait for: looking for printers, sending a job.
+// Work that the thread of the dialog does not wait for: looking for printers and opening their PPDs,
+// sending a job.
 #pragma once
 
 #include <QObject>

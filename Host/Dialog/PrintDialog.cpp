@@ -54,7 +54,7 @@ PrintDialog::PrintDialog(PrintRequest request, std::shared_ptr<Document> documen
     if (document)
         m_documents.push_back(std::move(document));
     connect(m_finder, &PrinterFinder::found, this,
-            [this](const Queue &queue) { whenFree([this, queue] { finderFound(queue); }); });
+            [this](const auto &queue) { whenFree([this, queue] { finderFound(std::move(*queue)); }); });
     connect(m_finder, &PrinterFinder::failed, this,
             [this](const Problem &problem) { whenFree([this, problem] { finderFailed(problem); }); });
     connect(m_finder, &PrinterFinder::foundAll, this, &PrintDialog::finderFoundAll);
@@ -194,11 +194,11 @@ void PrintDialog::look(const QueueName &name, const OptionValues &carried)
     m_finder->find(name);
 }
 
-void PrintDialog::finderFound(const Queue &queue)
+void PrintDialog::finderFound(OpenedQueue queue)
 {
     m_refusedCredentials = 0;
     const OptionValues carried = std::exchange(m_carried, {});
-    auto target = targetOfQueue(m_request, queue, carried);
+    auto target = targetOfQueue(m_request, std::move(queue), carried);
     if (!target)
         return finderFailed(target.problem());
     adopt(*std::move(target));

@@ -131,7 +131,7 @@ private:
     foundation::Or<void> useFile();
     void endLooking(const foundation::Problem &problem, const QString &sentence);
     void look(const QueueName &name, const OptionValues &carried = {});
-    void finderFound(const Queue &queue);
+    void finderFound(OpenedQueue queue);
     void finderFailed(const foundation::Problem &problem);
     void finderFoundAll(const Queues &queues);
     void finderFailedAll(const foundation::Problem &problem);

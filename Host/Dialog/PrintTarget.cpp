@@ -134,13 +134,13 @@ void PPDTarget::doubtUnknownOptions(const OptionValues &asked)
 }
 
 Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues &carried,
-                                DialogSession::Parameters parameters)
+                                DialogSession::Parameters parameters, std::unique_ptr<PPDDocument> ppd)
 {
     parameters.localization = request.language;
     parameters.defaults = withMediaAsPageSize(parameters.defaults);
     parameters.defaults.insert(withMediaAsPageSize(request.options));
     parameters.defaults.insert(carried);
-    auto session = DialogSession::open(parameters);
+    auto session = DialogSession::open(parameters, std::move(ppd));
     if (!session)
         return session.problem();
     m_session = *std::move(session);
@@ -155,10 +155,11 @@ Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues 
 
 Or<std::unique_ptr<PrintTarget>> PPDTarget::ofFile(const PrintRequest &request)
 {
+    auto ppd = PPDDocument::open(request.ppd);
+    if (!ppd)
+        return ppd.problem();
     auto target = std::make_unique<PPDTarget>();
-    DialogSession::Parameters parameters;
-    parameters.ppdPath = request.ppd;
-    if (const auto opened = target->openSession(request, {}, parameters); !opened)
+    if (const auto opened = target->openSession(request, {}, {}, *std::move(ppd)); !opened)
         return opened.problem();
     target->m_name = target->m_session->ppd().attribute("NickName").value_or(request.ppd);
     if (!QFileInfo(request.output).isDir())
@@ -167,18 +168,18 @@ Or<std::unique_ptr<PrintTarget>> PPDTarget::ofFile(const PrintRequest &request)
     return std::unique_ptr<PrintTarget>(std::move(target));
 }
 
-Or<std::unique_ptr<PrintTarget>> PPDTarget::ofQueue(const PrintRequest &request, const Queue &queue,
+Or<std::unique_ptr<PrintTarget>> PPDTarget::ofQueue(const PrintRequest &request, OpenedQueue opened,
                                                     const OptionValues &carried)
 {
+    const Queue &queue = opened.queue;
     auto target = std::make_unique<PPDTarget>();
     target->describe(queue);
     target->m_saved = SavedOptions(queue.name);
     DialogSession::Parameters parameters;
-    parameters.ppdPath = queue.ppd->path;
     parameters.uri = queue.uri;
     parameters.defaults = target->m_saved->options(queue.preset);
-    if (const auto opened = target->openSession(request, carried, parameters); !opened)
-        return Problem{queue.name + ": " + opened.problem().sentence};
+    if (const auto session = target->openSession(request, carried, parameters, std::move(opened.ppd)); !session)
+        return Problem{queue.name + ": " + session.problem().sentence};
     target->m_sink = std::make_shared<CupsSink>(queue.name, queue.ppd);
     return std::unique_ptr<PrintTarget>(std::move(target));
 }
@@ -281,14 +282,14 @@ const PDEPanels &PlainTarget::panels() const
     return kNone;
 }
 
-Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, const Queue &queue,
+Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, OpenedQueue opened,
                                                const OptionValues &carried)
 {
-    if (const auto checked = checkPreset(queue); !checked)
+    if (const auto checked = checkPreset(opened.queue); !checked)
         return checked.problem();
-    if (queue.ppd)
-        return PPDTarget::ofQueue(request, queue, carried);
-    return std::unique_ptr<PrintTarget>(std::make_unique<PlainTarget>(request, queue));
+    if (opened.ppd)
+        return PPDTarget::ofQueue(request, std::move(opened), carried);
+    return std::unique_ptr<PrintTarget>(std::make_unique<PlainTarget>(request, opened.queue));
 }
 
 } // namespace host

@@ -120,7 +120,7 @@ public:
     /// The printer that the PPD file of a request describes, with a folder in place of a queue.
     static foundation::Or<std::unique_ptr<PrintTarget>> ofFile(const PrintRequest &request);
     /// `carried`: choices that a person has made before; they count for more than what is saved or asked for.
-    static foundation::Or<std::unique_ptr<PrintTarget>> ofQueue(const PrintRequest &request, const Queue &queue,
+    static foundation::Or<std::unique_ptr<PrintTarget>> ofQueue(const PrintRequest &request, OpenedQueue opened,
                                                                 const OptionValues &carried);
 
     const DialogSession &session() const { return *m_session; }
@@ -147,7 +147,7 @@ public:
 private:
     void doubtUnknownOptions(const OptionValues &asked);
     foundation::Or<void> openSession(const PrintRequest &request, const OptionValues &carried,
-                                     DialogSession::Parameters parameters);
+                                     DialogSession::Parameters parameters, std::unique_ptr<PPDDocument> ppd);
 
     std::unique_ptr<DialogSession> m_session;
 };
@@ -173,7 +173,7 @@ private:
 };
 
 /// The kind of target that a queue needs.
-foundation::Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, const Queue &queue,
+foundation::Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, OpenedQueue opened,
                                                            const OptionValues &carried = {});
 
 } // namespace host

@@ -13,23 +13,29 @@ PrinterFinder::PrinterFinder(QObject *parent)
 
 void PrinterFinder::find(const QueueName &name)
 {
-    m_search = BackgroundWork(
+    for (auto &[number, earlier] : m_searches)
+        earlier.requestStop();
+    const int number = ++m_latest;
+    m_searches[number] = BackgroundWork(
         *this,
-        [name](const std::stop_token &stop) {
+        [name](const std::stop_token &stop) -> Or<OpenedQueue> {
             auto queue = findQueue(name, stop);
             prepareConversation(); // for the others, or the job
-            return queue;
+            if (!queue)
+                return queue.problem();
+            return withPPDOpened(*std::move(queue));
         },
-        [this, request = ++m_request](const Or<Queue> &queue) {
-            if (request == m_request)
-                answer(queue);
+        [this, number](Or<OpenedQueue> queue) {
+            m_searches.erase(number);
+            if (number == m_latest)
+                answer(std::move(queue));
         });
 }
 
-void PrinterFinder::answer(const Or<Queue> &queue)
+void PrinterFinder::answer(Or<OpenedQueue> queue)
 {
     if (queue)
-        Q_EMIT found(*queue);
+        Q_EMIT found(std::make_shared<OpenedQueue>(*std::move(queue)));
     else
         Q_EMIT failed(queue.problem());
 }

@@ -5,6 +5,9 @@
 
 #include "Cups/Queues.h"
 
+#include <map>
+#include <memory>
+
 namespace host {
 
 class PrinterFinder : public QObject
@@ -14,23 +17,25 @@ class PrinterFinder : public QObject
 public:
     explicit PrinterFinder(QObject *parent);
 
-    /// Answers once, with `found` or with `failed`. Drops what an earlier call has not found yet.
+    /// Answers once, with `found` or with `failed`. Drops what an earlier call has not found yet, and waits for none of
+    /// it.
     void find(const QueueName &name);
     /// Answers with `foundAll` or with `failedAll`.
     void findAll();
 
 Q_SIGNALS:
-    void found(const host::Queue &queue);
+    /// Whoever takes the printer takes the PPD out of it.
+    void found(const std::shared_ptr<host::OpenedQueue> &queue);
     void failed(const foundation::Problem &problem);
     void foundAll(const host::Queues &queues);
     void failedAll(const foundation::Problem &problem);
 
 private:
-    void answer(const foundation::Or<Queue> &queue);
+    void answer(foundation::Or<OpenedQueue> queue);
 
-    BackgroundWork m_search;
+    std::map<int, BackgroundWork> m_searches; // by number; answers to all but the latest are dropped
+    int m_latest = 0;
     BackgroundWork m_searchForAll;
-    int m_request = 0; // number of the latest search; answers to earlier ones are dropped
 };
 
 } // namespace host

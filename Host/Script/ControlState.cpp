@@ -26,7 +26,7 @@ void addPopUp(QJsonObject &state, const PopUpControl &control)
 {
     QJsonArray items;
     for (int i = 0; i < control.count(); ++i)
-        items.append(QJsonObject{{"title", control.itemText(i)}, {"enabled", control.isItemEnabled(i)}});
+        items.append(QJsonObject{{"title", control.titleAt(i)}, {"enabled", control.isItemEnabled(i)}});
     state["items"] = items;
     state["selected"] = control.currentIndex();
 }

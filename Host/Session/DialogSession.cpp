@@ -55,14 +55,18 @@ Or<std::unique_ptr<DialogSession>> DialogSession::open(const Parameters &paramet
     auto ppd = PPDDocument::open(parameters.ppdPath);
     if (!ppd)
         return ppd.problem();
-    const auto bundle =
-        parameters.bundlePath ? parameters.bundlePath : findBundle((*ppd)->attribute("APDialogExtension"));
+    return open(parameters, *std::move(ppd));
+}
+
+Or<std::unique_ptr<DialogSession>> DialogSession::open(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd)
+{
+    const auto bundle = parameters.bundlePath ? parameters.bundlePath : findBundle(ppd->attribute("APDialogExtension"));
     if (!bundle)
         return Problem{tr("no plug-in bundle in %1").arg(plugInDirectories().join(", "))};
     auto plugIn = PlugIn::load(*bundle, parameters.localization);
     if (!plugIn)
         return plugIn.problem();
-    return std::unique_ptr<DialogSession>(new DialogSession(parameters, *std::move(ppd), *std::move(plugIn)));
+    return std::unique_ptr<DialogSession>(new DialogSession(parameters, std::move(ppd), *std::move(plugIn)));
 }
 
 DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, PlugIn plugIn)

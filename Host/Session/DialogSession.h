@@ -56,6 +56,9 @@ public:
 
     /// Does all that can fail: opens the PPD and loads the bundle. Nothing of an earlier session is touched.
     static foundation::Or<std::unique_ptr<DialogSession>> open(const Parameters &parameters);
+    /// The same with a PPD that is open already, on whatever thread; its path is not looked at.
+    static foundation::Or<std::unique_ptr<DialogSession>> open(const Parameters &parameters,
+                                                               std::unique_ptr<PPDDocument> ppd);
     ~DialogSession();
     DialogSession(const DialogSession &) = delete;
     DialogSession &operator=(const DialogSession &) = delete;

@@ -37,8 +37,14 @@ void PopUpControl::select(int index)
 void PopUpControl::insertTitle(const QString &title, int index)
 {
     const int selected = currentIndex();
-    insertItem(std::clamp(index, 0, count()), title);
+    insertItem(std::clamp(index, 0, count()), harmless(title), title);
     setCurrentIndex(selected);
+}
+
+QString PopUpControl::titleAt(int index) const
+{
+    const QVariant title = itemData(index);
+    return title.isValid() ? title.toString() : itemText(index); // those of the interface file are ours
 }
 
 void PopUpControl::removeAt(int index)
@@ -105,7 +111,7 @@ void PopUpControl::wheelEvent(QWheelEvent *event)
 void CheckControl::setTitle(const QString &title)
 {
     m_title = title;
-    setText(withoutMnemonic(title));
+    setText(withoutMnemonic(harmless(title)));
 }
 
 RadioControl::RadioControl(QWidget *parent)
@@ -146,7 +152,7 @@ void RadioControl::setRowTitle(int row, const QString &title)
 {
     if (auto *button = m_group->button(row)) {
         m_rows[row] = title;
-        button->setText(withoutMnemonic(title));
+        button->setText(withoutMnemonic(harmless(title)));
     }
 }
 

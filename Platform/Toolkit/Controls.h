@@ -33,6 +33,8 @@ public:
     void select(int index);
     /// An index beyond the end appends. The selected index stays what it is.
     void insertTitle(const QString &title, int index);
+    /// As it was given, whatever of it is shown.
+    QString titleAt(int index) const;
     /// Does nothing when there is no such item. The selected index stays, cut to the last item.
     void removeAt(int index);
 

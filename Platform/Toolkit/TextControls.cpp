@@ -26,6 +26,14 @@ bool isPaletteEvent(const QEvent &event)
 
 QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
 
+QString harmless(const QString &text)
+{
+    QStringList lines = text.split('\n');
+    for (QString &line : lines)
+        line = foundation::withoutControls(line);
+    return lines.join('\n');
+}
+
 void TextControl::setTextColor(TextColor color)
 {
     if (m_color == color)
@@ -60,9 +68,10 @@ LabelControl::LabelControl(QWidget *parent)
 void LabelControl::setStringValue(const QString &text)
 {
     m_text = text;
-    setText(withoutMnemonic(text)); // a buddy makes '&' a mnemonic; texts of a PPD mean the character
+    m_shown = harmless(text);
+    setText(withoutMnemonic(m_shown)); // a buddy makes '&' a mnemonic; texts of a PPD mean the character
     if (auto *field = m_unitOf.isEmpty() ? nullptr : parentWidget()->findChild<QWidget *>(m_unitOf))
-        field->setAccessibleDescription(text);
+        field->setAccessibleDescription(m_shown);
 }
 
 void LabelControl::changeEvent(QEvent *event)
@@ -72,12 +81,12 @@ void LabelControl::changeEvent(QEvent *event)
         followPalette();
 }
 
-FittingText LabelControl::fittingText() const { return {m_text, font(), contentsRect().width()}; }
+FittingText LabelControl::fittingText() const { return {m_shown, font(), contentsRect().width()}; }
 
 void LabelControl::paintEvent(QPaintEvent *event)
 {
     const FittingText fitting = fittingText();
-    if (fitting.text == m_text && fitting.font == font())
+    if (fitting.text == m_shown && fitting.font == font())
         return QLabel::paintEvent(event);
     QStylePainter painter(this);
     painter.setFont(fitting.font);
@@ -87,7 +96,7 @@ void LabelControl::paintEvent(QPaintEvent *event)
 
 bool LabelControl::event(QEvent *event)
 {
-    if (event->type() == QEvent::ToolTip && tellWhole(*this, *static_cast<QHelpEvent *>(event), fittingText(), m_text))
+    if (event->type() == QEvent::ToolTip && tellWhole(*this, *static_cast<QHelpEvent *>(event), fittingText(), m_shown))
         return true;
     return QLabel::event(event);
 }

@@ -11,6 +11,9 @@ namespace toolkit {
 /// The text for a label, button or tab that shows each '&' as it stands instead of underlining what follows.
 QString withoutMnemonic(QString text);
 
+/// The text without what controls terminals or turns the direction of reading; ends of lines stay.
+QString harmless(const QString &text);
+
 /// A colour by its meaning; what it looks like is the palette's matter.
 enum class TextColor { control, disabledControl };
 
@@ -61,6 +64,7 @@ private:
     FittingText fittingText() const;
 
     QString m_text;
+    QString m_shown; // the same, harmless
     QString m_unitOf;
 };
 

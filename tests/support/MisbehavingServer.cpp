@@ -248,8 +248,9 @@ QByteArray nested(quint32 request)
            attribute(0x37, "", "").repeated(kNesting + 1) + kEnd;
 }
 
-/// True when the connection may go on.
-bool misbehave(const Connection &connection, Mode mode, const QByteArray &body, quint32 request, const QByteArray &type)
+/// True when the connection may go on. `elsewhere`: a port that nobody has chosen.
+bool misbehave(const Connection &connection, Mode mode, const QByteArray &body, quint32 request, const QByteArray &type,
+               int elsewhere)
 {
     const auto status = [&](const QByteArray &line, const QByteArray &further = {}) {
         return connection.say(http({}, type, {}, line, further));
@@ -290,7 +291,9 @@ bool misbehave(const Connection &connection, Mode mode, const QByteArray &body, 
         connection.sayAgainAndAgain(chunk(QByteArray(65536, '*')));
         return false;
     case Mode::nesting: return connection.say(http(nested(request), type));
-    case Mode::redirect: return status("301 Moved", "Location: http://127.0.0.1:9/other\r\n");
+    case Mode::redirect:
+        return status("301 Moved", "Location: http://127.0.0.1:" + QByteArray::number(elsewhere) + "/other\r\n");
+    case Mode::namesAnother: return connection.say(http(body, type));
     case Mode::password: return status("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n");
     case Mode::upgrade: return status("426 Upgrade Required", "Upgrade: TLS/1.2\r\nConnection: Upgrade\r\n");
     case Mode::error: return status("500 Internal");
@@ -311,22 +314,48 @@ QByteArray examplePPD()
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-} // namespace
-
-MisbehavingServer::MisbehavingServer(QMap<Step, Mode> faults)
-    : m_faults(std::move(faults))
-    , m_socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+/// A socket that listens on a free port of loopback, and which.
+int listenOnLoopback(int &port)
 {
+    const int listening = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof(address);
-    if (::bind(m_socket, reinterpret_cast<sockaddr *>(&address), size) != 0 || ::listen(m_socket, 50) != 0 ||
-        ::getsockname(m_socket, reinterpret_cast<sockaddr *>(&address), &size) != 0)
+    if (::bind(listening, reinterpret_cast<sockaddr *>(&address), size) != 0 || ::listen(listening, 50) != 0 ||
+        ::getsockname(listening, reinterpret_cast<sockaddr *>(&address), &size) != 0)
         qFatal("no port on loopback can be had");
-    m_port = ntohs(address.sin_port);
-    m_listener = std::jthread([this](const std::stop_token &stop) { listen(stop); });
+    port = ntohs(address.sin_port);
+    return listening;
 }
+
+} // namespace
+
+Bystander::Bystander()
+    : m_socket(listenOnLoopback(m_port))
+    , m_listener([this](const std::stop_token &stop) {
+        while (!stop.stop_requested()) {
+            const int visitor = ::accept4(m_socket, nullptr, nullptr, SOCK_CLOEXEC);
+            m_visits += visitor >= 0 ? 1 : 0;
+            ::close(visitor);
+        }
+    })
+{}
+
+Bystander::~Bystander()
+{
+    m_listener.request_stop();
+    ::shutdown(m_socket, SHUT_RDWR);
+    m_listener.join();
+    ::close(m_socket);
+}
+
+MisbehavingServer::MisbehavingServer(QMap<Step, Mode> faults)
+    : m_faults(std::move(faults))
+    , m_socket(listenOnLoopback(m_port))
+    , m_ppd(examplePPD())
+    , m_listener([this](const std::stop_token &stop) { listen(stop); })
+{}
 
 MisbehavingServer::Served::~Served()
 {
@@ -368,6 +397,12 @@ void MisbehavingServer::mend()
     m_faults.clear();
 }
 
+void MisbehavingServer::setPPD(const QByteArray &ppd)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_ppd = ppd;
+}
+
 QList<Step> MisbehavingServer::asked() const
 {
     const std::scoped_lock lock(m_mutex);
@@ -395,7 +430,6 @@ void MisbehavingServer::listen(const std::stop_token &stop)
 
 void MisbehavingServer::serve(int socket)
 {
-    static const QByteArray kPPD = examplePPD();
     Connection connection(socket);
     while (const auto request = readRequest(connection)) {
         const auto at = reinterpret_cast<const uchar *>(request->body.constData());
@@ -405,15 +439,19 @@ void MisbehavingServer::serve(int socket)
         const quint32 id = request->isGet ? 0 : quint32{at[4]} << 24 | at[5] << 16 | at[6] << 8 | at[7];
         const Step step = request->isGet ? Step::ppd : stepOf(operation);
         std::optional<Mode> fault;
+        QByteArray ppd;
         {
             const std::scoped_lock lock(m_mutex);
             m_asked.append(step);
             if (m_faults.contains(step))
                 fault = m_faults[step];
+            ppd = m_ppd;
         }
         const QByteArray type = request->isGet ? "application/vnd.cups-ppd" : kIpp;
-        const QByteArray body = request->isGet ? kPPD : answerTo(step, id, m_port);
-        const bool goesOn = fault ? misbehave(connection, *fault, body, id, type) : connection.say(http(body, type));
+        const int where = fault == Mode::namesAnother ? m_bystander.port() : m_port;
+        const QByteArray body = request->isGet ? ppd : answerTo(step, id, where);
+        const bool goesOn = fault ? misbehave(connection, *fault, body, id, type, m_bystander.port())
+                                  : connection.say(http(body, type));
         if (!goesOn)
             return;
     }

@@ -15,6 +15,25 @@
 
 namespace support {
 
+/// A server that nobody has chosen: a port on loopback that counts who comes, and hangs up on them.
+class Bystander
+{
+public:
+    Bystander();
+    ~Bystander();
+    Bystander(const Bystander &) = delete;
+    Bystander &operator=(const Bystander &) = delete;
+
+    int port() const { return m_port; }
+    int visits() const { return m_visits; }
+
+private:
+    int m_port = 0;
+    int m_socket;
+    std::atomic<int> m_visits = 0;
+    std::jthread m_listener;
+};
+
 class MisbehavingServer
 {
 public:
@@ -39,7 +58,8 @@ public:
         endlessAnswer,
         endlessBody,
         nesting,
-        redirect,
+        redirect,     // to the bystander
+        namesAnother, // answers well, but the bystander is where printer and job are said to be
         password,
         upgrade,
         error,
@@ -56,6 +76,8 @@ public:
 
     /// From now on it answers well.
     void mend();
+    /// The PPD of its queue, in place of the full example.
+    void setPPD(const QByteArray &ppd);
     /// Makes it the server of this process, once and for good; files of the user go into a folder of its own.
     void adoptEnvironment() const;
     /// The environment in which programs find this server and no other.
@@ -63,6 +85,8 @@ public:
     /// What was asked, in its order.
     QList<Step> asked() const;
     bool wasAsked(Step step) const { return asked().contains(step); }
+    /// Those who went to the server that this one has named in its place.
+    int visitsToBystander() const { return m_bystander.visits(); }
 
 private:
     /// A connection and the thread that serves it.
@@ -83,10 +107,12 @@ private:
 
     QMap<Step, Mode> m_faults;
     QTemporaryDir m_folder;
-    int m_socket = -1;
+    Bystander m_bystander;
     int m_port = 0;
+    int m_socket;
     mutable std::mutex m_mutex;
     QList<Step> m_asked;
+    QByteArray m_ppd;
     std::list<Served> m_connections; // the listener's
     std::jthread m_listener;
 };

@@ -105,6 +105,8 @@ protected:
         return sink.submit({document, "invoice", 1, {}, {}}, [](qint64, qint64) {}, {});
     }
 
+    void TearDown() override { EXPECT_EQ(m_server->visitsToBystander(), 0); } // wherever it was sent
+
     std::unique_ptr<MisbehavingServer> m_server;
     QElapsedTimer m_clock;
 };
@@ -232,6 +234,23 @@ TEST(AConversation, SaysThatItCannotBegin)
     EXPECT_EQ(sentence(findQueue({"counter", {}}, {}, kPatience)),
               "counter: no process can be started: No such file or directory");
     setConversationProgram(QN_PROGRAM);
+}
+
+/// One may name another host as the place of its printer, of the printer's PPD and of a job: that host is not asked.
+TEST(AServerThatNamesAnother, IsTheOnlyOneThatIsAsked)
+{
+    const MisbehavingServer server({{Step::standard, Mode::namesAnother},
+                                    {Step::attributes, Mode::namesAnother},
+                                    {Step::create, Mode::namesAnother}});
+    server.adoptEnvironment();
+    const auto queue = value(findQueue({"counter", {}}, {}, kPatience));
+    ASSERT_TRUE(queue.ppd);
+    CupsSink sink("counter", queue.ppd, kPatience);
+    const auto document = value(Document::open(QN_SOURCE_DIR "/examples/documents/invoice.txt"));
+    EXPECT_EQ(value(sink.submit({document, "invoice", 1, {}, {}}, [](qint64, qint64) {}, {})), "counter-7");
+    for (const Step step : {Step::attributes, Step::ppd, Step::create, Step::send})
+        EXPECT_TRUE(server.wasAsked(step));
+    EXPECT_EQ(server.visitsToBystander(), 0);
 }
 
 TEST(AWellBehavedServer, IsFoundAndPrintedOn)

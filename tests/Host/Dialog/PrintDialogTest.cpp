@@ -56,7 +56,7 @@ protected:
     }
     std::unique_ptr<PrintTarget> printer(const QString &name)
     {
-        auto target = value(targetOfQueue({}, {name, {}, {}, CachedPPD{m_ppd, 0, {}}, {}, {}}));
+        auto target = value(targetOfQueue({}, value(withPPDOpened({name, {}, {}, CachedPPD{m_ppd, 0, {}}, {}, {}}))));
         target->setSink(m_sink);
         return target;
     }
@@ -218,13 +218,13 @@ TEST_F(DialogWithoutWindow, PrintsTheCopiesAndPagesAskedForElseThoseThatAreSaved
 {
     ASSERT_TRUE(SavedOptions("one").save({}, {{"copies", "3"}, {"page-ranges", "1-2"}}));
     const Queue queue{"one", {}, {}, CachedPPD{m_ppd, 0, {}}, {}, {}};
-    const auto saved = value(targetOfQueue({}, queue, {}));
+    const auto saved = value(targetOfQueue({}, value(withPPDOpened(queue))));
     EXPECT_EQ(saved->amount().copies, 3);
     EXPECT_EQ(saved->amount().pages, "1-2");
     PrintRequest request;
     request.copies = 5;
     request.pages = "4";
-    const auto asked = value(targetOfQueue(request, queue, {}));
+    const auto asked = value(targetOfQueue(request, value(withPPDOpened(queue))));
     EXPECT_EQ(asked->amount().copies, 5);
     EXPECT_EQ(asked->amount().pages, "4");
 }

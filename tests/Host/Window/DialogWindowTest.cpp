@@ -42,7 +42,7 @@ protected:
         setUp(m_directory.filePath("defaults.ini"));
         makeDialog({});
         const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}};
-        auto printer = support::value(targetOfQueue({}, {"Test", {}, {}, ppd, {}, {}}));
+        auto printer = support::value(targetOfQueue({}, support::value(withPPDOpened({"Test", {}, {}, ppd, {}, {}}))));
         printer->setSink(std::make_shared<FolderSink>(m_out));
         m_dialog->use(std::move(printer));
         showWindow();
@@ -485,67 +485,5 @@ INSTANTIATE_TEST_SUITE_P(In, PapersOfAPPD,
                                          Named{"zh_CN.UTF-8", "zh_CN", "A4（卷纸）"},
                                          Named{"it_IT.UTF-8", "it_IT", "A4, Roll"},
                                          Named{"en_US.UTF-8", "en_US", "A4, Roll"}));
-
-/// One printer, one queue, one file, each with all that could be taken for more than text.
-class WindowOfTextsFromOutside : public support::WindowTest
-{
-protected:
-    static constexpr auto kHarmful = "<img src='/dev/zero'><b>&amp;</b>\x1b[31m \xe2\x80\xaegnp";
-    void SetUp() override
-    {
-        qputenv("HOME", m_directory.path().toUtf8());
-        qputenv("CUPS_SERVERROOT", m_directory.path().toUtf8());
-        setUp(m_directory.filePath("defaults.ini"));
-        const QString file = m_directory.filePath(QString::fromUtf8(kHarmful).replace('/', '|') + ".pdf");
-        ASSERT_TRUE(QFile::copy(support::kTicket, file));
-        makeDialog({}, file);
-        support::PPDText text;
-        text.allOptions().attribute("ModelName", kHarmful).attribute("FileVersion", kHarmful);
-        const CachedPPD ppd{text.file(), 0, {}};
-        m_dialog->use(support::value(
-            targetOfQueue({}, {QString::fromUtf8(kHarmful), {}, {}, ppd, {}, QString::fromUtf8(kHarmful)}, {})));
-        showWindow();
-    }
-    /// What a tool tip shows, which guesses whether it is HTML.
-    static QString shown(const QString &tip)
-    {
-        QTextDocument document;
-        document.setHtml(tip);
-        return Qt::mightBeRichText(tip) ? document.toPlainText() : tip;
-    }
-
-    QTemporaryDir m_directory;
-};
-
-TEST_F(WindowOfTextsFromOutside, ShowsThemAsText)
-{
-    m_dialog->savePreset(QString::fromUtf8(kHarmful)); // which is refused by name
-    int outside = 0;
-    const auto labels = m_window->findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        outside += label->text().contains("<img");
-        EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()));
-    }
-    EXPECT_GT(outside, 0);
-    outside = 0;
-    for (const QWidget *widget : m_window->findChildren<QWidget *>()) {
-        EXPECT_FALSE(shown(widget->toolTip()).contains(QChar::ObjectReplacementCharacter)); // a picture
-        outside += shown(widget->toolTip()).contains("<img");
-    }
-    EXPECT_GT(outside, 0);
-    EXPECT_FALSE(summary().isEmpty());
-    for (QTreeWidgetItemIterator item(m_window->findChild<SummaryView *>()); *item; ++item) {
-        for (int column = 0; column < 2; ++column) {
-            const QString tip = (*item)->toolTip(column);
-            outside += tip.contains("&lt;img");
-            EXPECT_EQ(shown(tip), (*item)->text(column));
-        }
-    }
-    EXPECT_GT(outside, 0); // the printer's name stands in the summary
-    for (const QString &shown : {m_window->windowTitle(), message()}) {
-        EXPECT_TRUE(shown.contains("<img")) << shown.toStdString();
-        EXPECT_FALSE(shown.contains('\x1b') || shown.contains(QChar(0x202e))) << shown.toStdString();
-    }
-}
 
 } // namespace

@@ -1,5 +1,6 @@
 // The program as a person has it: a real window on a real screen, used by keys and mouse, printing on a real server.
 #include "CupsServer.h"
+#include "MisbehavingServer.h"
 #include "Print.h"
 #include "Screen.h"
 
@@ -13,9 +14,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <csignal>
 #include <iostream>
 
+using support::MisbehavingServer;
 using support::Seen;
+using Step = MisbehavingServer::Step;
+using Mode = MisbehavingServer::Mode;
 
 namespace {
 
@@ -228,5 +233,52 @@ TEST_F(OnScreen, SwitchesToAnotherPrinterByKeysAndClosesWithEscape)
     EXPECT_EQ(m_server.openJobs(), "");
     EXPECT_EQ(m_server.recordCount(), 0);
 }
+
+struct SignalRow
+{
+    const char *name;
+    int number;
+    bool takesJobBack; // the server
+};
+
+void PrintTo(const SignalRow &row, std::ostream *out) { *out << row.name; }
+
+class SendingOnScreen : public testing::TestWithParam<SignalRow>
+{};
+
+/// The server takes the document and says nothing any more.
+TEST_P(SendingOnScreen, EndsByASignalAndLeavesNoJobUnsaid)
+{
+    QMap<Step, Mode> faults{{Step::send, Mode::silence}};
+    if (!GetParam().takesJobBack)
+        faults[Step::cancel] = Mode::silence;
+    const MisbehavingServer server(faults);
+    support::Screen screen;
+    const auto noScreen = screen.start();
+    ASSERT_FALSE(noScreen) << noScreen->toStdString();
+    support::Helper program;
+    program.setProcessEnvironment(screen.extended(server.environment()));
+    program.start(QN_PROGRAM, {"-d", "counter", "--language", "en", kTicket});
+    ASSERT_TRUE(screen.waitFor(
+        "qnprint", [](const Seen &each) { return each.role == "button" && each.name == "Print" && each.isEnabled; }));
+    screen.press("alt+p");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.wasAsked(Step::send); }, kMilliseconds));
+    ::kill(static_cast<pid_t>(program.processId()), GetParam().number);
+    ASSERT_TRUE(program.waitForFinished(kMilliseconds));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_TRUE(server.wasAsked(Step::cancel));
+    EXPECT_EQ(program.readAllStandardOutput(), "");
+    EXPECT_EQ(program.readAllStandardError(),
+              GetParam().takesJobBack
+                  ? "qnprint: counter: cancelled; nothing was printed\n"
+                  : "qnprint: counter: cancelled; job counter-7 may still be there, so look before you print again\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(By, SendingOnScreen,
+                         testing::Values(SignalRow{"Interrupt", SIGINT, true}, SignalRow{"Terminate", SIGTERM, true},
+                                         SignalRow{"HangUp", SIGHUP, true},
+                                         SignalRow{"TerminateWithoutAWayBack", SIGTERM, false}),
+                         [](const auto &row) { return row.param.name; });
 
 } // namespace
