@@ -49,12 +49,17 @@ QString PrintTarget::fateOf(const QString &title) const
                       : tr("%1: sent to %2").arg(title, m_name);
 }
 
+// The older words count where the newer one is missing, and of the two oldest the one that is there.
 Scaling PrintTarget::scaling() const
 {
-    for (const char *word : {"fit-to-page", "fitplot"}) // as older programs ask for it
-        if (m_serverOptions.value(word) == "true" || m_serverOptions.value(word) == "yes")
-            return Scaling::fit;
-    return scalingNamed(m_serverOptions.value("print-scaling")).value_or(Scaling::automatic);
+    const auto isOn = [this](const char *word) {
+        return QStringList{"true", "yes", "on"}.contains(m_serverOptions.value(word), Qt::CaseInsensitive);
+    };
+    if (m_serverOptions.contains("print-scaling"))
+        return scalingNamed(m_serverOptions["print-scaling"]);
+    if (isOn("fill"))
+        return Scaling::fill;
+    return isOn(m_serverOptions.contains("fitplot") ? "fitplot" : "fit-to-page") ? Scaling::fit : Scaling::automatic;
 }
 
 OptionValues PrintTarget::restore(const QString &) { return {}; }
@@ -207,7 +212,8 @@ std::optional<Sheet> PPDTarget::sheet() const
     const ChosenPaper &chosen = m_session->paper();
     if (!chosen.size)
         return std::nullopt;
-    return Sheet{*chosen.size, m_session->ppd().printableArea(chosen.name, *chosen.size)};
+    const PPDDocument &ppd = m_session->ppd();
+    return Sheet{*chosen.size, ppd.printableArea(chosen.name, *chosen.size), ppd.turnsLeft()};
 }
 
 Resolution PPDTarget::resolution() const
