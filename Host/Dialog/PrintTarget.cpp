@@ -53,25 +53,30 @@ QString PrintTarget::fateOf(const QString &title) const
 namespace {
 
 constexpr auto kScaling = "print-scaling";
-constexpr std::array kFitWords{"fit-to-page", "fitplot"}; // as older programs ask for it
+constexpr auto kFill = "fill"; // as older programs ask for it, and for the next two
+constexpr auto kFitPlot = "fitplot";
+constexpr auto kFitToPage = "fit-to-page";
 
 } // namespace
 
+// The older words count where the newer one is missing, and of the two oldest the one that is there.
 Scaling PrintTarget::scaling() const
 {
-    for (const char *word : kFitWords)
-        if (m_serverOptions.value(word) == "true" || m_serverOptions.value(word) == "yes")
-            return Scaling::fit;
-    return scalingNamed(m_serverOptions.value(kScaling)).value_or(Scaling::automatic);
+    const auto isOn = [this](const char *word) {
+        return QStringList{"true", "yes", "on"}.contains(m_serverOptions.value(word), Qt::CaseInsensitive);
+    };
+    if (m_serverOptions.contains(kScaling))
+        return scalingNamed(m_serverOptions[kScaling]);
+    if (isOn(kFill))
+        return Scaling::fill;
+    return isOn(m_serverOptions.contains(kFitPlot) ? kFitPlot : kFitToPage) ? Scaling::fit : Scaling::automatic;
 }
 
 void PrintTarget::setScaling(Scaling scaling)
 {
-    for (const char *word : kFitWords)
+    for (const char *word : {kFill, kFitPlot, kFitToPage, kScaling})
         m_serverOptions.remove(word);
-    if (scaling == Scaling::automatic)
-        m_serverOptions.remove(kScaling);
-    else
+    if (scaling != Scaling::automatic)
         m_serverOptions[kScaling] = nameOf(scaling);
 }
 
@@ -226,7 +231,8 @@ std::optional<Sheet> PPDTarget::sheet() const
     const ChosenPaper &chosen = m_session->paper();
     if (!chosen.size)
         return std::nullopt;
-    return Sheet{*chosen.size, m_session->ppd().printableArea(chosen.name, *chosen.size)};
+    const PPDDocument &ppd = m_session->ppd();
+    return Sheet{*chosen.size, ppd.printableArea(chosen.name, *chosen.size), ppd.turnsLeft()};
 }
 
 Resolution PPDTarget::resolution() const

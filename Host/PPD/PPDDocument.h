@@ -73,6 +73,8 @@ public:
     /// The part of a paper that the printer can reach, in points, y downward from its upper left corner. A paper that
     /// the PPD does not list has the margins of custom sizes. Where the PPD says nothing sensible, all of it.
     QRectF printableArea(const std::optional<QString> &name, const printing::Paper &size) const;
+    /// Whether a landscape page is turned anticlockwise to stand on portrait paper.
+    bool turnsLeft() const { return m_file->landscape > 0; }
     std::vector<PaperEntry> papers(const QString &language) const;
     /// Nil when the PPD takes no custom sizes.
     std::optional<CustomSizeLimits> customSizeLimits() const;

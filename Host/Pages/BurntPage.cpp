@@ -84,15 +84,16 @@ QRect SheetDots::at(const QRectF &points) const
     return {from, QSize(to.x() - from.x(), to.y() - from.y())};
 }
 
-bool SheetDots::areBearable(QSizeF dots)
+bool SheetDots::areBearable(QSizeF points) const
 {
-    return dots.width() >= 1 && dots.height() >= 1 && dots.width() * dots.height() <= kMostDots;
+    const double across = points.width() / printing::kPointsPerInch * m_resolution.across;
+    const double along = points.height() / printing::kPointsPerInch * m_resolution.along;
+    return std::max(across, 1.0) * std::max(along, 1.0) <= kMostDots;
 }
 
 bool SheetDots::isBearable() const
 {
-    return areBearable({m_sheet.size.width / printing::kPointsPerInch * m_resolution.across,
-                        m_sheet.size.height / printing::kPointsPerInch * m_resolution.along});
+    return areBearable({m_sheet.size.width, m_sheet.size.height}) && !size().isEmpty();
 }
 
 QSize SheetDots::dotsOfPage(const Placement &placement) const
@@ -107,7 +108,8 @@ QImage SheetDots::withPage(const QImage &page, const Placement &placement) const
     sheet.setDotsPerMeterX(static_cast<int>(std::lround(m_resolution.across / kMetresPerInch)));
     sheet.setDotsPerMeterY(static_cast<int>(std::lround(m_resolution.along / kMetresPerInch)));
     sheet.fill(Qt::white);
-    const QImage upright = placement.isTurned ? page.transformed(QTransform().rotate(90)) : page;
+    const QImage upright =
+        placement.isTurned ? page.transformed(QTransform().rotate(m_sheet.turnsLeft ? -90 : 90)) : page;
     const QPoint corner = at(placement.where).topLeft();
     const QRect covered = QRect(corner, upright.size()) & printable();
     for (int y = covered.top(); y <= covered.bottom(); ++y)

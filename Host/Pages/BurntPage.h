@@ -33,9 +33,9 @@ public:
     /// Nearest to a place on the sheet in points.
     QRect at(const QRectF &points) const;
     QRect printable() const { return at(m_sheet.printable) & QRect({}, size()); }
-    /// Whether so many can be held in memory.
+    /// Whether they can be held in memory; those of an area of so many points.
     bool isBearable() const;
-    static bool areBearable(QSizeF dots);
+    bool areBearable(QSizeF points) const;
 
     /// The sheet with a page on it, in grey, and white where the printer can't reach. `page` is drawn in as many dots
     /// as `where` of its placement has, before it is turned.

@@ -20,8 +20,7 @@ namespace {
 constexpr auto kInfo = "pdfinfo";
 constexpr int kMostPages = 100'000;
 constexpr qint64 kMostInfoBytes = qint64{100} * kMostPages; // a page takes two short lines
-constexpr auto kTimeToDraw = std::chrono::seconds(30);
-constexpr int kLook = 20; // ms between looks at whether anybody still wants the page
+constexpr int kLook = 20;                                   // ms between looks at whether anybody still wants the page
 
 struct Limit
 {
@@ -66,9 +65,8 @@ public:
     Helper &operator=(const Helper &) = delete;
 
     /// All that it writes; nil when that is too much or takes too long, and when nobody wants it any more.
-    std::optional<QByteArray> output(qint64 mostBytes, const std::stop_token &stop)
+    std::optional<QByteArray> output(qint64 mostBytes, const QDeadlineTimer &deadline, const std::stop_token &stop)
     {
-        const QDeadlineTimer deadline(kTimeToDraw);
         QByteArray output;
         while (m_process.state() != QProcess::NotRunning && !stop.stop_requested() && !deadline.hasExpired()) {
             m_process.waitForReadyRead(kLook);
@@ -119,8 +117,9 @@ QImage readGreyMap(const QByteArray &map, QSize dots)
 
 } // namespace
 
-PageReader::PageReader(const Document &document)
+PageReader::PageReader(const Document &document, std::chrono::milliseconds patience)
     : m_title(document.title())
+    , m_patience(patience)
     , m_path(QStringLiteral("/proc/self/fd/%1").arg(document.descriptor()))
 {}
 
@@ -131,7 +130,7 @@ Or<QByteArray> PageReader::answerOf(const QString &program, const QStringList &a
     if (path.isEmpty())
         return Problem{tr("Pages can't be shown: %1 is missing (it is part of poppler-utils).").arg(program)};
     Helper helper(path, arguments, m_path);
-    auto output = helper.output(mostBytes, stop);
+    auto output = helper.output(mostBytes, QDeadlineTimer(m_patience), stop);
     if (!output)
         return Problem{tr("%1: the page takes too long, or too much memory, to be drawn").arg(m_title)};
     if (helper.hasSucceeded())
@@ -152,6 +151,8 @@ Or<std::vector<QSizeF>> PageReader::sizes(const std::stop_token &stop) const
     auto sizes = readSizes(*info);
     if (sizes.empty())
         return Problem{tr("%1: the document has no pages").arg(m_title)};
+    if (sizes.size() > kMostPages)
+        return Problem{tr("%1: the document has too many pages").arg(m_title)};
     return sizes;
 }
 

@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QSizeF>
 
+#include <chrono>
 #include <stop_token>
 #include <vector>
 
@@ -17,8 +18,10 @@ class PageReader
     Q_DECLARE_TR_FUNCTIONS(host::PageReader)
 
 public:
-    /// Of a PDF, which is only borrowed, by its descriptor.
-    explicit PageReader(const Document &document);
+    static constexpr std::chrono::milliseconds kPatience{30000};
+
+    /// Of a PDF, which is only borrowed, by its descriptor. `patience`: with a program, for one question.
+    explicit PageReader(const Document &document, std::chrono::milliseconds patience = kPatience);
 
     /// Whether there is a program to read pages.
     static bool isThere();
@@ -36,6 +39,7 @@ private:
                                         const std::stop_token &stop) const;
 
     QString m_title;
+    std::chrono::milliseconds m_patience;
     QString m_path; // opened anew by each program, so that each begins at the document's beginning
 };
 

@@ -14,9 +14,10 @@ struct NamedScaling
     Scaling scaling;
 };
 constexpr std::array kScalings{
-    NamedScaling{"auto", Scaling::automatic}, NamedScaling{"auto-fit", Scaling::autoFit},
-    NamedScaling{"fit", Scaling::fit},        NamedScaling{"fill", Scaling::fill},
-    NamedScaling{"none", Scaling::none},
+    NamedScaling{"auto", Scaling::automatic},
+    NamedScaling{"auto-fit", Scaling::autoFit},
+    NamedScaling{"fit", Scaling::fit},
+    NamedScaling{"fill", Scaling::fill},
 };
 
 /// The server lets a page be a fiftieth larger than the paper, and then drops fractions of a point.
@@ -32,11 +33,11 @@ QRectF centred(QSizeF size, QPointF centre) { return {centre - QPointF(size.widt
 
 } // namespace
 
-std::optional<Scaling> scalingNamed(const QString &name)
+Scaling scalingNamed(const QString &name)
 {
-    const auto *const found =
-        std::ranges::find_if(kScalings, [&](const NamedScaling &row) { return name == row.name; });
-    return found == kScalings.end() ? std::nullopt : std::optional(found->scaling);
+    const auto *const found = std::ranges::find_if(
+        kScalings, [&](const NamedScaling &row) { return name.compare(row.name, Qt::CaseInsensitive) == 0; });
+    return found == kScalings.end() ? Scaling::none : found->scaling;
 }
 
 QString nameOf(Scaling scaling) { return std::ranges::find(kScalings, scaling, &NamedScaling::scaling)->name; }

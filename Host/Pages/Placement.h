@@ -19,8 +19,8 @@ enum class Scaling {
     none,      // as it is, and cut
 };
 
-/// Nil for a text that is none of its names.
-std::optional<Scaling> scalingNamed(const QString &name);
+/// As the server reads a name, letter case aside; one that it does not know is `none`.
+Scaling scalingNamed(const QString &name);
 QString nameOf(Scaling scaling);
 
 /// What a document's pages are put on sheets by: `automatic` is decided once for all of them, by the largest. Sizes are
@@ -32,7 +32,7 @@ QSizeF turnedFor(const Sheet &sheet, QSizeF page);
 
 struct Placement
 {
-    bool isTurned = false; // by a quarter, clockwise: a landscape page on portrait paper, or the other way about
+    bool isTurned = false; // by a quarter, as the sheet turns pages that lie across it
     QRectF where;          // of the page as it is turned, on the sheet, in points from its upper left corner
 };
 

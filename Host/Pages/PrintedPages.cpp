@@ -12,7 +12,7 @@ using foundation::Problem;
 Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Sheet &sheet, Scaling scaling,
                                   const QString &ranges, const std::stop_token &stop)
 {
-    auto pages = laidOut(std::move(document), sheet);
+    auto pages = laidOut(std::move(document), sheet, stop);
     if (!pages)
         return pages.problem();
     const QString title = (*pages)->title();
@@ -41,10 +41,9 @@ Or<QImage> PrintedPages::sheet(int index, const SheetDots &dots, const std::stop
         return Problem{tr("The paper is too large to be shown.")};
     const int number = m_numbers.at(static_cast<std::size_t>(index));
     const Placement placement = placementOf(m_sizes.at(static_cast<std::size_t>(number) - 1), dots.sheet(), m_scaling);
-    const QSize size = dots.dotsOfPage(placement);
-    if (!SheetDots::areBearable(size))
+    if (!dots.areBearable(placement.where.size()))
         return Problem{tr("%1: page %2 is too large to be shown").arg(m_document->title(), QString::number(number))};
-    const auto page = PageReader(*m_document).draw(number, size, stop);
+    const auto page = PageReader(*m_document).draw(number, dots.dotsOfPage(placement), stop);
     if (!page)
         return page.problem();
     return dots.withPage(*page, placement);

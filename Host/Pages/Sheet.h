@@ -10,7 +10,8 @@ namespace host {
 struct Sheet
 {
     printing::Paper size;
-    QRectF printable; // in points, y downward from the upper left corner; the whole sheet when nothing is known
+    QRectF printable;       // in points, y downward from the upper left corner; the whole sheet when nothing is known
+    bool turnsLeft = false; // a page that lies across it: anticlockwise by a quarter, else clockwise
 
     friend bool operator==(const Sheet &, const Sheet &) = default;
 };

@@ -43,8 +43,9 @@ Or<QImage> pictureOf(const CommandLine &line, PrintDialog &dialog)
     if (!pages)
         return pages.problem();
     if (line.page > pages->count())
-        return Problem{
-            QString("--page %1: %2 are printed").arg(QString::number(line.page), QString::number(pages->count()))};
+        return Problem{pages->count() == 1
+                           ? QString("--page %1: only one page is printed").arg(line.page)
+                           : QString("--page %1: only %2 pages are printed").arg(line.page).arg(pages->count())};
     const SheetDots dots(*sheet, target.resolution());
     auto grey = pages->sheet(line.page - 1, dots, {});
     if (!grey || line.plain)

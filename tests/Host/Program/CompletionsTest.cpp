@@ -152,6 +152,8 @@ const std::array kLines{
     LineRow{"ADocument", "qnprint --no-dialog ti\t", {"--no-dialog", "ticket.pdf"}},
     LineRow{"ADocumentAfterAQueue", "qnprint -d counter ti\t", {"-d", "counter", "ticket.pdf"}},
     LineRow{"AFaceAsTheFirstWord", "qnprint scr\t", {"script"}},
+    LineRow{"ThePreview", "qnprint pre\t", {"preview"}},
+    LineRow{"APictureToBe", "qnprint preview ti\tpage.png", {"preview", "ticket.pdf", "page.png"}},
     LineRow{"NoFaceLater", "qnprint --no-dialog scr\t", {"--no-dialog", "scr"}},
     LineRow{"NoOptionBehindTwoDashes", "qnprint -- --no\t", {"--", "--no"}},
 };
@@ -280,6 +282,7 @@ TEST_F(Fish, CompletesWhatIsMeant)
     EXPECT_EQ(offers("qnprint --panel "), QStringList());
     EXPECT_EQ(offers("qnprint --no-dialog ti"), QStringList{"ticket.pdf"});
     EXPECT_EQ(offers("qnprint s"), QStringList({"script", "shot"}));
+    EXPECT_EQ(offers("qnprint p"), QStringList{"preview"});
     EXPECT_EQ(offers("qnprint --no-dialog s"), QStringList());
 }
 

@@ -27,7 +27,7 @@ protected:
         setUp(m_directory.filePath("defaults.ini"));
         makeDialog({});
         const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}};
-        auto printer = support::value(targetOfQueue({}, {"Test", {}, {}, ppd, {}, {}}));
+        auto printer = support::value(targetOfQueue({}, support::value(withPPDOpened({"Test", {}, {}, ppd, {}, {}}))));
         printer->setSink(std::make_shared<FolderSink>(m_directory.filePath("out")));
         m_dialog->use(std::move(printer));
         showWindow();
