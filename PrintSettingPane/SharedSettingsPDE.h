@@ -135,14 +135,14 @@ protected:
                     *mOption_Selection = nullptr, // of the option group as a whole; never set
                         *mReversal_Selection = nullptr, *mMirror_Selection = nullptr, *mBiDiPrint_Selection = nullptr;
 
-    bool usb_dec = false;           // the printer is connected by USB
+    bool usb_dec = false; // the printer is connected by USB
     struct RefusedFeed
     {
         float marked; // inches, as before
         float written;
     };
     std::optional<RefusedFeed> mRefusedFeed; // as long as the PPD's parameter holds what was written and not marked
-    bool set_formatSetting = false; // the first display is done
+    bool set_formatSetting = false;          // the first display is done
     std::optional<QString> set_paperName;
     std::optional<QString> language_Nsme;
     bool isMetter = false;

@@ -39,7 +39,8 @@ std::optional<double> SharedSettingsPDE::markedFeed()
 {
     const auto name = readPaperName();
     const QStringView paperName(name ? *name : QString());
-    const auto group = paper::groupOf(std::u16string_view(paperName.utf16(), static_cast<std::size_t>(paperName.size())));
+    const auto group =
+        paper::groupOf(std::u16string_view(paperName.utf16(), static_cast<std::size_t>(paperName.size())));
     const bool feedsByAmount = !mFormFeedMode_Choices || markedIndex(OptionId::formFeedMode) == 0;
     if (!feedsByAmount || !paper::holds(paper::availability(group).feedAmount, 0, 0))
         return std::nullopt;

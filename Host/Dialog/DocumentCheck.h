@@ -1,5 +1,5 @@
-// Whether the document goes with the job: how many pages it has, and whether they are as large as the paper. Read beside
-// everything else; nothing waits for it.
+// Whether the document goes with the job: how many pages it has, and whether they are as large as the paper. Read
+// beside everything else; nothing waits for it.
 #pragma once
 
 #include "BackgroundWork.h"

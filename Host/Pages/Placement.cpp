@@ -14,10 +14,9 @@ struct NamedScaling
     Scaling scaling;
 };
 constexpr std::array kScalings{
-    NamedScaling{"auto", Scaling::automatic},
-    NamedScaling{"auto-fit", Scaling::autoFit},
-    NamedScaling{"fit", Scaling::fit},
-    NamedScaling{"fill", Scaling::fill},
+    NamedScaling{"auto", Scaling::automatic}, NamedScaling{"auto-fit", Scaling::autoFit},
+    NamedScaling{"fit", Scaling::fit},        NamedScaling{"fill", Scaling::fill},
+    NamedScaling{"none", Scaling::none},
 };
 
 /// The server lets a page be a fiftieth larger than the paper, and then drops fractions of a point.

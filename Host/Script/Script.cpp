@@ -380,14 +380,13 @@ QJsonObject Script::effect(const ScriptRequest &)
     if (!effect)
         return {{"effect", QJsonValue()}};
     constexpr std::array kMethodNames{"binary", "dither", "diffusion"}; // in the order of the methods
-    const auto method = effect->halftone ? QJsonValue(kMethodNames.at(static_cast<std::size_t>(*effect->halftone)))
-                                         : QJsonValue();
-    return {{"effect",
-             QJsonObject{{"halftone", method},
-                         {"reversed", effect->reversed},
-                         {"mirrored", effect->mirrored},
-                         {"feed", effect->feed ? QJsonValue(*effect->feed) : QJsonValue()},
-                         {"perforated", effect->perforated}}}};
+    const auto method =
+        effect->halftone ? QJsonValue(kMethodNames.at(static_cast<std::size_t>(*effect->halftone))) : QJsonValue();
+    return {{"effect", QJsonObject{{"halftone", method},
+                                   {"reversed", effect->reversed},
+                                   {"mirrored", effect->mirrored},
+                                   {"feed", effect->feed ? QJsonValue(*effect->feed) : QJsonValue()},
+                                   {"perforated", effect->perforated}}}};
 }
 
 QJsonObject Script::close(const ScriptRequest &)

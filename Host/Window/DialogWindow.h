@@ -88,9 +88,9 @@ private:
     std::unique_ptr<Ui::DialogWindow> m_ui;
     PaperChooser *m_paper;
     std::unique_ptr<DocumentCheck> m_check; // once the window is there
-    QLabel *m_ofPages = nullptr;           // made when they are known
-    QPushButton *m_remedy = nullptr;       // made when there is one
-    QVBoxLayout *m_beside = nullptr; // what stands beside the settings; each made when it is first seen
+    QLabel *m_ofPages = nullptr;            // made when they are known
+    QPushButton *m_remedy = nullptr;        // made when there is one
+    QVBoxLayout *m_beside = nullptr;        // what stands beside the settings; each made when it is first seen
     PreviewPane *m_preview = nullptr;
     SummaryView *m_summary = nullptr;
     QPointer<QWidget> m_focusBeforeJob;

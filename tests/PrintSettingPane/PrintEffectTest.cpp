@@ -37,7 +37,8 @@ TEST_F(PrintEffect, IsSaidByNobodyWhereThereAreNoPanels)
 
 TEST_F(PrintEffect, NamesTheMarkedMethodByItsPosition)
 {
-    open(PPDText().option("QnHalftonePattern", "Halftone", "One", {{"One", ""}, {"Two", ""}, {"Three", ""}, {"Four", ""}}));
+    open(PPDText().option("QnHalftonePattern", "Halftone", "One",
+                          {{"One", ""}, {"Two", ""}, {"Three", ""}, {"Four", ""}}));
     struct Row
     {
         const char *choice;
@@ -66,7 +67,8 @@ TEST_F(PrintEffect, FollowsEachSwitchAlone)
         const char *keyword;
         const char *member;
     };
-    for (const Row &row : {Row{"QnReversal", "reversed"}, Row{"QnMirror", "mirrored"}, Row{"QnPerforated", "perforated"}}) {
+    for (const Row &row :
+         {Row{"QnReversal", "reversed"}, Row{"QnMirror", "mirrored"}, Row{"QnPerforated", "perforated"}}) {
         open(PPDText().allOptions(), "RollA4");
         const QJsonObject before = effect().toObject();
         ASSERT_TRUE(mark(row.keyword, "ON"));
@@ -91,9 +93,8 @@ TEST_F(PrintEffect, HasTheAmountWhereThePaperLetsItCount)
         const char *paper;
         QJsonValue feed;
     };
-    for (const Row &row :
-         {Row{"A4", 26}, Row{"A5Rotated", 26}, Row{"PerfA4", {}}, Row{"RollA4", 26}, Row{"ContinuousLetter", 26},
-          Row{"RetractA4", {}}, Row{"Strange", 26}}) {
+    for (const Row &row : {Row{"A4", 26}, Row{"A5Rotated", 26}, Row{"PerfA4", {}}, Row{"RollA4", 26},
+                           Row{"ContinuousLetter", 26}, Row{"RetractA4", {}}, Row{"Strange", 26}}) {
         open(PPDText().allOptions(), row.paper, {{"width", 595}, {"height", 842}});
         EXPECT_EQ(feed(), row.feed) << row.paper;
     }

@@ -158,7 +158,7 @@ TEST_F(Preview, IsRefusedInOneSentenceAndLeavesAnOlderPictureAlone)
              RefusalRow{{"--page", "4"}, {}, "--page 4: only 3 pages are printed"},
              RefusalRow{{"--page", "2"}, single, "--page 2: only one page is printed"},
              RefusalRow{{"-P", "2", "--page", "2"}, {}, "--page 2: only one page is printed"},
-             RefusalRow{{"-P", "2-4"}, {}, "Pages 2-4: %1 has 3"},
+             RefusalRow{{"-P", "2-4"}, {}, "%1 has only 3 pages, not 2-4"},
              RefusalRow{{}, "/no/such.pdf", "/no/such.pdf: No such file or directory"},
              RefusalRow{{}, support::fileOf("%PDF-1.4\nnothing", "pdf"), "%1: the document is damaged"},
              RefusalRow{{}, locked, "%1: the document is locked with a password"},

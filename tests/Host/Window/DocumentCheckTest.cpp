@@ -22,7 +22,8 @@ protected:
     {
         makeDialog({}, document);
         const CachedPPD cached{ppd.file(), 0, {}};
-        m_dialog->use(support::value(targetOfQueue({}, support::value(withPPDOpened({"Test", {}, {}, cached, {}, {}})))));
+        m_dialog->use(
+            support::value(targetOfQueue({}, support::value(withPPDOpened({"Test", {}, {}, cached, {}, {}})))));
         showWindow();
         settle();
     }

@@ -156,7 +156,7 @@ TEST_F(OpeningPPDs, SaysWhyThatFailsAndTriesAgain)
     open();
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->state() == State::noPrinter; }, kMilliseconds));
     EXPECT_TRUE(message().startsWith("counter: /")) << message().toStdString();
-    EXPECT_TRUE(message().endsWith(": not a PPD file (line 1: Missing asterisk in column 1)"))
+    EXPECT_TRUE(message().endsWith(": not a PPD file (line 1: the asterisk before a keyword is missing)"))
         << message().toStdString();
     EXPECT_FALSE(canPrint());
     openings().areOfRubbish = false;
