@@ -51,10 +51,10 @@ QString PrintTarget::fateOf(const QString &title) const
 
 Scaling PrintTarget::scaling() const
 {
-    for (const char *word : {"fit-to-page", "fitplot"}) // as older programs ask for it
+    for (const char *word : kFitOptions)
         if (m_serverOptions.value(word) == "true" || m_serverOptions.value(word) == "yes")
             return Scaling::fit;
-    return scalingNamed(m_serverOptions.value("print-scaling")).value_or(Scaling::automatic);
+    return scalingNamed(m_serverOptions.value(kPrintScaling)).value_or(Scaling::automatic);
 }
 
 OptionValues PrintTarget::restore(const QString &) { return {}; }
@@ -215,6 +215,11 @@ Resolution PPDTarget::resolution() const
     const QString marked = m_session->marks().choiceOf("Resolution");
     const auto standard = m_session->ppd().attribute("DefaultResolution");
     return resolutionNamed(marked).value_or(resolutionNamed(standard.value_or(QString())).value_or(Resolution{}));
+}
+
+std::optional<Preparation> PPDTarget::preparation() const
+{
+    return Preparation{sheet(), scaling(), m_session->ppd().takesPDF()};
 }
 
 OptionValues PPDTarget::jobOptions() const

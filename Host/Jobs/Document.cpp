@@ -5,7 +5,6 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QTemporaryFile>
 
 #include <algorithm>
 #include <array>
@@ -72,17 +71,17 @@ bool copyAll(QFile &from, QFile &to)
 
 } // namespace
 
-/// The copy has no name that could be left behind.
 Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
 {
-    auto copy = std::make_unique<QTemporaryFile>(); // readable by its owner only
+    auto copy = foundation::openUnnamedFile();
+    if (!copy)
+        return Problem{tr("standard input: %1").arg(copy.problem().sentence)};
     QFile input;
-    if (!copy->open() || ::unlink(QFile::encodeName(copy->fileName()).constData()) != 0 ||
-        !input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, *copy))
-        return Problem{
-            tr("standard input: %1")
-                .arg(copy->error() == QFileDevice::NoError ? foundation::systemErrorText(errno) : copy->errorString())};
-    return std::unique_ptr<QFile>(std::move(copy));
+    if (!input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, **copy))
+        return Problem{tr("standard input: %1")
+                           .arg((*copy)->error() == QFileDevice::NoError ? foundation::systemErrorText(errno)
+                                                                         : (*copy)->errorString())};
+    return copy;
 }
 
 Or<std::shared_ptr<Document>> Document::open(const QString &path)
@@ -101,6 +100,11 @@ Or<std::shared_ptr<Document>> Document::received(int descriptor)
     if (descriptor < 0 || !file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         return Problem{tr("the document can't be read any more")};
     return checked(std::shared_ptr<Document>(new Document(tr("the document"), std::move(file))));
+}
+
+Or<std::shared_ptr<Document>> Document::made(const QString &title, std::unique_ptr<QFile> file)
+{
+    return checked(std::shared_ptr<Document>(new Document(title, std::move(file))));
 }
 
 Or<std::shared_ptr<Document>> Document::checked(std::shared_ptr<Document> document)

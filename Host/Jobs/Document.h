@@ -23,6 +23,9 @@ public:
     /// The document of another process that has opened it; the descriptor becomes ours.
     static foundation::Or<std::shared_ptr<Document>> received(int descriptor);
 
+    /// What has been written into an open file to be printed under a title.
+    static foundation::Or<std::shared_ptr<Document>> made(const QString &title, std::unique_ptr<QFile> file);
+
     /// The file's name without its folder; "standard input" for that.
     const QString &title() const { return m_title; }
     /// MIME type, told by the content.

@@ -20,6 +20,9 @@ public:
     /// Of a PDF, which is only borrowed, by its descriptor.
     explicit PageReader(const Document &document);
 
+    /// Whether there is a program that tells sizes.
+    static bool isThere();
+
     /// The size of each page in points, as it is looked at. A problem when the document is damaged, locked, or of too
     /// many pages, and when there is no program to read it.
     foundation::Or<std::vector<QSizeF>> sizes(const std::stop_token &stop) const;

@@ -44,6 +44,8 @@ std::optional<Scaling> scalingNamed(const QString &name)
     return found == kScalings.end() ? std::nullopt : std::optional(found->scaling);
 }
 
+QString nameOf(Scaling scaling) { return std::ranges::find(kScalings, scaling, &NamedScaling::scaling)->name; }
+
 Scaling decided(Scaling wanted, const std::vector<QSizeF> &pages, const Sheet &sheet)
 {
     if (wanted != Scaling::automatic && wanted != Scaling::autoFit)

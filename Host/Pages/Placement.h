@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -21,6 +22,11 @@ enum class Scaling {
 
 /// Nil for a text that is none of its names.
 std::optional<Scaling> scalingNamed(const QString &name);
+QString nameOf(Scaling scaling);
+
+/// The option of a job that says it, and those by which older programs ask for `fit`.
+inline constexpr auto kPrintScaling = "print-scaling";
+inline constexpr std::array kFitOptions{"fit-to-page", "fitplot"};
 
 /// What a document's pages are put on sheets by: `automatic` is decided once for all of them, by the largest. Sizes are
 /// in points, as pages are looked at.

@@ -4,6 +4,9 @@
 
 #include "Jobs/PageRanges.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace host {
 
 using foundation::Or;
@@ -12,7 +15,7 @@ using foundation::Problem;
 Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Sheet &sheet, Scaling scaling,
                                   const QString &ranges, const std::stop_token &stop)
 {
-    auto pages = laidOut(std::move(document), sheet);
+    auto pages = laidOut(std::move(document), sheet, stop);
     if (!pages)
         return pages.problem();
     const QString title = (*pages)->title();
@@ -27,10 +30,28 @@ Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Shee
     result.m_scaling = decided(scaling, result.m_sizes, sheet);
     auto numbers = pagesAmong(ranges, result.countOfDocument());
     if (!numbers)
-        return Problem{tr("Pages %1: %2 has %3", "ranges, a document, and how many pages it has")
-                           .arg(ranges, title, QString::number(result.countOfDocument()))};
+        return beyondTheEnd(title, ranges, result.countOfDocument());
     result.m_numbers = *std::move(numbers);
     return result;
+}
+
+Problem PrintedPages::beyondTheEnd(const QString &title, const QString &ranges, int count)
+{
+    if (count == 1)
+        return {tr("%1 has only one page; asked for: %2", "a document, and ranges of pages").arg(title, ranges)};
+    return {tr("%1 has only %2 pages; asked for: %3", "a document, how many pages it has, and ranges of pages")
+                .arg(title, QString::number(count), ranges)};
+}
+
+bool PrintedPages::standAsTheyAre(const Sheet &sheet) const
+{
+    const QRectF whole(0, 0, sheet.size.width, sheet.size.height);
+    return count() == countOfDocument() && std::ranges::all_of(m_sizes, [&](QSizeF size) {
+               const auto [isTurned, where] = placementOf(size, sheet, m_scaling);
+               return !isTurned && std::abs(where.width() - whole.width()) <= 1 &&
+                      std::abs(where.height() - whole.height()) <= 1 &&
+                      (where.center() - whole.center()).manhattanLength() <= 1;
+           });
 }
 
 Or<QImage> PrintedPages::sheet(int index, const SheetDots &dots, const std::stop_token &stop) const

@@ -2,6 +2,7 @@
 #include "RegularFile.h"
 
 #include <QCoreApplication>
+#include <QTemporaryFile>
 
 #include <cerrno>
 #include <cstring>
@@ -25,6 +26,16 @@ Or<std::unique_ptr<QFile>> openRegularFile(const QString &path)
         return file;
     ::close(descriptor);
     return Problem{QCoreApplication::translate("foundation::RegularFile", "%1: not a file").arg(path)};
+}
+
+Or<std::unique_ptr<QFile>> openUnnamedFile()
+{
+    auto file = std::make_unique<QTemporaryFile>(); // readable by its owner only
+    if (!file->open())
+        return Problem{file->errorString()};
+    if (::unlink(QFile::encodeName(file->fileName()).constData()) != 0)
+        return Problem{systemErrorText(errno)};
+    return std::unique_ptr<QFile>(std::move(file));
 }
 
 } // namespace foundation

@@ -12,6 +12,10 @@ namespace foundation {
 /// A regular file, open for reading. A pipe, a device or a folder is a problem, and none of them can make us wait.
 Or<std::unique_ptr<QFile>> openRegularFile(const QString &path);
 
+/// A new file, readable and writable, that nobody but its owner can read and that has no name that could be left
+/// behind.
+Or<std::unique_ptr<QFile>> openUnnamedFile();
+
 /// The text of a system error number, in the encoding that the system uses.
 QString systemErrorText(int number);
 
