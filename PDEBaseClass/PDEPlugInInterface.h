@@ -78,6 +78,8 @@ struct PDEPrintEffect
     bool mirrored = false;            // left and right
     std::optional<double> feed;       // millimetres behind each page; nil while no amount counts
     bool perforated = false;
+
+    friend bool operator==(const PDEPrintEffect &, const PDEPrintEffect &) = default;
 };
 
 /// A panel laid open for scripts, tests and diagnosis; a dialog for people needs none of it.

@@ -118,8 +118,7 @@ Or<void> replaceFile(const QString &path, const QByteArray &content)
     if (isWritten &&
         ::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(target).constData()) == 0)
         return {};
-    const Problem problem{QString("%1: %2").arg(
-        path, file.error() == QFileDevice::NoError ? foundation::systemErrorText(errno) : file.errorString())};
+    const Problem problem{QString("%1: %2").arg(path, foundation::fileErrorText(file))};
     file.remove();
     return problem;
 }

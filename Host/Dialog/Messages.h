@@ -10,7 +10,7 @@
 namespace host {
 
 /// What a message is about: it goes when its reason has gone, and only that.
-enum class About { printer, panel, document, paper, pages, job, settings };
+enum class About { printer, panel, document, fit, paper, pages, job, settings };
 
 class Messages
 {

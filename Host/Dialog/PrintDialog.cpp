@@ -76,11 +76,25 @@ Or<void> PrintDialog::start()
         look(m_wanted);
         return {};
     }
+    return useFile();
+}
+
+Or<void> PrintDialog::useFile()
+{
     auto target = PPDTarget::ofFile(m_request);
-    if (!target)
+    if (!target) {
+        endLooking(target.problem(), target.problem().sentence);
         return target.problem();
+    }
     use(*std::move(target));
     return {};
+}
+
+void PrintDialog::endLooking(const Problem &problem, const QString &sentence)
+{
+    m_problem = problem;
+    say(About::printer, sentence);
+    setState(State::noPrinter);
 }
 
 QString PrintDialog::jobTitle() const
@@ -138,6 +152,13 @@ void PrintDialog::setPages(const QString &pages)
     settleSoon();
 }
 
+void PrintDialog::setScaling(Scaling scaling)
+{
+    if (m_target)
+        m_target->setScaling(scaling);
+    settleSoon();
+}
+
 void PrintDialog::choosePrinter(const QString &name)
 {
     if (m_state == State::sending)
@@ -151,7 +172,9 @@ void PrintDialog::lookAgain()
 {
     if (m_state == State::sending)
         return;
-    m_hasAllPrinters = false; // there may be others now
+    if (!m_request.ppd.isEmpty())
+        return (void)useFile(); // the message tells of it
+    m_hasAllPrinters = false;   // there may be others now
     m_refusedCredentials = 0;
     look(m_wanted);
 }
@@ -187,12 +210,10 @@ void PrintDialog::finderFailed(const Problem &problem)
 {
     if (problem.kind == Problem::Kind::notFound && std::exchange(m_wantsLastPrinter, false))
         return look({}); // the default queue, then
-    m_problem = problem;
-    say(About::printer, problem.kind == Problem::Kind::noService
+    endLooking(problem, problem.kind == Problem::Kind::noService
                             ? tr("The print service does not run. Start it (“systemctl start cups”), or ask whoever "
                                  "looks after this computer.")
                             : problem.sentence);
-    setState(State::noPrinter);
     askForCredentials(problem, [this] { look(m_wanted, m_carried); });
     if (problem.kind == Problem::Kind::noChoice && m_hasAllPrinters)
         chooseAmong(m_printers);
@@ -401,14 +422,16 @@ void PrintDialog::chooseDocuments(const QStringList &paths)
 {
     if (m_state == State::sending)
         return;
-    m_documents.clear();
+    std::vector<std::shared_ptr<Document>> chosen;
     QStringList problems;
     for (const QString &path : paths) {
         if (auto document = Document::open(path))
-            m_documents.push_back(*std::move(document));
+            chosen.push_back(*std::move(document));
         else
             problems.append(document.problem().sentence);
     }
+    if (!chosen.empty() || problems.isEmpty())
+        m_documents = std::move(chosen);
     say(About::document, problems.join('\n'));
     Q_EMIT documentsChanged();
 }

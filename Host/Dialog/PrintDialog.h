@@ -28,8 +28,8 @@ public:
     /// A job that is on its way is stopped, and waited for so that nothing is left half sent.
     ~PrintDialog() override;
 
-    /// Takes the PPD file of the request, or begins to look for its queue. A problem when the file can't serve; that of
-    /// a queue comes as a state.
+    /// Takes the PPD file of the request, or begins to look for its queue. A problem when the file can't serve, which
+    /// is the state as well; that of a queue comes as a state only.
     foundation::Or<void> start();
 
     State state() const { return m_state; }
@@ -71,11 +71,13 @@ public:
     bool show(PDEPanel &panel);
     void setCopies(int copies);
     void setPages(const QString &pages);
+    void setScaling(Scaling scaling);
     void restorePreset(const QString &name);
     /// An empty name saves the user's own defaults.
     void savePreset(const QString &name);
     void removePreset();
     /// Takes other documents in place of those that there are; those that can't be printed are named, and left out.
+    /// Those that there are stay when none can.
     void chooseDocuments(const QStringList &paths);
     void print();
     /// Answers `credentialsWanted`, and does once more what they were wanted for.
@@ -126,6 +128,8 @@ private:
     void sendNext();
     void askForCredentials(const foundation::Problem &problem, std::function<void()> again);
     void setState(State state);
+    foundation::Or<void> useFile();
+    void endLooking(const foundation::Problem &problem, const QString &sentence);
     void look(const QueueName &name, const OptionValues &carried = {});
     void finderFound(const Queue &queue);
     void finderFailed(const foundation::Problem &problem);

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 
 namespace host {
 
@@ -55,6 +56,16 @@ Scaling PrintTarget::scaling() const
         if (m_serverOptions.value(word) == "true" || m_serverOptions.value(word) == "yes")
             return Scaling::fit;
     return scalingNamed(m_serverOptions.value(kPrintScaling)).value_or(Scaling::automatic);
+}
+
+void PrintTarget::setScaling(Scaling scaling)
+{
+    for (const char *word : kFitOptions)
+        m_serverOptions.remove(word);
+    if (scaling == Scaling::automatic)
+        m_serverOptions.remove(kPrintScaling);
+    else
+        m_serverOptions[kPrintScaling] = nameOf(scaling);
 }
 
 OptionValues PrintTarget::restore(const QString &) { return {}; }

@@ -85,6 +85,7 @@ public:
     Scaling scaling() const;
     /// What is done with a document before it is sent; nil when it goes as it is.
     virtual std::optional<Preparation> preparation() const { return std::nullopt; }
+    void setScaling(Scaling scaling);
 
     /// Whether all panels agree to print; one that does not has told the user why.
     virtual bool agrees() { return true; }

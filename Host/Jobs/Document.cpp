@@ -78,9 +78,7 @@ Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
         return Problem{tr("standard input: %1").arg(copy.problem().sentence)};
     QFile input;
     if (!input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, **copy))
-        return Problem{tr("standard input: %1")
-                           .arg((*copy)->error() == QFileDevice::NoError ? foundation::systemErrorText(errno)
-                                                                         : (*copy)->errorString())};
+        return Problem{tr("standard input: %1").arg(foundation::fileErrorText(**copy))};
     return copy;
 }
 

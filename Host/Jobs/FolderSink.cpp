@@ -19,6 +19,7 @@
 
 namespace host {
 
+using foundation::fileErrorText;
 using foundation::Or;
 using foundation::Problem;
 using foundation::systemErrorText;
@@ -121,12 +122,12 @@ Or<void> copyDocument(Document &document, QTemporaryFile &copy, const JobProgres
 {
     auto streamed = streamDocument(document, progress, stop, [&copy](const QByteArray &part) -> Or<void> {
         if (copy.write(part) != part.size())
-            return Problem{copy.errorString()};
+            return Problem{fileErrorText(copy)};
         return {};
     });
     if (!streamed || complete(copy))
         return streamed;
-    return Problem{copy.error() ? copy.errorString() : systemErrorText(errno)};
+    return Problem{fileErrorText(copy)};
 }
 
 } // namespace
@@ -148,7 +149,7 @@ Or<QString> FolderSink::submit(const Job &job, const JobProgress &progress, std:
         const QString base = baseName(job.title) + (i == 1 ? QString() : '-' + QString::number(i));
         const QString name = base + '.' + job.document->extension();
         if (!writeTicket(*ticket, ticketText(job, name)))
-            return failed(ticket->errorString());
+            return failed(fileErrorText(*ticket));
         int error = nameIt(*copy, path(name));
         if (error == 0) {
             error = nameIt(*ticket, path(base + ".json"));

@@ -3,6 +3,7 @@
 #include "PPDDocument.h"
 
 #include "PPDLimits.h"
+#include "PPDProblems.h"
 
 #include "Foundation/RegularFile.h"
 
@@ -73,8 +74,7 @@ Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path)
     if (!file) {
         int line = 0;
         const ppd_status_t status = ppdLastError(&line);
-        return Problem{
-            tr("%1: not a PPD file (line %2: %3)").arg(path, QString::number(line), text(ppdErrorString(status)))};
+        return Problem{tr("%1: not a PPD file (line %2: %3)").arg(path, QString::number(line), ppdProblemText(status))};
     }
     return std::unique_ptr<PPDDocument>(new PPDDocument(std::move(file)));
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kMostPages = 100'000;
 constexpr qint64 kMostInfoBytes = qint64{100} * kMostPages; // a page takes two short lines
-constexpr auto kReader = "pdfinfo";
+constexpr auto kInfo = "pdfinfo";
 constexpr auto kPainter = "pdftoppm";
 
 Allowance allowance(qint64 output) { return {qint64{512} * 1024 * 1024, output, 20, std::chrono::seconds(30)}; }
@@ -57,8 +57,6 @@ PageReader::PageReader(const Document &document)
     , m_path(pathOfDescriptor(document.descriptor()))
 {}
 
-bool PageReader::isThere() { return !QStandardPaths::findExecutable(kReader).isEmpty(); }
-
 Or<QByteArray> PageReader::answerOf(const QString &program, const QStringList &arguments, qint64 mostBytes,
                                     const std::stop_token &stop) const
 {
@@ -77,10 +75,12 @@ Or<QByteArray> PageReader::answerOf(const QString &program, const QStringList &a
                        : tr("%1: the document is damaged").arg(m_title)};
 }
 
+bool PageReader::isThere() { return !QStandardPaths::findExecutable(kInfo).isEmpty(); }
+
 Or<std::vector<QSizeF>> PageReader::sizes(const std::stop_token &stop) const
 {
     const QString all = QString::number(kMostPages + 1);
-    const auto info = answerOf(kReader, {"-f", "1", "-l", all, "-"}, kMostInfoBytes, stop);
+    const auto info = answerOf(kInfo, {"-f", "1", "-l", all, "-"}, kMostInfoBytes, stop);
     if (!info)
         return info.problem();
     auto sizes = readSizes(*info);

@@ -20,7 +20,7 @@ public:
     /// Of a PDF, which is only borrowed, by its descriptor.
     explicit PageReader(const Document &document);
 
-    /// Whether there is a program that tells sizes.
+    /// Whether there is a program to read pages.
     static bool isThere();
 
     /// The size of each page in points, as it is looked at. A problem when the document is damaged, locked, or of too

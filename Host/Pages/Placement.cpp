@@ -26,11 +26,6 @@ bool isLarger(double page, double paper) { return std::floor(page / kTolerance) 
 bool isLandscape(QSizeF size) { return size.width() > size.height(); }
 QSizeF sizeOf(const Sheet &sheet) { return {sheet.size.width, sheet.size.height}; }
 
-QSizeF turned(QSizeF page, const Sheet &sheet)
-{
-    return isLandscape(page) == isLandscape(sizeOf(sheet)) ? page : page.transposed();
-}
-
 bool hasMargins(const Sheet &sheet) { return sheet.printable.size() != sizeOf(sheet); }
 
 QRectF centred(QSizeF size, QPointF centre) { return {centre - QPointF(size.width() / 2, size.height() / 2), size}; }
@@ -46,12 +41,17 @@ std::optional<Scaling> scalingNamed(const QString &name)
 
 QString nameOf(Scaling scaling) { return std::ranges::find(kScalings, scaling, &NamedScaling::scaling)->name; }
 
+QSizeF turnedFor(const Sheet &sheet, QSizeF page)
+{
+    return isLandscape(page) == isLandscape(sizeOf(sheet)) ? page : page.transposed();
+}
+
 Scaling decided(Scaling wanted, const std::vector<QSizeF> &pages, const Sheet &sheet)
 {
     if (wanted != Scaling::automatic && wanted != Scaling::autoFit)
         return wanted;
     const bool tooLarge = std::ranges::any_of(pages, [&](QSizeF page) {
-        const QSizeF size = turned(page, sheet);
+        const QSizeF size = turnedFor(sheet, page);
         return isLarger(size.width(), sheet.size.width) || isLarger(size.height(), sheet.size.height);
     });
     if (!tooLarge)
@@ -61,7 +61,7 @@ Scaling decided(Scaling wanted, const std::vector<QSizeF> &pages, const Sheet &s
 
 Placement placementOf(QSizeF page, const Sheet &sheet, Scaling scaling)
 {
-    const QSizeF size = turned(page, sheet);
+    const QSizeF size = turnedFor(sheet, page);
     const bool isTurned = isLandscape(page) != isLandscape(sizeOf(sheet));
     if (scaling != Scaling::fit && scaling != Scaling::fill)
         return {isTurned, centred(size, QRectF({}, sizeOf(sheet)).center())};

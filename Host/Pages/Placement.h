@@ -32,6 +32,9 @@ inline constexpr std::array kFitOptions{"fit-to-page", "fitplot"};
 /// in points, as pages are looked at.
 Scaling decided(Scaling wanted, const std::vector<QSizeF> &pages, const Sheet &sheet);
 
+/// A page's size as it lies on a sheet: landscape pages are turned on portrait paper, and the other way about.
+QSizeF turnedFor(const Sheet &sheet, QSizeF page);
+
 struct Placement
 {
     bool isTurned = false; // by a quarter, clockwise: a landscape page on portrait paper, or the other way about

@@ -30,17 +30,12 @@ Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Shee
     result.m_scaling = decided(scaling, result.m_sizes, sheet);
     auto numbers = pagesAmong(ranges, result.countOfDocument());
     if (!numbers)
-        return beyondTheEnd(title, ranges, result.countOfDocument());
+        return Problem{result.countOfDocument() == 1
+                           ? tr("%1 has only one page, not %2", "a document, ranges of pages").arg(title, ranges)
+                           : tr("%1 has only %2 pages, not %3", "a document, a number, ranges of pages")
+                                 .arg(title, QString::number(result.countOfDocument()), ranges)};
     result.m_numbers = *std::move(numbers);
     return result;
-}
-
-Problem PrintedPages::beyondTheEnd(const QString &title, const QString &ranges, int count)
-{
-    if (count == 1)
-        return {tr("%1 has only one page; asked for: %2", "a document, and ranges of pages").arg(title, ranges)};
-    return {tr("%1 has only %2 pages; asked for: %3", "a document, how many pages it has, and ranges of pages")
-                .arg(title, QString::number(count), ranges)};
 }
 
 bool PrintedPages::standAsTheyAre(const Sheet &sheet) const

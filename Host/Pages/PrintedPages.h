@@ -30,7 +30,6 @@ public:
 
 private:
     PrintedPages() = default;
-    static foundation::Problem beyondTheEnd(const QString &title, const QString &ranges, int count);
 
     std::shared_ptr<Document> m_document; // as pages
     std::vector<QSizeF> m_sizes;

@@ -11,6 +11,8 @@ struct Sheet
 {
     printing::Paper size;
     QRectF printable; // in points, y downward from the upper left corner; the whole sheet when nothing is known
+
+    friend bool operator==(const Sheet &, const Sheet &) = default;
 };
 
 } // namespace host

@@ -13,23 +13,25 @@ namespace host {
 
 namespace {
 
-/// Shows the panel that the command line names; one that is not there yet, as soon as its printer comes.
-int showPanel(DialogWindow &window, const PrintDialog &dialog, const QString &panel)
+/// What a person does not read on a terminal, the window shows as well: it opens whatever is wrong with a file.
+void tellOnTerminal(const PrintDialog &dialog)
 {
-    if (panel.isEmpty())
-        return kDone;
-    if (!dialog.target()) {
-        window.showPanelFirst(panel);
-    } else if (!window.showPanel(panel)) {
-        complain(QString("--panel %1: there is no such panel").arg(panel));
-        return kWrongUse;
-    }
-    return kDone;
+    for (const QString &sentence : dialog.message().split('\n', Qt::SkipEmptyParts))
+        complain(sentence);
 }
 
-/// Shows the window until it closes. A signal closes it, and all that is open over it; a job that is on its way is
-/// stopped first, and what becomes of it is said where the signal came from.
-int showUntilClosed(DialogWindow &window, PrintDialog &dialog)
+void tellWhatBecomesOfJobs(const PrintDialog &dialog)
+{
+    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &where, const QString &fate) {
+        report(where);
+        if (!fate.isEmpty())
+            notify(fate);
+    });
+}
+
+/// What a signal does: it closes the window, and all that is open over it; a job that is on its way is stopped first,
+/// and what becomes of it is said where the signal came from.
+void interrupt(DialogWindow &window, PrintDialog &dialog)
 {
     const auto close = [&window] {
         while (QWidget *const box = QApplication::activeModalWidget()) {
@@ -38,37 +40,28 @@ int showUntilClosed(DialogWindow &window, PrintDialog &dialog)
         }
         window.done(QDialog::Rejected);
     };
-    const Interrupts interrupts([&dialog, close] {
-        if (dialog.state() != PrintDialog::State::sending)
-            return close();
-        QObject::connect(&dialog, &PrintDialog::failed, &dialog, [close](const foundation::Problem &problem) {
-            complain(problem.sentence);
-            close();
-        });
-        dialog.stop();
+    if (dialog.state() != PrintDialog::State::sending)
+        return close();
+    QObject::connect(&dialog, &PrintDialog::failed, &dialog, [close](const foundation::Problem &problem) {
+        complain(problem.sentence);
+        close();
     });
-    return window.exec() == QDialog::Accepted ? kDone : kRefused;
+    dialog.stop();
 }
 
-/// Opens the dialog in its window and hands that over; the exit status.
-int withWindow(const CommandLine &line, const QStringList &files,
-               const std::function<int(DialogWindow &window, PrintDialog &dialog)> &use)
+/// Shows the panel that the command line names; one that is not there yet, as soon as its printer comes. The exit
+/// status of a window that closes without a job.
+int showPanel(DialogWindow &window, const PrintDialog &dialog, const QString &panel)
 {
-    PrintDialog dialog(line.request, nullptr);
-    if (!files.isEmpty())
-        dialog.chooseDocuments(files);
-    QObject::connect(&dialog, &PrintDialog::printed, [](const QString &where, const QString &fate) {
-        report(where);
-        if (!fate.isEmpty())
-            notify(fate);
-    });
-    if (const auto started = dialog.start(); !started) {
-        complain(started.problem().sentence);
+    if (panel.isEmpty())
         return kRefused;
+    if (!dialog.target()) {
+        window.showPanelFirst(panel);
+    } else if (!window.showPanel(panel)) {
+        complain(QString("--panel %1: there is no such panel").arg(panel));
+        return kWrongUse;
     }
-    DialogWindow window(dialog);
-    const int status = showPanel(window, dialog, line.panel);
-    return status == kDone ? use(window, dialog) : status;
+    return kRefused;
 }
 
 } // namespace
@@ -77,24 +70,50 @@ int openDialog(const CommandLine &line)
 {
     useWindowTexts(line.request.language);
     setConversationLanguage(line.request.language);
-    return withWindow(line, line.files, showUntilClosed);
+    PrintDialog dialog(line.request, nullptr);
+    dialog.chooseDocuments(line.files);
+    tellOnTerminal(dialog); // and the window will
+    tellWhatBecomesOfJobs(dialog);
+    if (const auto started = dialog.start(); !started)
+        complain(started.problem().sentence);
+    DialogWindow window(dialog);
+    const Interrupts interrupts([&] { interrupt(window, dialog); });
+    const int withoutJob = showPanel(window, dialog, line.panel);
+    return window.exec() == QDialog::Accepted ? kDone : withoutJob;
 }
 
 int takeShot(const CommandLine &line)
 {
-    if (line.request.ppd.isEmpty() || line.files.size() != 1) {
-        complain("shot: needs --ppd FILE and the name of one picture");
+    if (line.request.ppd.isEmpty() || line.files.isEmpty() || line.files.size() > 2) {
+        complain("shot: needs --ppd FILE and the name of one picture, with a document before it or without");
         return kWrongUse;
     }
     useWindowTexts(line.request.language);
-    return withWindow(line, {}, [&line](DialogWindow &window, PrintDialog &) {
-        window.show();
-        QCoreApplication::processEvents();
-        if (window.grab().save(line.files.first()))
-            return kDone;
-        complain(QString("%1: can't be written").arg(line.files.first()));
+    const QStringList documents = line.files.first(line.files.size() - 1);
+    PrintDialog dialog(line.request, nullptr);
+    if (!documents.isEmpty())
+        dialog.chooseDocuments(documents);
+    if (dialog.documents().size() < static_cast<std::size_t>(documents.size())) {
+        complain(dialog.message());
         return kRefused;
-    });
+    }
+    if (const auto started = dialog.start(); !started) {
+        complain(started.problem().sentence);
+        return kRefused;
+    }
+    DialogWindow window(dialog);
+    if (showPanel(window, dialog, line.panel) == kWrongUse)
+        return kWrongUse;
+    window.showPreview(!documents.isEmpty());
+    window.show();
+    QCoreApplication::processEvents();
+    while (!window.isComplete())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::processEvents(); // what has come last takes its place
+    if (window.grab().save(line.files.last()))
+        return kDone;
+    complain(QString("%1: can't be written").arg(line.files.last()));
+    return kRefused;
 }
 
 } // namespace host

@@ -84,9 +84,10 @@ inline constexpr std::array kFaceRows{
     FaceRow{Face::script, "script", "script", "Drives the dialog with lines of JSON, without a display.",
             "Reads a request a line from standard input, and writes a reply each. It is for makers of drivers, who see "
             "how their PPD behaves."},
-    FaceRow{Face::shot, "shot", "shot --ppd file [options] picture",
+    FaceRow{Face::shot, "shot", "shot --ppd file [options] [document] picture",
             "Takes a picture of the window, without a display.",
-            "The ending of the picture's name tells the format: .png."},
+            "With a document the window shows the preview of its first page. The ending of the picture's name tells "
+            "the format: .png."},
     FaceRow{Face::preview, "preview", "preview [options] document picture",
             "Takes a picture of a page as it comes out of the printer, without a display.",
             "A dot of the thermal head is a pixel of the picture, a PNG of the whole sheet in black and white that has "

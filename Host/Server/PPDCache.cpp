@@ -4,6 +4,7 @@
 
 #include "ServerConnection.h"
 
+#include "Foundation/RegularFile.h"
 #include "PPD/PPDDocument.h"
 
 #include <QCryptographicHash>
@@ -59,7 +60,7 @@ Or<std::unique_ptr<QTemporaryFile>> temporaryFile(const QByteArray &content)
 {
     auto file = std::make_unique<QTemporaryFile>();
     if (!file->open() || file->write(content) != content.size() || !file->flush())
-        return Problem{file->errorString()};
+        return Problem{foundation::fileErrorText(*file)};
     return file;
 }
 

@@ -49,6 +49,9 @@ KnownCredentials &knownCredentials()
     return known;
 }
 
+/// Whether what goes over a connection can be read on its way. What goes to this machine does not leave it.
+bool isOpenToOthers(http_t *http) { return !httpIsEncrypted(http) && !httpAddrLocalhost(httpGetAddress(http)); }
+
 } // namespace
 
 void setCredentials(const Credentials &credentials)
@@ -116,6 +119,8 @@ Problem ServerConnection::accessProblem() const
                                          : tr("the CUPS server asks for a password");
     if (const auto reason = distrust())
         sentence += "; " + *reason;
+    if (isOpenToOthers(m_http.get()))
+        sentence += "; " + tr("the connection is not encrypted, so others on the network can read the password");
     return {sentence, Problem::Kind::noAccess};
 }
 

@@ -199,10 +199,13 @@ std::vector<SummaryRow> DialogSession::differences() const
 {
     std::vector<SummaryRow> rows;
     const OptionValues values = claimedAmong(m_marks.forJob());
-    for (const ppd_option_t *option : m_ppd->options())
-        if (const auto value = values.find(QLatin1String(option->keyword)); value != values.end())
-            rows.push_back(
-                {m_words.option(value.key()), m_words.choice(value.key(), ChoiceValue::fromText(value.value()))});
+    for (const ppd_option_t *option : m_ppd->options()) {
+        const auto value = values.find(QLatin1String(option->keyword));
+        if (value == values.end())
+            continue;
+        const ChoiceValue choice = ChoiceValue::fromText(value.value());
+        rows.push_back({m_words.option(value.key()), m_words.choice(value.key(), choice), choice.custom.has_value()});
+    }
     return rows;
 }
 

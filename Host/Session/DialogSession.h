@@ -22,6 +22,7 @@ struct SummaryRow
 {
     QString title;
     QString value;
+    bool isAmount = false; // that somebody types
 };
 
 class DialogSession

@@ -5,6 +5,7 @@
 
 #include "CredentialsBox.h"
 #include "PresetNameBox.h"
+#include "PreviewPane.h"
 #include "SummaryView.h"
 
 #include "Foundation/PlainText.h"
@@ -30,6 +31,7 @@ using foundation::UserDefaults;
 namespace {
 
 constexpr auto kSummaryIsUnfolded = "SummaryIsUnfolded";
+constexpr auto kPreviewIsUnfolded = "PreviewIsUnfolded";
 constexpr int kHeightOfFrame = 40; // that a window manager may add
 
 /// A menu or a number of a panel's, or of a bundle's of somebody else.
@@ -37,6 +39,13 @@ bool movesWithWheel(const QWidget &field)
 {
     return qobject_cast<const QComboBox *>(&field) || qobject_cast<const QAbstractSpinBox *>(&field) ||
            (qobject_cast<const QAbstractSlider *>(&field) && !qobject_cast<const QScrollBar *>(&field));
+}
+
+/// What is dropped on a field is a document, as elsewhere on the window, and not the text of its address.
+void leaveDropsToTheWindow(QWidget &fields)
+{
+    for (QLineEdit *field : fields.findChildren<QLineEdit *>())
+        field->setAcceptDrops(false);
 }
 
 QStringList localFiles(const QMimeData &data)
@@ -69,6 +78,7 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
                             static_cast<QWidget *>(m_ui->paperHeight)})
         keepFromWheel(*number);
     setAcceptDrops(true);
+    leaveDropsToTheWindow(*this);
     addButtons();
     connectFields();
     connectDialog();
@@ -78,8 +88,13 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
     showAmount();
     showMessage();
     showState();
-    if (UserDefaults::standard().objectForKey(kSummaryIsUnfolded) == "yes")
-        m_ui->unfold->setChecked(true);
+    for (const auto &[button, key] :
+         {std::pair(m_ui->unfoldPreview, kPreviewIsUnfolded), std::pair(m_ui->unfold, kSummaryIsUnfolded)}) {
+        button->setChecked(UserDefaults::standard().objectForKey(key) == "yes");
+        connect(button, &QPushButton::clicked, this, [key = key](bool isUnfolded) {
+            UserDefaults::standard().setObjectForKey(isUnfolded ? "yes" : "no", key);
+        });
+    }
     fitToScreen();
 }
 
@@ -138,7 +153,8 @@ void DialogWindow::connectFields()
     connect(m_ui->tabs, &QTabBar::currentChanged, this, &DialogWindow::showPanelAt);
     connect(m_ui->retry, &QPushButton::clicked, &m_dialog, &PrintDialog::lookAgain);
     connect(m_ui->choose, &QPushButton::clicked, this, &DialogWindow::chooseFiles);
-    connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::unfold);
+    connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::showSummary);
+    connect(m_ui->unfoldPreview, &QPushButton::toggled, this, &DialogWindow::showPreview);
     connect(m_ui->buttons, &QDialogButtonBox::accepted, this, [this] {
         if (m_paper->commit())
             m_dialog.print();
@@ -239,6 +255,8 @@ void DialogWindow::showMessage()
     if (text.isEmpty() && m_dialog.documents().empty() && m_dialog.state() == PrintDialog::State::ready)
         text = tr("Choose a file to print, or drop one here.");
     m_ui->message->say(foundation::withoutControls(text));
+    if (const QString wrong = messages.about(About::pages); m_ui->pages->accessibleDescription() != wrong)
+        m_ui->pages->setAccessibleDescription(wrong);
 }
 
 /// Where a panel would stand: why there is none.
@@ -296,7 +314,44 @@ void DialogWindow::showEvent(QShowEvent *event)
     QTimer::singleShot(0, this, [this] {
         m_dialog.prepareAll();
         showSettings();
+        checkDocument();
     });
+}
+
+void DialogWindow::checkDocument()
+{
+    if (m_check)
+        return;
+    m_check = std::make_unique<DocumentCheck>(m_dialog);
+    connect(m_check.get(), &DocumentCheck::changed, this, &DialogWindow::showCheck);
+}
+
+/// How many pages there are, beside those that are to be printed, and what helps where they don't go with the paper.
+void DialogWindow::showCheck()
+{
+    if (const auto pages = m_check->pages(); pages && !m_ofPages) {
+        m_ofPages = new QLabel(m_ui->settings);
+        m_ui->amountRow->addWidget(m_ofPages);
+    }
+    if (m_ofPages) {
+        m_ofPages->setVisible(m_check->pages().has_value());
+        m_ofPages->setText(tr("of %1", "how many pages").arg(QString::number(m_check->pages().value_or(0))));
+    }
+    const auto &remedy = m_check->remedy();
+    if (remedy && !m_remedy) {
+        m_remedy = new QPushButton(this);
+        m_remedy->setAutoDefault(false);
+        m_ui->messageRow->addWidget(m_remedy);
+        connect(m_remedy, &QPushButton::clicked, this, [this] {
+            m_check->takeRemedy();
+            showPaper();
+        });
+        restoreTabOrder();
+    }
+    if (m_remedy) {
+        m_remedy->setVisible(remedy && m_dialog.state() == PrintDialog::State::ready);
+        m_remedy->setText(remedy ? toolkit::withoutMnemonic(foundation::withoutControls(remedy->text)) : QString());
+    }
 }
 
 void DialogWindow::dragEnterEvent(QDragEnterEvent *event)
@@ -313,9 +368,11 @@ void DialogWindow::dropEvent(QDropEvent *event)
 
 void DialogWindow::chooseFiles()
 {
-    const QStringList files = QFileDialog::getOpenFileNames(this, tr("Choose Files to Print"));
-    if (!files.isEmpty())
-        m_dialog.chooseDocuments(files);
+    auto *const box = new QFileDialog(this, tr("Choose Files to Print"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setFileMode(QFileDialog::ExistingFiles);
+    connect(box, &QFileDialog::filesSelected, &m_dialog, &PrintDialog::chooseDocuments);
+    box->open();
 }
 
 /// No larger than the screen; the settings scroll then, and what prints and cancels stays.
@@ -328,16 +385,42 @@ void DialogWindow::fitToScreen()
     resize(wanted.boundedTo(room));
 }
 
-void DialogWindow::unfold(bool isUnfolded)
+void DialogWindow::showSummary(bool isShown)
 {
     if (!m_summary) {
         m_summary = new SummaryView(this);
-        m_ui->columns->addWidget(m_summary);
-        restoreTabOrder();
+        putBeside(*m_summary, 1);
     }
-    m_summary->setVisible(isUnfolded);
-    UserDefaults::standard().setObjectForKey(isUnfolded ? "yes" : "no", kSummaryIsUnfolded);
+    unfold(*m_summary, isShown);
     showSettings();
+}
+
+void DialogWindow::showPreview(bool isShown)
+{
+    m_ui->unfoldPreview->setChecked(isShown);
+    if (!m_preview && !isShown)
+        return;
+    if (!m_preview) {
+        m_preview = new PreviewPane(m_dialog, this);
+        putBeside(*m_preview, 2);
+    }
+    unfold(*m_preview, isShown);
+}
+
+/// The preview above the summary, whichever is seen first.
+void DialogWindow::putBeside(QWidget &part, int stretch)
+{
+    if (!m_beside) {
+        m_beside = new QVBoxLayout;
+        m_ui->columns->addLayout(m_beside);
+    }
+    m_beside->insertWidget(&part == m_preview ? 0 : -1, &part, stretch);
+    restoreTabOrder();
+}
+
+void DialogWindow::unfold(QWidget &part, bool isUnfolded)
+{
+    part.setVisible(isUnfolded);
     layout()->activate();
     fitToScreen();
 }
@@ -384,7 +467,39 @@ void DialogWindow::showSettings()
 {
     showPresetName();
     if (m_summary && m_summary->isVisibleTo(this))
-        m_summary->show(m_dialog.summary());
+        showSummary();
+}
+
+namespace {
+
+/// Where all fields of the panels are grey, an amount that is marked does not count.
+bool takeAmounts(const PDEPanels &panels)
+{
+    bool haveFields = false;
+    for (const auto &panel : panels) {
+        const QWidget *const view = panel->panelView();
+        for (const QLineEdit *field : view ? view->findChildren<QLineEdit *>() : QList<QLineEdit *>()) {
+            if (field->isEnabledTo(view) && !field->isReadOnly())
+                return true;
+            haveFields = true;
+        }
+    }
+    return !haveFields;
+}
+
+} // namespace
+
+void DialogWindow::showSummary()
+{
+    std::vector<SummaryRow> rows = m_dialog.summary();
+    if (m_dialog.target() && !takeAmounts(m_dialog.target()->panels()))
+        std::erase_if(rows, [](const SummaryRow &row) { return row.isAmount; });
+    m_summary->show(rows);
+}
+
+bool DialogWindow::isComplete() const
+{
+    return (!m_preview || !m_preview->preview().isBusy()) && (!m_check || !m_check->isBusy());
 }
 
 bool DialogWindow::showPanel(const QString &identifier)
@@ -392,8 +507,10 @@ bool DialogWindow::showPanel(const QString &identifier)
     const auto &panels = m_dialog.target()->panels();
     const auto found =
         std::ranges::find_if(panels, [&](const auto &panel) { return panel->identifier() == identifier; });
-    if (found == panels.end() || !(*found)->panelView())
+    if (found == panels.end() || !(*found)->panelView()) {
+        m_dialog.say(About::panel, tr("There is no panel “%1”.").arg(identifier));
         return false;
+    }
     m_ui->tabs->setCurrentIndex(static_cast<int>(found - panels.begin()));
     return true;
 }
@@ -401,11 +518,7 @@ bool DialogWindow::showPanel(const QString &identifier)
 void DialogWindow::showPanelFirst(const QString &identifier)
 {
     connect(
-        &m_dialog, &PrintDialog::targetChanged, this,
-        [this, identifier] {
-            if (!showPanel(identifier))
-                m_dialog.say(About::panel, tr("There is no panel “%1”.").arg(identifier));
-        },
+        &m_dialog, &PrintDialog::targetChanged, this, [this, identifier] { showPanel(identifier); },
         Qt::SingleShotConnection);
 }
 
@@ -423,6 +536,7 @@ void DialogWindow::addToPanelSpace(QWidget &view)
 {
     if (m_ui->panelSpace->indexOf(&view) < 0) {
         m_ui->panelSpace->addWidget(&view);
+        leaveDropsToTheWindow(view);
         for (QWidget *field : view.findChildren<QWidget *>())
             if (movesWithWheel(*field))
                 keepFromWheel(*field);
@@ -440,9 +554,10 @@ void DialogWindow::restoreTabOrder()
     QWidget *last = previousInFocusChain();
     while (last->focusPolicy() == Qt::NoFocus)
         last = last->previousInFocusChain();
-    for (QWidget *below :
-         {static_cast<QWidget *>(m_summary), static_cast<QWidget *>(m_ui->retry), static_cast<QWidget *>(m_ui->choose),
-          static_cast<QWidget *>(m_ui->unfold), static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)}) {
+    for (QWidget *below : {static_cast<QWidget *>(m_preview), static_cast<QWidget *>(m_summary),
+                           static_cast<QWidget *>(m_ui->retry), static_cast<QWidget *>(m_ui->choose),
+                           static_cast<QWidget *>(m_ui->unfold), static_cast<QWidget *>(m_ui->unfoldPreview),
+                           static_cast<QWidget *>(m_print), static_cast<QWidget *>(m_cancel)}) {
         if (!below)
             continue;
         setTabOrder(last, below);

@@ -3,7 +3,7 @@
 
 #include "PaperChooser.h"
 
-#include "Dialog/PrintDialog.h"
+#include "Dialog/DocumentCheck.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -11,10 +11,13 @@
 #include <memory>
 
 class QAction;
+class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 namespace host {
 
+class PreviewPane;
 class SummaryView;
 
 namespace Ui {
@@ -30,11 +33,16 @@ public:
     explicit DialogWindow(PrintDialog &dialog);
     ~DialogWindow() override;
 
-    /// False when there is no such panel or it has no view.
+    /// False when there is no such panel or it has no view; a message tells so.
     bool showPanel(const QString &identifier);
-    /// Shows a panel as soon as there is a printer; a message tells when there is no such panel.
+    /// The same as soon as there is a printer.
     void showPanelFirst(const QString &identifier);
     void reject() override;
+
+    /// Shows the preview, or folds it away.
+    void showPreview(bool isShown);
+    /// Whether all of it that is to be seen is there.
+    bool isComplete() const;
 
 protected:
     bool event(QEvent *event) override;
@@ -58,11 +66,16 @@ private:
     void showMessage();
     void showState();
     void showSettings();
+    void showSummary();
     void showPresetName();
     void showPanelAt(int index);
     void showInPlaceOfPanel();
     void setSending(bool isSending);
-    void unfold(bool isUnfolded);
+    void checkDocument();
+    void showCheck();
+    void showSummary(bool isShown);
+    void putBeside(QWidget &part, int stretch);
+    void unfold(QWidget &part, bool isUnfolded);
     void fitToScreen();
     void addToPanelSpace(QWidget &view);
     void restoreTabOrder();
@@ -74,7 +87,12 @@ private:
     PrintDialog &m_dialog;
     std::unique_ptr<Ui::DialogWindow> m_ui;
     PaperChooser *m_paper;
-    SummaryView *m_summary = nullptr; // made when it is first seen
+    std::unique_ptr<DocumentCheck> m_check; // once the window is there
+    QLabel *m_ofPages = nullptr;           // made when they are known
+    QPushButton *m_remedy = nullptr;       // made when there is one
+    QVBoxLayout *m_beside = nullptr; // what stands beside the settings; each made when it is first seen
+    PreviewPane *m_preview = nullptr;
+    SummaryView *m_summary = nullptr;
     QPointer<QWidget> m_focusBeforeJob;
     QString m_user; // who has said a password before
     QAction *m_remove;

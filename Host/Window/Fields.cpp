@@ -1,14 +1,11 @@
 // Fields of the window.
 #include "Fields.h"
 
-#include "Foundation/PlainText.h"
-
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QEvent>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStylePainter>
 
 namespace host {
 
@@ -70,7 +67,7 @@ void FittingScrollArea::resizeEvent(QResizeEvent *event)
 }
 
 Menu::Menu(QWidget *parent)
-    : QComboBox(parent)
+    : FittingMenu(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
@@ -84,32 +81,7 @@ void Menu::showPopup()
     const int bar = view()->verticalScrollBar()->sizeHint().width();
     const int wanted = view()->sizeHintForColumn(modelColumn()) + bar;
     view()->setMinimumWidth(qMin(wanted, screen()->availableSize().width()));
-    QComboBox::showPopup();
-}
-
-bool Menu::event(QEvent *event)
-{
-    if (event->type() == QEvent::ToolTip)
-        setToolTip(elided() == currentText() ? QString() : foundation::asHtml(currentText()));
-    return QComboBox::event(event);
-}
-
-QString Menu::elided() const
-{
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    const int width = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width();
-    return fontMetrics().elidedText(option.currentText, Qt::ElideRight, width);
-}
-
-void Menu::paintEvent(QPaintEvent *)
-{
-    QStylePainter painter(this);
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    option.currentText = elided();
-    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    FittingMenu::showPopup();
 }
 
 void LengthBox::setLimits(double least, double most)

@@ -1,7 +1,8 @@
 // Fields of the window as a person at a crowded or small screen needs them.
 #pragma once
 
-#include <QComboBox>
+#include "Toolkit/FittingText.h"
+
 #include <QDoubleSpinBox>
 #include <QScrollArea>
 
@@ -25,21 +26,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 };
 
-/// A menu that never asks for more room than it gets: a long text ends in an ellipsis, and its tool tip has the whole.
-class Menu : public QComboBox
+/// A menu that never asks for more room than it gets.
+class Menu : public toolkit::FittingMenu
 {
     Q_OBJECT
 
 public:
     explicit Menu(QWidget *parent = nullptr);
     void showPopup() override;
-
-protected:
-    bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-
-private:
-    QString elided() const;
 };
 
 /// A length between limits, which its tool tip and its description name. One that is typed outside them becomes the

@@ -16,7 +16,10 @@ Or<std::unique_ptr<QFile>> openRegularFile(const QString &path);
 /// behind.
 Or<std::unique_ptr<QFile>> openUnnamedFile();
 
-/// The text of a system error number, in the encoding that the system uses.
+/// The text of a system error number; the common ones in the language of the window.
 QString systemErrorText(int number);
+
+/// Why what was just done with a file has failed.
+QString fileErrorText(const QFileDevice &file);
 
 } // namespace foundation

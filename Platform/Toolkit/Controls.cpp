@@ -8,14 +8,12 @@
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QButtonGroup>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QRadioButton>
 #include <QStandardItemModel>
-#include <QStylePainter>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -27,7 +25,7 @@ namespace toolkit {
 using foundation::NotificationCenter;
 
 PopUpControl::PopUpControl(QWidget *parent)
-    : QComboBox(parent)
+    : FittingMenu(parent)
 {}
 
 void PopUpControl::select(int index)
@@ -50,34 +48,6 @@ void PopUpControl::removeAt(int index)
     const int selected = currentIndex();
     removeItem(index);
     setCurrentIndex(std::min(selected, count() - 1));
-}
-
-FittingText PopUpControl::fittingText() const
-{
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    return {currentText(), font(), room.width()};
-}
-
-void PopUpControl::paintEvent(QPaintEvent *)
-{
-    const FittingText fitting = fittingText();
-    QStylePainter painter(this);
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    painter.setFont(fitting.font);
-    option.currentText = fitting.text;
-    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
-}
-
-bool PopUpControl::event(QEvent *event)
-{
-    if (event->type() == QEvent::ToolTip &&
-        tellWhole(*this, *static_cast<QHelpEvent *>(event), fittingText(), currentText()))
-        return true;
-    return QComboBox::event(event);
 }
 
 bool PopUpControl::isItemEnabled(int index) const
@@ -108,7 +78,7 @@ void PopUpControl::choose(int index)
 void PopUpControl::showPopup()
 {
     validateItems();
-    QComboBox::showPopup();
+    FittingMenu::showPopup();
     view()->viewport()->installEventFilter(this); // again each time, to stay ahead of the menu's own
 }
 
@@ -118,13 +88,13 @@ bool PopUpControl::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::MouseButtonRelease && watched == view()->viewport() &&
         !view()->indexAt(static_cast<QMouseEvent *>(event)->position().toPoint()).flags().testFlag(Qt::ItemIsEnabled))
         return true;
-    return QComboBox::eventFilter(watched, event);
+    return FittingMenu::eventFilter(watched, event);
 }
 
 void PopUpControl::keyPressEvent(QKeyEvent *event)
 {
     validateItems(); // keys move through the items of a closed menu too
-    QComboBox::keyPressEvent(event);
+    FittingMenu::keyPressEvent(event);
 }
 
 void PopUpControl::wheelEvent(QWheelEvent *event)

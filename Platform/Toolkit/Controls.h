@@ -17,7 +17,7 @@ class QToolButton;
 namespace toolkit {
 
 /// A pop-up menu of titled items, each with an enabled state of its own.
-class PopUpControl : public QComboBox
+class PopUpControl : public FittingMenu
 {
     Q_OBJECT
 
@@ -50,12 +50,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    bool event(QEvent *event) override;
 
 private:
-    FittingText fittingText() const;
-
     Validator m_validator;
 };
 

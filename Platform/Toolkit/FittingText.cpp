@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QHelpEvent>
+#include <QStylePainter>
 #include <QToolTip>
 #include <QWidget>
 
@@ -38,6 +39,34 @@ bool tellWhole(const QWidget &control, const QHelpEvent &event, const FittingTex
         return false;
     QToolTip::showText(event.globalPos(), foundation::asHtml(whole));
     return true;
+}
+
+FittingText FittingMenu::fittingText() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    return {currentText(), font(), room.width()};
+}
+
+void FittingMenu::paintEvent(QPaintEvent *)
+{
+    const FittingText fitting = fittingText();
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.setFont(fitting.font);
+    option.currentText = fitting.text;
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+bool FittingMenu::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip &&
+        tellWhole(*this, *static_cast<QHelpEvent *>(event), fittingText(), currentText()))
+        return true;
+    return QComboBox::event(event);
 }
 
 } // namespace toolkit

@@ -2,6 +2,7 @@
 // fonts.
 #pragma once
 
+#include <QComboBox>
 #include <QFont>
 #include <QString>
 
@@ -23,5 +24,19 @@ struct FittingText
 /// Shows the whole of a text that is cut, in plain text, where the control has no tool tip of its own. False when there
 /// is nothing to show.
 bool tellWhole(const QWidget &control, const QHelpEvent &event, const FittingText &text, const QString &whole);
+
+/// A menu that shows its text as it fits.
+class FittingMenu : public QComboBox
+{
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    FittingText fittingText() const;
+};
 
 } // namespace toolkit

@@ -55,8 +55,8 @@ PDFText &PDFText::words(const QByteArray &entries, const QByteArray &words)
 
 PDFText &PDFText::pages(int count, QSizeF size)
 {
-    const QByteArray box = "/MediaBox[0 0 " + QByteArray::number(size.width()) + ' ' +
-                           QByteArray::number(size.height()) + ']';
+    const QByteArray box =
+        "/MediaBox[0 0 " + QByteArray::number(size.width()) + ' ' + QByteArray::number(size.height()) + ']';
     for (int i = 1; i <= count; ++i)
         words(box, "Page " + QByteArray::number(i));
     return *this;
@@ -129,8 +129,8 @@ std::vector<QSizeF> sizesOf(const QString &path)
 QImage pictureOf(const QString &path, int page, double resolution)
 {
     const QString number = QString::number(page);
-    return QImage::fromData(output("pdftoppm", {"-gray", "-cropbox", "-r", QString::number(resolution), "-f", number,
-                                                "-l", number, path}));
+    return QImage::fromData(
+        output("pdftoppm", {"-gray", "-cropbox", "-r", QString::number(resolution), "-f", number, "-l", number, path}));
 }
 
 } // namespace support

@@ -24,6 +24,80 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>das ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>kein Platz mehr auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>der zugeteilte Speicherplatz ist erschöpft</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>der Datenträger kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Fehler beim Lesen oder Schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: das Dokument ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1: für seine Seiten ist kein Platz</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1: das Dokument braucht zu lange oder zu viel Speicher, um auf das Papier gesetzt zu werden</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1: kann nicht auf das Papier gesetzt werden: %2 fehlt (es gehört zu qnprint).</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: seine Seiten können nicht gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -244,6 +318,15 @@
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -270,6 +353,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: kann so nicht gedruckt werden; PDF, PostScript, PNG, JPEG, GIF, TIFF und einfacher Text können es</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -308,6 +424,45 @@
         <source>%1 to %2</source>
         <comment>two lengths</comment>
         <translation>%1 bis %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1: kann nicht mehr gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1: das Bild ist zu groß, um gesetzt zu werden</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1: hat sich während des Lesens geändert</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1: das Bild ist beschädigt</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1: Bilder dieser Art können nicht gelesen werden; die weiteren Bildformate von Qt sind nicht installiert</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1: kann für dieses Papier nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: seine Seiten können nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1: der Text ist zu lang, um gesetzt zu werden</translation>
     </message>
 </context>
 <context>
@@ -353,6 +508,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>der Kopf einer PPD-Datei fehlt</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>der Stern vor einem Schlüsselwort fehlt</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>ein Wert fehlt</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>die Zeile ist zu lang</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>ein nicht erlaubtes Zeichen</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>ein nicht erlaubtes Schlüsselwort oder ein nicht erlaubter Text</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>eine Gruppe oder Option, die nicht begonnen oder nicht beendet wird</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>sie kann nicht gelesen werden</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -388,6 +578,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>Seiten können nicht gezeigt werden: %1 fehlt (es gehört zu poppler-utils).</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1: das Dokument braucht zu lange oder zu viel Speicher, um gelesen zu werden</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1: das Dokument ist mit einem Passwort geschützt</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: das Dokument ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1: das Dokument hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1: Seite %2 kann nicht gezeichnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -405,6 +640,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>Der Drucker nimmt nicht %1, sondern %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1: kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
@@ -450,6 +692,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>„%1“ gibt es schon; Sichern ersetzt sie.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -541,6 +839,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 wartet: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1: PostScript kann vor dem Drucken nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 hat nur eine Seite, nicht %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 hat nur %2 Seiten, nicht %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>Das Papier ist zu groß, um gezeigt zu werden.</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1: Seite %2 ist zu groß, um gezeigt zu werden</translation>
     </message>
 </context>
 <context>
@@ -688,6 +1011,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>der CUPS-Server nimmt Benutzername oder Passwort nicht an</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>die Verbindung ist nicht verschlüsselt, andere im Netz können das Passwort also lesen</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,80 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>no existe el archivo o la carpeta</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>permiso denegado</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>operación no permitida</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>no es una carpeta</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>no queda espacio en el dispositivo</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>cuota de disco superada</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>el archivo es demasiado grande</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>el dispositivo es de solo lectura</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>el nombre del archivo es demasiado largo</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>demasiados archivos abiertos</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>error de entrada o salida</translation>
+    </message>
+</context>
+<context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: el documento está dañado</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1: no hay espacio para sus páginas</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1: colocar el documento en el papel requiere demasiado tiempo o memoria</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1: no se puede colocar en el papel: falta %2 (es parte de qnprint).</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: no se pueden guardar sus páginas: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -244,6 +318,15 @@
         <source>&amp;Delete</source>
         <translation>&amp;Eliminar</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -270,6 +353,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: no se puede imprimir tal cual; PDF, PostScript, PNG, JPEG, GIF, TIFF y texto sin formato sí</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -308,6 +424,45 @@
         <source>%1 to %2</source>
         <comment>two lengths</comment>
         <translation>%1 a %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1: ya no se puede leer</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1: la imagen es demasiado grande para componerla</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1: ha cambiado mientras se leía</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1: la imagen está dañada</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelado</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1: no se puede leer este tipo de imagen; los formatos de imagen adicionales de Qt no están instalados</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1: no se puede componer para este papel</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: no se pueden guardar sus páginas: %2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1: el texto es demasiado largo para componerlo</translation>
     </message>
 </context>
 <context>
@@ -353,6 +508,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>falta el encabezado de un archivo PPD</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>falta el asterisco ante una palabra clave</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>falta un valor</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>la línea es demasiado larga</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>un carácter no permitido</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>una palabra clave o un texto no permitidos</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>un grupo o una opción sin comienzo o sin final</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -388,6 +578,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>No se pueden mostrar las páginas: falta %1 (es parte de poppler-utils).</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1: leer el documento requiere demasiado tiempo o memoria</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1: el documento está protegido con una contraseña</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: el documento está dañado</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1: el documento no tiene páginas</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1: no se puede dibujar la página %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -405,6 +640,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>La impresora no admite %1, sino %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1: no se puede escribir</translation>
     </message>
 </context>
 <context>
@@ -450,6 +692,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>«%1» ya existe; al guardar se reemplaza.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -541,6 +839,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 espera: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1: PostScript no se puede mostrar antes de imprimirlo</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 solo tiene una página, no %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 solo tiene %2 páginas, no %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>El papel es demasiado grande para mostrarlo.</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1: la página %2 es demasiado grande para mostrarla</translation>
     </message>
 </context>
 <context>
@@ -688,6 +1011,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>el servidor CUPS no acepta el usuario o la contraseña</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>la conexión no está cifrada, por lo que otros en la red pueden leer la contraseña</translation>
     </message>
 </context>
 <context>

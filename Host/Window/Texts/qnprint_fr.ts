@@ -24,6 +24,80 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>fichier ou dossier inexistant</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>accès refusé</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>opération non permise</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>c’est un dossier</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>plus de place sur le support</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>quota de disque dépassé</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>fichier trop volumineux</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>le support est en lecture seule</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>nom de fichier trop long</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>erreur d’entrée-sortie</translation>
+    </message>
+</context>
+<context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1 : le document est endommagé</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1 : il n’y a pas de place pour ses pages</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1 : placer le document sur le papier demande trop de temps ou de mémoire</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1 : ne peut pas être placé sur le papier : %2 manque (il fait partie de qnprint).</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1 : ses pages ne peuvent pas être enregistrées : %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -244,6 +318,15 @@
         <source>&amp;Delete</source>
         <translation>&amp;Supprimer</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -270,6 +353,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1 : ne peut pas être imprimé tel quel ; PDF, PostScript, PNG, JPEG, GIF, TIFF et texte brut le peuvent</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -308,6 +424,45 @@
         <source>%1 to %2</source>
         <comment>two lengths</comment>
         <translation>%1 à %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1 : ne peut plus être lu</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1 : l’image est trop grande pour être mise en page</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1 : a changé pendant la lecture</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1 : l’image est endommagée</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1 : ce type d’image ne peut pas être lu ; les formats d’image supplémentaires de Qt ne sont pas installés</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1 : ne peut pas être mis en page pour ce papier</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1 : ses pages ne peuvent pas être enregistrées : %2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1 : le texte est trop long pour être mis en page</translation>
     </message>
 </context>
 <context>
@@ -353,6 +508,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>l’en-tête d’un fichier PPD manque</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>l’astérisque manque devant un mot-clé</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>une valeur manque</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>la ligne est trop longue</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>un caractère non autorisé</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>un mot-clé ou un texte non autorisé</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>un groupe ou une option qui n’est pas commencé ou pas terminé</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>illisible</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -388,6 +578,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>Les pages ne peuvent pas être montrées : %1 manque (il fait partie de poppler-utils).</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1 : lire le document demande trop de temps ou de mémoire</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1 : le document est protégé par un mot de passe</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1 : le document est endommagé</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1 : le document n’a pas de pages</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1 : la page %2 ne peut pas être dessinée</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -405,6 +640,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>L’imprimante n’accepte pas %1, mais %2.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1 : ne peut pas être écrit</translation>
     </message>
 </context>
 <context>
@@ -450,6 +692,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>« %1 » existe déjà ; l’enregistrement le remplace.</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -541,6 +839,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 attend : %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1 : PostScript ne peut pas être montré avant l’impression</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 n’a qu’une page, et non %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 n’a que %2 pages, et non %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>Le papier est trop grand pour être montré.</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1 : la page %2 est trop grande pour être montrée</translation>
     </message>
 </context>
 <context>
@@ -688,6 +1011,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>le serveur CUPS n’accepte pas le nom d’utilisateur ou le mot de passe</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>la connexion n’est pas chiffrée, d’autres sur le réseau peuvent donc lire le mot de passe</translation>
     </message>
 </context>
 <context>

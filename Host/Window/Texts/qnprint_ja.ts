@@ -24,6 +24,80 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>ファイルまたはフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセスが許可されていません</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>許可されていない操作です</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>空き容量がありません</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>ディスクの割り当て量を超えました</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>読み取り専用のファイルシステムです</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>ファイル名が長すぎます</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>入出力エラーです</translation>
+    </message>
+</context>
+<context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1：文書が壊れています</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1：ページを保存する空き容量がありません</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1：文書を用紙に配置するのに時間またはメモリがかかりすぎます</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1：用紙に配置できません。%2 がありません（qnprint の一部です）。</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：ページを保存できません：%2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -244,6 +318,15 @@
         <source>&amp;Delete</source>
         <translation>削除(&amp;D)</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -270,6 +353,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: このままでは印刷できません。PDF、PostScript、PNG、JPEG、GIF、TIFF、プレーンテキストを印刷できます</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -308,6 +424,45 @@
         <source>%1 to %2</source>
         <comment>two lengths</comment>
         <translation>%1～%2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1：もう読み込めません</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1：画像が大きすぎてレイアウトできません</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1：読み取り中に変更されました</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1：画像が壊れています</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>キャンセルしました</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1：この種類の画像は読み取れません。Qt の追加画像形式がインストールされていません</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1：この用紙にはレイアウトできません</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：ページを保存できません：%2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1：テキストが長すぎてレイアウトできません</translation>
     </message>
 </context>
 <context>
@@ -353,6 +508,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>PPD ファイルのヘッダーがありません</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>キーワードの前のアスタリスクがありません</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>値がありません</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>行が長すぎます</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>使用できない文字があります</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>使用できないキーワードまたはテキストがあります</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>グループまたはオプションの開始か終了がありません</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>読み取れません</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -388,6 +578,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>ページを表示できません。%1 がありません（poppler-utils の一部です）。</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1：文書を読み取るのに時間またはメモリがかかりすぎます</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1：文書はパスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1：文書が壊れています</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1：文書にページがありません</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1：%2 ページを描画できません</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -405,6 +640,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>このプリンターで使えるのは %2 です（%1 は使えません）。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1：書き込めません</translation>
     </message>
 </context>
 <context>
@@ -450,6 +692,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>「%1」はすでにあります。保存すると置き換えられます。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -541,6 +839,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 は待機中です: %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1：PostScript は印刷前に表示できません</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 は 1 ページだけで、%2 はありません</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 は %2 ページだけで、%3 はありません</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>用紙が大きすぎて表示できません。</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1：%2 ページは大きすぎて表示できません</translation>
     </message>
 </context>
 <context>
@@ -688,6 +1011,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>CUPS サーバーはこのユーザー名またはパスワードを受け付けません</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>接続が暗号化されていないため、ネットワーク上の他の人がパスワードを読み取れます</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,80 @@
     </message>
 </context>
 <context>
+    <name>foundation::SystemError</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>没有此文件或文件夹</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>权限不足</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>不允许的操作</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>是文件夹</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>不是文件夹</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>磁盘空间不足</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>超出磁盘配额</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>文件系统为只读</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>文件名过长</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>打开的文件过多</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>输入输出错误</translation>
+    </message>
+</context>
+<context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1：文档已损坏</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1：没有空间存放其页面</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1：将文档放到纸张上所需的时间或内存过多</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1：无法放到纸张上：缺少 %2（它是 qnprint 的一部分）。</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：无法保存其页面：%2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -244,6 +318,15 @@
         <source>&amp;Delete</source>
         <translation>删除(&amp;D)</translation>
     </message>
+    <message>
+        <source>Previe&amp;w</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <comment>how many pages</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
@@ -270,6 +353,39 @@
     <message>
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1：无法直接打印；可以打印 PDF、PostScript、PNG、JPEG、GIF、TIFF 和纯文本</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentCheck</name>
+    <message>
+        <source>The document has only one page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has only %1 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 wide, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document is %1 %3 long, the paper %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <comment>a paper</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use %1 × %2 %3</source>
+        <comment>width, height, unit</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit to Paper</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -308,6 +424,45 @@
         <source>%1 to %2</source>
         <comment>two lengths</comment>
         <translation>%1 至 %2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PDFPages</name>
+    <message>
+        <source>%1: can&apos;t be read any more</source>
+        <translation>%1：无法再读取</translation>
+    </message>
+    <message>
+        <source>%1: the image is too large to be laid out</source>
+        <translation>%1：图像太大，无法排版</translation>
+    </message>
+    <message>
+        <source>%1: has changed while it was read</source>
+        <translation>%1：在读取过程中已更改</translation>
+    </message>
+    <message>
+        <source>%1: the image is damaged</source>
+        <translation>%1：图像已损坏</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>%1: this kind of image can&apos;t be read; Qt&apos;s further image formats are not installed</source>
+        <translation>%1：无法读取此类图像；未安装 Qt 的附加图像格式</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be laid out for this paper</source>
+        <translation>%1：无法按此纸张排版</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：无法保存其页面：%2</translation>
+    </message>
+    <message>
+        <source>%1: the text is too long to be laid out</source>
+        <translation>%1：文本太长，无法排版</translation>
     </message>
 </context>
 <context>
@@ -353,6 +508,41 @@
     </message>
 </context>
 <context>
+    <name>host::PPDProblems</name>
+    <message>
+        <source>the header of a PPD file is missing</source>
+        <translation>缺少 PPD 文件头</translation>
+    </message>
+    <message>
+        <source>the asterisk before a keyword is missing</source>
+        <translation>关键字前缺少星号</translation>
+    </message>
+    <message>
+        <source>a value is missing</source>
+        <translation>缺少值</translation>
+    </message>
+    <message>
+        <source>the line is too long</source>
+        <translation>行过长</translation>
+    </message>
+    <message>
+        <source>a character that is not allowed</source>
+        <translation>含有不允许的字符</translation>
+    </message>
+    <message>
+        <source>a keyword or text that is not allowed</source>
+        <translation>含有不允许的关键字或文本</translation>
+    </message>
+    <message>
+        <source>a group or an option that is not begun or not ended</source>
+        <translation>组或选项没有开始或没有结束</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>无法读取</translation>
+    </message>
+</context>
+<context>
     <name>host::PPDTarget</name>
     <message>
         <source>-o %1=%2: the printer has no such choice</source>
@@ -388,6 +578,51 @@
     </message>
 </context>
 <context>
+    <name>host::PagePreview</name>
+    <message>
+        <source>The document&apos;s pages will show here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The size of the paper is not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>host::PageReader</name>
+    <message>
+        <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
+        <translation>无法显示页面：缺少 %1（它是 poppler-utils 的一部分）。</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1：读取文档所需的时间或内存过多</translation>
+    </message>
+    <message>
+        <source>%1: the document is locked with a password</source>
+        <translation>%1：文档受密码保护</translation>
+    </message>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1：文档已损坏</translation>
+    </message>
+    <message>
+        <source>%1: the document has no pages</source>
+        <translation>%1：文档没有页面</translation>
+    </message>
+    <message>
+        <source>%1: page %2 can&apos;t be drawn</source>
+        <translation>%1：无法绘制第 %2 页</translation>
+    </message>
+</context>
+<context>
+    <name>host::PageView</name>
+    <message>
+        <source>Preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>host::PaperChooser</name>
     <message>
         <source> mm</source>
@@ -405,6 +640,13 @@
         <source>The printer does not take %1, but %2.</source>
         <comment>a length, and limits</comment>
         <translation>打印机不接受 %1，而是 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PictureFile</name>
+    <message>
+        <source>%1: can&apos;t be written</source>
+        <translation>%1：无法写入</translation>
     </message>
 </context>
 <context>
@@ -450,6 +692,62 @@
     <message>
         <source>“%1” is there already; saving replaces it.</source>
         <translation>“%1”已存在；保存会替换它。</translation>
+    </message>
+</context>
+<context>
+    <name>host::PreviewPane</name>
+    <message>
+        <source>Page before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As pr&amp;inted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <comment>a dot of the printer as a pixel</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each dot of the printer as a pixel of the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In black and white, with what the settings do to the page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fit to paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: fill the paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size of the pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic: pages that are larger than the paper are made smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -541,6 +839,31 @@
         <source>%1 waits: %2</source>
         <comment>a document, and why</comment>
         <translation>%1 正在等待：%2</translation>
+    </message>
+</context>
+<context>
+    <name>host::PrintedPages</name>
+    <message>
+        <source>%1: PostScript can&apos;t be shown before it is printed</source>
+        <translation>%1：PostScript 在打印前无法显示</translation>
+    </message>
+    <message>
+        <source>%1 has only one page, not %2</source>
+        <comment>a document, ranges of pages</comment>
+        <translation>%1 只有一页，没有 %2</translation>
+    </message>
+    <message>
+        <source>%1 has only %2 pages, not %3</source>
+        <comment>a document, a number, ranges of pages</comment>
+        <translation>%1 只有 %2 页，没有 %3</translation>
+    </message>
+    <message>
+        <source>The paper is too large to be shown.</source>
+        <translation>纸张太大，无法显示。</translation>
+    </message>
+    <message>
+        <source>%1: page %2 is too large to be shown</source>
+        <translation>%1：第 %2 页太大，无法显示</translation>
     </message>
 </context>
 <context>
@@ -688,6 +1011,10 @@
     <message>
         <source>the CUPS server does not accept the user name or the password</source>
         <translation>CUPS 服务器不接受该用户名或密码</translation>
+    </message>
+    <message>
+        <source>the connection is not encrypted, so others on the network can read the password</source>
+        <translation>连接未加密，网络上的其他人可以读到密码</translation>
     </message>
 </context>
 <context>

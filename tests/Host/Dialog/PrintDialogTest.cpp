@@ -75,6 +75,20 @@ protected:
     std::unique_ptr<PrintDialog> m_dialog;
 };
 
+TEST_F(DialogWithoutWindow, SendsNothingOfADocumentThatHasNoSuchPages)
+{
+    m_dialog->use(printer("one"));
+    m_dialog->setPages("2-3");
+    QSignalSpy failures(m_dialog.get(), &PrintDialog::failed);
+    m_dialog->print();
+    ASSERT_TRUE(failures.wait(kMilliseconds));
+    EXPECT_EQ(m_dialog->state(), State::ready);
+    EXPECT_TRUE(m_dialog->message().contains("ticket.pdf has only one page, not 2-3"))
+        << m_dialog->message().toStdString();
+    EXPECT_FALSE(m_sink->hasEnded);
+    EXPECT_EQ(m_dialog->documents().size(), 1U);
+}
+
 TEST_F(DialogWithoutWindow, UsesAPrinterAtOnceWhenNothingStandsOnTheEarlierOne)
 {
     m_dialog->use(printer("one"));

@@ -151,8 +151,12 @@ INSTANTIATE_TEST_SUITE_P(
         Mark{"PageUpsideDown", "/MediaBox[0 0 395 642]/Rotate 180", "0 0 20 20", Scaling::none, {485, 110}},
         Mark{"PageRotatedTheOtherWay", "/MediaBox[0 0 642 395]/Rotate -90", "0 0 20 20", Scaling::none, {485, 732}},
         Mark{"RotatedLandscape", "/MediaBox[0 0 395 642]/Rotate 90", "0 0 20 20", Scaling::none, {485, 110}},
-        Mark{"CroppedPage", "/MediaBox[0 0 900 900]/CropBox[100 50 495 692]", "100 50 20 20", Scaling::none, {110, 732}},
-        Mark{"CroppedBeyondThePage", "/MediaBox[0 0 395 642]/CropBox[-50 -50 900 900]", "0 0 20 20", Scaling::none,
+        Mark{
+            "CroppedPage", "/MediaBox[0 0 900 900]/CropBox[100 50 495 692]", "100 50 20 20", Scaling::none, {110, 732}},
+        Mark{"CroppedBeyondThePage",
+             "/MediaBox[0 0 395 642]/CropBox[-50 -50 900 900]",
+             "0 0 20 20",
+             Scaling::none,
              {110, 732}},
         Mark{"PageAwayFromTheOrigin", "/MediaBox[-300 200 95 842]", "-300 200 20 20", Scaling::none, {110, 732}},
         Mark{"PageInLargeUnits", "/MediaBox[0 0 197.5 321]/UserUnit 2", "0 0 10 10", Scaling::none, {110, 732}},
@@ -179,11 +183,11 @@ TEST_F(Prepared, ShowsFormsAndCommentsAsTheyArePrinted)
 
 TEST_F(Prepared, KeepsHiddenLayersHidden)
 {
-    const auto pdf = PDFText()
-                         .page("/MediaBox[0 0 400 500]/Resources<</Properties<</L 100 0 R>>>>",
-                               "/OC /L BDC 0 0 400 500 re f EMC")
-                         .object("<</Type/OCG/Name(Layer)>>")
-                         .catalogue("/OCProperties<</OCGs[100 0 R]/D<</OFF[100 0 R]>>>>");
+    const auto pdf =
+        PDFText()
+            .page("/MediaBox[0 0 400 500]/Resources<</Properties<</L 100 0 R>>>>", "/OC /L BDC 0 0 400 500 re f EMC")
+            .object("<</Type/OCG/Name(Layer)>>")
+            .catalogue("/OCProperties<</OCGs[100 0 R]/D<</OFF[100 0 R]>>>>");
     const QImage picture = support::pictureOf(sent(job(pdf)), 1, 72);
     ASSERT_FALSE(picture.isNull());
     EXPECT_EQ(qGray(picture.pixel(297, 421)), 255);
@@ -201,10 +205,10 @@ TEST_F(Prepared, LeavesPagesAndScalingToTheServerWhereItDoesThem)
 TEST_F(Prepared, RefusesPagesBeyondTheEndWhoeverPicksThem)
 {
     const Job three = job(PDFText().pages(3, kA4Size), "1,3-9");
-    EXPECT_EQ(refusal(three), "ticket.pdf has only 3 pages; asked for: 1,3-9");
+    EXPECT_EQ(refusal(three), "ticket.pdf has only 3 pages, not 1,3-9");
     EXPECT_EQ(sentence(preparedJob(three, {kSheet, Scaling::automatic, false}, {})), refusal(three));
     EXPECT_EQ(sentence(preparedJob(three, {std::nullopt, Scaling::automatic, true}, {})), refusal(three));
-    EXPECT_EQ(refusal(job(PDFText().pages(1, kA4Size), "2")), "ticket.pdf has only one page; asked for: 2");
+    EXPECT_EQ(refusal(job(PDFText().pages(1, kA4Size), "2")), "ticket.pdf has only one page, not 2");
 }
 
 TEST_F(Prepared, RefusesADamagedDocument)

@@ -22,16 +22,21 @@ struct Said
     QByteArray errors;
 };
 
-/// In an environment that says nothing of a display but what is given.
-Said run(const QStringList &arguments, const QMap<QString, QString> &display = {}, const QByteArray &input = {})
+/// One that says nothing of a display but what is given.
+QProcessEnvironment environmentWith(const QMap<QString, QString> &display)
 {
     auto environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_SESSION_TYPE"})
         environment.remove(name);
     for (const auto &[name, value] : display.asKeyValueRange())
         environment.insert(name, value);
+    return environment;
+}
+
+Said run(const QStringList &arguments, const QMap<QString, QString> &display = {}, const QByteArray &input = {})
+{
     QProcess process;
-    process.setProcessEnvironment(environment);
+    process.setProcessEnvironment(environmentWith(display));
     process.start(QN_PROGRAM, arguments);
     process.write(input);
     process.closeWriteChannel();
@@ -146,10 +151,20 @@ TEST(WrongUse, IsToldWithoutADisplay)
     }
 }
 
-/// A panel that is not there is told by the window, which so has been opened.
+/// A panel that is not there is told when the window opens, which is then closed by a signal.
 Said opened(const QStringList &arguments)
 {
-    return run(arguments + QStringList{"--ppd", kPPD, "--panel", "nosuch", kTicket}, {{"DISPLAY", ":9999"}});
+    QProcess process;
+    process.setProcessEnvironment(environmentWith({{"DISPLAY", ":9999"}}));
+    process.setReadChannel(QProcess::StandardError);
+    process.start(QN_PROGRAM, arguments + QStringList{"--ppd", kPPD, "--panel", "nosuch", kTicket});
+    QByteArray errors;
+    while (!errors.contains("nosuch: ") && process.waitForReadyRead(kMilliseconds))
+        errors += process.readAllStandardError();
+    process.terminate();
+    EXPECT_TRUE(process.waitForFinished(kMilliseconds)) << process.errorString().toStdString();
+    return {process.exitStatus(), process.exitCode(), process.readAllStandardOutput(),
+            errors + process.readAllStandardError()};
 }
 
 TEST(ArgumentsOfQt, AreTakenBesideOurs)
@@ -159,7 +174,7 @@ TEST(ArgumentsOfQt, AreTakenBesideOurs)
                                          {"-platform", "offscreen", "-style=fusion"},
                                          {"-style", "fusion", "-reverse", "-platform", "offscreen", "-n", "2"}}) {
         const auto told = opened(arguments);
-        EXPECT_TRUE(told.errors.endsWith("qnprint: --panel nosuch: there is no such panel\n"))
+        EXPECT_TRUE(told.errors.contains("qnprint: --panel nosuch: there is no such panel\n"))
             << told.errors.toStdString();
         EXPECT_EQ(told.status, 2);
     }

@@ -8,12 +8,19 @@
 #include "Window/PaperChooser.h"
 #include "Window/SummaryView.h"
 
+#include <QAccessible>
 #include <QDir>
 #include <QDoubleSpinBox>
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTextDocument>
+#include <QToolTip>
 #include <QTreeWidgetItemIterator>
 
 #include <gtest/gtest.h>
@@ -40,9 +47,154 @@ protected:
         m_dialog->use(std::move(printer));
         showWindow();
     }
+    /// As a desktop delivers it: to the window, which finds out what lies under the pointer.
+    void drop(const QWidget &on, const QString &file)
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        data.setText(file);
+        const QPoint at = on.mapTo(m_window.get(), on.rect().center());
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window->windowHandle(), &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent dropped(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window->windowHandle(), &dropped);
+    }
+    void chooseFile(const QString &file)
+    {
+        button("Choose &File…")->click();
+        const QPointer<QFileDialog> box = find<QFileDialog>();
+        ASSERT_TRUE(box);
+        auto *const name = box->findChild<QLineEdit *>("fileNameEdit");
+        ASSERT_TRUE(name);
+        name->setText(file);
+        auto *const open = box->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Open);
+        ASSERT_TRUE(QTest::qWaitFor([open] { return open->isEnabled(); }));
+        QTest::mouseClick(open, Qt::LeftButton);
+        ASSERT_TRUE(QTest::qWaitFor([box] { return !box; }));
+    }
+    QString emptyFile() const
+    {
+        QFile file(m_directory.filePath("empty.pdf"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return file.fileName();
+    }
+
     QTemporaryDir m_directory;
     QString m_out = m_directory.filePath("out");
 };
+
+TEST_F(Window, TakesTheFileOfItsButton)
+{
+    m_dialog->chooseDocuments({});
+    ASSERT_FALSE(canPrint());
+    chooseFile(support::kTicket);
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf");
+    EXPECT_TRUE(canPrint());
+}
+
+TEST_F(Window, KeepsItsDocumentWhenTheFileOfItsButtonIsNone)
+{
+    chooseFile(emptyFile());
+    EXPECT_EQ(message(), "empty.pdf: the document is empty");
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf");
+    EXPECT_TRUE(canPrint());
+    chooseFile(support::kTicket);
+    EXPECT_EQ(message(), "");
+}
+
+TEST_F(Window, KeepsItsDocumentWhenWhatIsDroppedIsNone)
+{
+    drop(*m_window, emptyFile());
+    EXPECT_EQ(message(), "empty.pdf: the document is empty");
+    EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf");
+    EXPECT_TRUE(canPrint());
+}
+
+TEST_F(Window, TakesWhatIsDroppedOnAFieldAsADocument)
+{
+    for (QLineEdit *field : {pages(), find<QSpinBox>("copies")->findChild<QLineEdit *>(),
+                             static_cast<QLineEdit *>(find<toolkit::FieldControl>("mPaperFeedTxt"))}) {
+        m_dialog->chooseDocuments({});
+        const QString before = field->text();
+        drop(*field, support::kTicket);
+        EXPECT_EQ(field->text(), before) << field->objectName().toStdString();
+        EXPECT_EQ(m_window->windowTitle(), "Print ticket.pdf") << field->objectName().toStdString();
+    }
+}
+
+/// What assistive technology says of a field beside its name.
+QString descriptionOf(QWidget &field)
+{
+    return QAccessible::queryAccessibleInterface(&field)->text(QAccessible::Description);
+}
+
+TEST_F(Window, DescribesThePagesByWhatIsWrongWithThemAsLongAsItIs)
+{
+    const QString usual = descriptionOf(*pages());
+    QTest::keyClicks(pages(), "3-1");
+    EXPECT_EQ(descriptionOf(*pages()), usual);
+    QTest::mouseClick(button("&Print"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), pages());
+    EXPECT_EQ(descriptionOf(*pages()), "“3-1” are no pages. Write single pages and ranges, such as 1-3,5.");
+    QTest::keyClicks(pages(), "1-2");
+    EXPECT_EQ(descriptionOf(*pages()), usual);
+}
+
+/// What a person sees who rests on something.
+QString toldBy(QWidget &widget)
+{
+    QToolTip::hideText();
+    const QPoint at = widget.rect().center();
+    QHelpEvent rest(QEvent::ToolTip, at, widget.mapToGlobal(at));
+    QCoreApplication::sendEvent(&widget, &rest);
+    return QToolTip::text();
+}
+
+TEST_F(Window, TellsTheWholeOfATextThatAMenuHasNoRoomFor)
+{
+    EXPECT_EQ(toldBy(*printers()), "");
+    const QString name = "<b>counter " + QString(300, 'x');
+    const int width = m_window->width();
+    printers()->setItemText(printers()->currentIndex(), name);
+    QApplication::processEvents();
+    EXPECT_EQ(m_window->width(), width);
+    EXPECT_TRUE(toldBy(*printers()).contains(name.toHtmlEscaped())) << toldBy(*printers()).toStdString();
+}
+
+TEST_F(Window, CutsAMessageThatIsTooLongAndTellsTheWholeOfIt)
+{
+    auto *const line = find<MessageLine>();
+    const QString sentence = QString("Every word of it counts. ").repeated(20).trimmed();
+    m_dialog->say(About::settings, sentence);
+    EXPECT_TRUE(line->text().endsWith("…")) << line->text().toStdString();
+    EXPECT_TRUE(sentence.startsWith(line->text().chopped(1)));
+    EXPECT_LE(line->heightForWidth(line->width()), line->height()); // nothing of it is below the line
+    EXPECT_TRUE(line->toolTip().contains(sentence)) << line->toolTip().toStdString();
+    EXPECT_EQ(line->accessibleName(), sentence);
+    const auto shown = line->text().size();
+    m_window->resize(m_window->width() * 3 / 2, m_window->height());
+    QApplication::processEvents();
+    EXPECT_GT(line->text().size(), shown);
+    m_dialog->say(About::settings, "Short.");
+    EXPECT_EQ(line->text(), "Short.");
+    EXPECT_EQ(line->toolTip(), "");
+}
+
+TEST_F(Window, ClaimsNoAmountWhileItsFieldIsGrey)
+{
+    ASSERT_TRUE(summary().contains("Paper Feed=26 mm"));
+    auto *const formFeed = find<toolkit::PopUpControl>("mFormFeedModePopUp");
+    auto *const amount = find<toolkit::FieldControl>("mPaperFeedTxt");
+    ASSERT_TRUE(amount->isEnabled());
+    QTest::keyClick(formFeed, Qt::Key_Down);
+    QApplication::processEvents();
+    ASSERT_NE(formFeed->currentIndex(), 0);
+    EXPECT_TRUE(summary().filter("Paper Feed").isEmpty()) << summary().join('|').toStdString();
+    QTest::keyClick(formFeed, Qt::Key_Up);
+    QApplication::processEvents();
+    EXPECT_TRUE(summary().contains("Paper Feed=26 mm"));
+}
 
 TEST_F(Window, ShowsTheFirstPanelPreparedAndTheOthersRightAfter)
 {

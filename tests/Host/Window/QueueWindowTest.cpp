@@ -6,6 +6,7 @@
 #include "Toolkit/Controls.h"
 #include "Window/Fields.h"
 
+#include <QAccessible>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -410,6 +411,7 @@ TEST_F(QueueWindow, KeepsTheDocumentsThatWereNotPrinted)
 TEST_F(QueueWindow, HasNothingToPrintWithoutADocument)
 {
     openAndWait();
+    m_dialog->chooseDocuments({});
     m_dialog->chooseDocuments({m_server.path("none.pdf")});
     EXPECT_EQ(message(), m_server.path("none.pdf") + ": No such file or directory");
     EXPECT_FALSE(canPrint());
@@ -641,6 +643,9 @@ TEST_F(QueueWindow, StopsAJobWithCancelAndStaysForTheNext)
     button("&Print")->click();
     EXPECT_FALSE(canPrint());
     EXPECT_TRUE(find<QProgressBar>()->isVisible());
+    const auto *const progress = QAccessible::queryAccessibleInterface(find<QProgressBar>());
+    EXPECT_EQ(progress->role(), QAccessible::ProgressBar);
+    EXPECT_EQ(progress->text(QAccessible::Name), "Sending");
     button("Cancel")->click();
     ASSERT_TRUE(waitForMessage("counter: cancelled; nothing was printed"));
     EXPECT_TRUE(m_window->isVisible());

@@ -3,11 +3,13 @@
 
 #include "Print.h"
 #include "Window/DialogWindow.h"
+#include "Window/MessageLine.h"
 
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
@@ -90,6 +92,29 @@ TEST_P(WindowTexts, AreShownInTheWindow)
     PrintDialog dialog({}, nullptr);
     const DialogWindow window(dialog);
     EXPECT_EQ(window.windowTitle(), textsOf(GetParam())["host::DialogWindow/Print"]);
+}
+
+TEST_P(WindowTexts, BringTheSystemsWithThemWhateverTheEnvironmentSpeaks)
+{
+    useWindowTexts(GetParam());
+    const Texts texts = textsOf(GetParam());
+    const QTemporaryDir folder;
+    QFile ppd(folder.filePath("garbage.ppd"));
+    ASSERT_TRUE(ppd.open(QIODevice::WriteOnly) && ppd.write("nothing of the kind\n") > 0 && ppd.flush());
+    PrintRequest request;
+    request.ppd = ppd.fileName();
+    PrintDialog dialog(request, nullptr);
+    dialog.chooseDocuments({"/no/such.pdf"});
+    EXPECT_FALSE(dialog.start());
+    const DialogWindow window(dialog);
+    const QString missing = texts["foundation::SystemError/No such file or directory"];
+    EXPECT_FALSE(missing.isEmpty());
+    EXPECT_EQ(window.findChild<MessageLine *>()->said(), "/no/such.pdf: " + missing);
+    const QString noPPD = window.findChild<AnnouncedLabel *>("inPlaceOfPanel")->said();
+    const auto isSaid = [&](const QString &text) { return noPPD.contains(text); };
+    EXPECT_TRUE(isSaid(texts["host::PPDProblems/the header of a PPD file is missing"]) ||
+                isSaid(texts["host::PPDProblems/the asterisk before a keyword is missing"]))
+        << noPPD.toStdString();
 }
 
 TEST_P(WindowTexts, BringTheToolkitsOwnWithThem)

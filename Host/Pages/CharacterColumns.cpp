@@ -1,0 +1,70 @@
+// How many columns a character takes.
+#include "CharacterColumns.h"
+
+#include <QChar>
+
+#include <algorithm>
+#include <array>
+
+namespace host {
+
+namespace {
+
+struct Range
+{
+    char32_t first = 0;
+    char32_t last = 0;
+};
+
+/// Wide and full-width in Unicode 14; what is not assigned between two of them counts as both do. In order.
+constexpr std::array kWide{
+    Range{0x1100, 0x115f},   Range{0x231a, 0x231b},   Range{0x2329, 0x232a},   Range{0x23e9, 0x23ec},
+    Range{0x23f0, 0x23f0},   Range{0x23f3, 0x23f3},   Range{0x25fd, 0x25fe},   Range{0x2614, 0x2615},
+    Range{0x2648, 0x2653},   Range{0x267f, 0x267f},   Range{0x2693, 0x2693},   Range{0x26a1, 0x26a1},
+    Range{0x26aa, 0x26ab},   Range{0x26bd, 0x26be},   Range{0x26c4, 0x26c5},   Range{0x26ce, 0x26ce},
+    Range{0x26d4, 0x26d4},   Range{0x26ea, 0x26ea},   Range{0x26f2, 0x26f3},   Range{0x26f5, 0x26f5},
+    Range{0x26fa, 0x26fa},   Range{0x26fd, 0x26fd},   Range{0x2705, 0x2705},   Range{0x270a, 0x270b},
+    Range{0x2728, 0x2728},   Range{0x274c, 0x274c},   Range{0x274e, 0x274e},   Range{0x2753, 0x2755},
+    Range{0x2757, 0x2757},   Range{0x2795, 0x2797},   Range{0x27b0, 0x27b0},   Range{0x27bf, 0x27bf},
+    Range{0x2b1b, 0x2b1c},   Range{0x2b50, 0x2b50},   Range{0x2b55, 0x2b55},   Range{0x2e80, 0x303e},
+    Range{0x3041, 0x3247},   Range{0x3250, 0x4dbf},   Range{0x4e00, 0xa4c6},   Range{0xa960, 0xa97c},
+    Range{0xac00, 0xd7a3},   Range{0xf900, 0xfad9},   Range{0xfe10, 0xfe19},   Range{0xfe30, 0xfe6b},
+    Range{0xff01, 0xff60},   Range{0xffe0, 0xffe6},   Range{0x16fe0, 0x1b2fb}, Range{0x1f004, 0x1f004},
+    Range{0x1f0cf, 0x1f0cf}, Range{0x1f18e, 0x1f18e}, Range{0x1f191, 0x1f19a}, Range{0x1f200, 0x1f320},
+    Range{0x1f32d, 0x1f335}, Range{0x1f337, 0x1f37c}, Range{0x1f37e, 0x1f393}, Range{0x1f3a0, 0x1f3ca},
+    Range{0x1f3cf, 0x1f3d3}, Range{0x1f3e0, 0x1f3f0}, Range{0x1f3f4, 0x1f3f4}, Range{0x1f3f8, 0x1f43e},
+    Range{0x1f440, 0x1f440}, Range{0x1f442, 0x1f4fc}, Range{0x1f4ff, 0x1f53d}, Range{0x1f54b, 0x1f54e},
+    Range{0x1f550, 0x1f567}, Range{0x1f57a, 0x1f57a}, Range{0x1f595, 0x1f596}, Range{0x1f5a4, 0x1f5a4},
+    Range{0x1f5fb, 0x1f64f}, Range{0x1f680, 0x1f6c5}, Range{0x1f6cc, 0x1f6cc}, Range{0x1f6d0, 0x1f6d2},
+    Range{0x1f6d5, 0x1f6df}, Range{0x1f6eb, 0x1f6ec}, Range{0x1f6f4, 0x1f6fc}, Range{0x1f7e0, 0x1f7f0},
+    Range{0x1f90c, 0x1f93a}, Range{0x1f93c, 0x1f945}, Range{0x1f947, 0x1f9ff}, Range{0x1fa70, 0x1faf6},
+    Range{0x20000, 0x3134a},
+};
+
+constexpr Range kJamoWithin{0x1160, 0x11ff}; // vowels and final consonants of a Korean syllable
+
+bool isWide(char32_t character)
+{
+    const auto *range = std::ranges::lower_bound(kWide, character, {}, &Range::last);
+    return range != kWide.end() && range->first <= character;
+}
+
+bool isCombining(char32_t character)
+{
+    const auto category = QChar::category(character);
+    return category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing || category == QChar::Other_Format ||
+           (character >= kJamoWithin.first && character <= kJamoWithin.last);
+}
+
+} // namespace
+
+int columnsOf(char32_t character)
+{
+    if (character < 0x300)
+        return 1;
+    if (isCombining(character))
+        return 0;
+    return isWide(character) ? 2 : 1;
+}
+
+} // namespace host

@@ -1,0 +1,152 @@
+// Images as pages.
+#include "ImagePages.h"
+
+#include "PDFPages.h"
+
+#include "Printing/Units.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+
+#include <algorithm>
+#include <utility>
+
+namespace host {
+
+using foundation::Or;
+using foundation::Problem;
+
+namespace {
+
+constexpr qsizetype kMostBytes = 128 << 20; // of the file
+constexpr int kMostMegabytes = 256;         // of the picture
+constexpr int kMostPages = 1000;
+constexpr double kLowestResolution = 72; // in dots an inch, as those below
+constexpr double kHighestResolution = 1200;
+constexpr double kUsualResolution = 96;
+
+Or<QByteArray> contentOf(Document &image)
+{
+    image.rewind();
+    QByteArray content;
+    for (;;) {
+        const auto part = image.read();
+        if (!part)
+            return Problem{PDFPages::tr("%1: can't be read any more").arg(image.title())};
+        if (part->isEmpty())
+            break;
+        content += *part;
+        if (content.size() > kMostBytes)
+            return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(image.title())};
+    }
+    if (image.hasChanged())
+        return Problem{PDFPages::tr("%1: has changed while it was read").arg(image.title())};
+    return content;
+}
+
+/// In 32 bits a pixel. Deeper ones meet Qt's own limit: the depth that it tells of a damaged file is any number.
+bool isTooLarge(QSize size)
+{
+    constexpr qint64 kBytesOfPixel = 4;
+    return kBytesOfPixel * size.width() * size.height() > qint64(kMostMegabytes) << 20;
+}
+
+/// Transparent parts are paper.
+QImage onWhite(QImage image)
+{
+    if (!image.hasAlphaChannel())
+        return image;
+    QImage page(image.size(), QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.drawImage(QRect({}, image.size()), image);
+    return page;
+}
+
+/// What a file without a resolution says is the screen's, which is no matter of the paper.
+double resolution(int dotsPerMetre, int ofScreen)
+{
+    constexpr double kMetresPerInch = printing::kMillimetresPerInch / 1000;
+    const double found = dotsPerMetre * kMetresPerInch;
+    const bool isBelieved =
+        dotsPerMetre != ofScreen && found >= kLowestResolution - 0.5 && found <= kHighestResolution + 0.5;
+    return isBelieved ? found : kUsualResolution;
+}
+
+/// In the units of the pages.
+QSizeF ownSize(const QImage &image, bool isOnItsSide)
+{
+    const QImage unsaid(1, 1, QImage::Format_Mono);
+    double across = resolution(image.dotsPerMeterX(), unsaid.dotsPerMeterX());
+    double down = resolution(image.dotsPerMeterY(), unsaid.dotsPerMeterY());
+    if (isOnItsSide)
+        std::swap(across, down); // the picture was turned, what is said of it was not
+    return {image.width() * PDFPages::kUnitsPerInch / across, image.height() * PDFPages::kUnitsPerInch / down};
+}
+
+void draw(PDFPages &pages, const QImage &image, bool isOnItsSide)
+{
+    const QSizeF area = pages.area();
+    const QSizeF own = ownSize(image, isOnItsSide);
+    const double scale = std::min({1.0, area.width() / own.width(), area.height() / own.height()});
+    const QSizeF size = own * scale;
+    const QPointF corner((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
+    pages.painter().drawImage(QRectF(corner, size), onWhite(image));
+}
+
+Or<void> drawNext(PDFPages &pages, QImageReader &reader, const QString &title)
+{
+    if (isTooLarge(reader.size()))
+        return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(title)};
+    const bool isOnItsSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QImage image = reader.read();
+    if (image.isNull())
+        return Problem{PDFPages::tr("%1: the image is damaged").arg(title)};
+    draw(pages, image, isOnItsSide);
+    return {};
+}
+
+Or<std::shared_ptr<Document>> drawAll(QImageReader &reader, const Document &image, const Sheet &sheet,
+                                      const std::stop_token &stop)
+{
+    auto pages = PDFPages::begin(image.title(), sheet);
+    if (!pages)
+        return pages.problem();
+    const bool hasPages = image.format() == "image/tiff";
+    for (int page = 1;; ++page) {
+        if (stop.stop_requested())
+            return Problem{PDFPages::tr("cancelled")};
+        if (const auto drawn = drawNext(**pages, reader, image.title()); !drawn)
+            return drawn.problem();
+        reader.device()->seek(0); // where Qt's reader of TIFF has to find it to count the pages
+        if (!hasPages || !reader.jumpToNextImage())
+            return (*pages)->finish();
+        if (page == kMostPages)
+            return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(image.title())};
+        (*pages)->newPage();
+    }
+}
+
+} // namespace
+
+Or<std::shared_ptr<Document>> imagePages(Document &image, const Sheet &sheet, const std::stop_token &stop)
+{
+    const QByteArray format = image.extension().toLatin1();
+    if (!QImageReader::supportedImageFormats().contains(format))
+        return Problem{
+            PDFPages::tr("%1: this kind of image can't be read; Qt's further image formats are not installed")
+                .arg(image.title())};
+    auto content = contentOf(image);
+    if (!content)
+        return content.problem();
+    QBuffer buffer(&*content);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false); // no other reader gets to see it
+    reader.setAutoTransform(true);
+    QImageReader::setAllocationLimit(kMostMegabytes);
+    return drawAll(reader, image, sheet, stop);
+}
+
+} // namespace host

@@ -1,0 +1,331 @@
+// The page beside the settings, as it will come out.
+#include "PPDText.h"
+#include "WindowTest.h"
+
+#include "Jobs/FolderSink.h"
+#include "Pages/Shrinking.h"
+#include "Toolkit/Controls.h"
+#include "Window/PreviewPane.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+using namespace host;
+
+namespace {
+
+class Preview : public support::WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        setUp(m_directory.filePath("defaults.ini"));
+        makeDialog({});
+        const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}};
+        auto printer = support::value(targetOfQueue({}, {"Test", {}, {}, ppd, {}, {}}));
+        printer->setSink(std::make_shared<FolderSink>(m_directory.filePath("out")));
+        m_dialog->use(std::move(printer));
+        showWindow();
+    }
+
+    /// Each page is black from its top down to a tenth for each number.
+    QString documentOf(int pages)
+    {
+        const QString path = m_directory.filePath(QStringLiteral("%1 pages.pdf").arg(pages));
+        QPdfWriter writer(path);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageMargins({});
+        QPainter painter(&writer);
+        for (int page = 1; page <= pages; ++page) {
+            painter.fillRect(0, 0, writer.width(), writer.height() * page / 10, Qt::black);
+            if (page < pages)
+                writer.newPage();
+        }
+        return path;
+    }
+    PreviewPane *pane() { return m_window->findChild<PreviewPane *>(); }
+    const PagePreview &preview() { return pane()->preview(); }
+    PageView *view() { return m_window->findChild<PageView *>(); }
+    QToolButton *tool(const QString &name)
+    {
+        for (auto *each : m_window->findChildren<QToolButton *>())
+            if (each->accessibleName() == name)
+                return each;
+        return nullptr;
+    }
+    void press(QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+    void unfold()
+    {
+        press(m_window->findChild<QPushButton *>("unfoldPreview"));
+        settle();
+    }
+    void settle()
+    {
+        QApplication::processEvents();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !preview().isBusy(); }, 20000));
+        QApplication::processEvents();
+    }
+    /// The share of black on the sheet.
+    double black()
+    {
+        const QImage picture = preview().picture().convertToFormat(QImage::Format_Grayscale8);
+        double sum = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                sum += 255 - picture.constScanLine(y)[x];
+        return sum / 255 / picture.width() / picture.height();
+    }
+    QString pageNumber()
+    {
+        for (auto *each : pane()->findChildren<QLabel *>())
+            return each->text();
+        return {};
+    }
+    QImage shot() { return view()->grab().toImage(); }
+
+    QTemporaryDir m_directory;
+};
+
+TEST_F(Preview, IsFoldedAwayAndNotEvenMadeUntilSomebodyWantsToSeeIt)
+{
+    EXPECT_EQ(pane(), nullptr);
+    EXPECT_LE(m_window->width(), 560);
+}
+
+TEST_F(Preview, ShowsTheTicketOnItsPaperAndWhichPageItIs)
+{
+    unfold();
+    EXPECT_GT(black(), 0.005);
+    EXPECT_LT(black(), 0.1);
+    EXPECT_EQ(pageNumber(), "Page 1 of 1");
+    EXPECT_EQ(view()->accessibleDescription(), "Page 1 of 1");
+}
+
+TEST_F(Preview, IsRememberedAsItWasLeft)
+{
+    unfold();
+    showWindow();
+    EXPECT_TRUE(pane()->isVisible());
+    settle();
+    EXPECT_FALSE(preview().picture().isNull());
+    press(m_window->findChild<QPushButton *>("unfoldPreview"));
+    EXPECT_FALSE(pane()->isVisible());
+    showWindow();
+    EXPECT_EQ(pane(), nullptr);
+}
+
+TEST_F(Preview, FollowsEachChoice)
+{
+    unfold();
+    const double before = black();
+    m_window->showPanel("advanced");
+    press(find<toolkit::CheckControl>("mReversalChkBx"));
+    settle();
+    EXPECT_GT(black(), 1 - before - 0.1);
+}
+
+TEST_F(Preview, FollowsThePaper)
+{
+    unfold();
+    ASSERT_EQ(preview().dots(), QSize(1678, 2374)); // A4 at 203 dots an inch
+    m_dialog->choosePaper({"customsize", printing::Paper{288, 432}});
+    settle();
+    EXPECT_EQ(preview().dots(), QSize(812, 1218));
+}
+
+TEST_F(Preview, ShowsThePlainPageWhereItIsNotWantedAsPrinted)
+{
+    unfold();
+    m_window->showPanel("advanced");
+    press(find<toolkit::CheckControl>("mReversalChkBx"));
+    settle();
+    auto *const asPrinted = pane()->findChild<QCheckBox *>();
+    EXPECT_EQ(asPrinted->text(), "As pr&inted");
+    asPrinted->click();
+    settle();
+    EXPECT_LT(black(), 0.1);
+    asPrinted->click();
+    settle();
+    EXPECT_GT(black(), 0.9);
+}
+
+TEST_F(Preview, TurnsPagesByButtonKeyAndWheel)
+{
+    m_dialog->chooseDocuments({documentOf(3)});
+    unfold();
+    EXPECT_NEAR(black(), 0.1, 0.01);
+    EXPECT_FALSE(tool("Page before")->isEnabled());
+    press(tool("Next page"));
+    settle();
+    EXPECT_NEAR(black(), 0.2, 0.01);
+    EXPECT_EQ(pageNumber(), "Page 2 of 3");
+    view()->setFocus();
+    QTest::keyClick(view(), Qt::Key_PageDown);
+    settle();
+    EXPECT_NEAR(black(), 0.3, 0.01);
+    EXPECT_FALSE(tool("Next page")->isEnabled());
+    QTest::keyClick(view(), Qt::Key_PageDown); // there is no further one
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 3 of 3");
+    QTest::keyClick(view(), Qt::Key_Home);
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 1 of 3");
+    QTest::keyClick(view(), Qt::Key_End);
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 3 of 3");
+    QTest::keyClick(view(), Qt::Key_PageUp);
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 2 of 3");
+    QWheelEvent wheel(QPointF(9, 9), view()->mapToGlobal(QPointF(9, 9)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view()->viewport(), &wheel);
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 3 of 3");
+}
+
+TEST_F(Preview, CountsThePagesThatArePrinted)
+{
+    m_dialog->chooseDocuments({documentOf(5)});
+    unfold();
+    pages()->setText("2,4-5");
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 1 of 3");
+    EXPECT_NEAR(black(), 0.2, 0.01);
+    press(tool("Next page"));
+    press(tool("Next page"));
+    settle();
+    EXPECT_NEAR(black(), 0.5, 0.01);
+    pages()->setText("2"); // fewer than the page that is shown
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 1 of 1");
+    EXPECT_NEAR(black(), 0.2, 0.01);
+}
+
+TEST_F(Preview, SaysWhyThereIsNothingToSee)
+{
+    unfold();
+    pages()->setText("7-9");
+    settle();
+    EXPECT_TRUE(preview().picture().isNull());
+    EXPECT_TRUE(preview().problem().contains("7-9")) << preview().problem().toStdString();
+    EXPECT_EQ(view()->accessibleDescription(), preview().problem());
+    pages()->clear();
+    settle();
+    EXPECT_FALSE(preview().picture().isNull());
+    EXPECT_EQ(preview().problem(), "");
+}
+
+TEST_F(Preview, WaitsForADocument)
+{
+    m_dialog->chooseDocuments({});
+    unfold();
+    EXPECT_EQ(preview().problem(), "The document's pages will show here.");
+    m_dialog->chooseDocuments({support::kTicket});
+    settle();
+    EXPECT_FALSE(preview().picture().isNull());
+}
+
+TEST_F(Preview, ShowsADotAPixelAndScrollsThere)
+{
+    unfold();
+    const QSize fitting = preview().picture().size();
+    press(tool("Each dot of the printer as a pixel of the screen"));
+    settle();
+    EXPECT_EQ(preview().picture().size(), preview().dots());
+    EXPECT_EQ(preview().picture().format(), QImage::Format_Mono);
+    EXPECT_GT(view()->verticalScrollBar()->maximum(), 1000);
+    view()->setFocus();
+    QTest::keyClick(view(), Qt::Key_Minus);
+    settle();
+    EXPECT_EQ(preview().picture().size(), fitting);
+    EXPECT_FALSE(tool("Each dot of the printer as a pixel of the screen")->isChecked());
+    EXPECT_EQ(view()->verticalScrollBar()->maximum(), 0);
+    QTest::keyClick(view(), Qt::Key_Plus);
+    settle();
+    EXPECT_EQ(preview().picture().size(), preview().dots());
+}
+
+TEST_F(Preview, ShowsTheFeedBelowTheSheetAsLongAsItCounts)
+{
+    unfold();
+    const QImage before = shot();
+    choose(*find<toolkit::PopUpControl>("mFormFeedModePopUp"), 1);
+    settle();
+    EXPECT_FALSE(preview().effect()->feed);
+    EXPECT_NE(shot(), before);
+}
+
+TEST_F(Preview, ShowsThePerforation)
+{
+    unfold();
+    choosePaper("RollA4");
+    choose(*find<toolkit::PopUpControl>("mFormFeedModePopUp"), 1);
+    settle();
+    const QImage before = shot();
+    choose(*find<toolkit::PopUpControl>("mPerforatedPopUp"), 1);
+    settle();
+    EXPECT_TRUE(preview().effect()->perforated);
+    EXPECT_NE(shot(), before);
+}
+
+TEST_F(Preview, OfAnotherDocumentIsThatOne)
+{
+    m_dialog->chooseDocuments({documentOf(3)});
+    unfold();
+    press(tool("Next page"));
+    settle();
+    m_dialog->chooseDocuments({documentOf(1)});
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 1 of 1");
+    EXPECT_NEAR(black(), 0.1, 0.01);
+}
+
+TEST_F(Preview, ShowsTheLatestOfManyChoices)
+{
+    m_dialog->chooseDocuments({documentOf(9)});
+    unfold();
+    for (int i = 0; i < 8; ++i)
+        press(tool("Next page"));
+    settle();
+    EXPECT_EQ(pageNumber(), "Page 9 of 9");
+    EXPECT_NEAR(black(), 0.9, 0.01);
+}
+
+TEST_F(Preview, GoesWithTheWindowInTheMiddleOfItsWork)
+{
+    m_dialog->chooseDocuments({documentOf(3)});
+    press(m_window->findChild<QPushButton *>("unfoldPreview"));
+    ASSERT_TRUE(preview().isBusy());
+    m_window.reset();
+}
+
+TEST(Shrinking, KeepsTheGreyOfAHalftone)
+{
+    QImage dots(100, 100, QImage::Format_Mono);
+    for (int y = 0; y < dots.height(); ++y)
+        for (int x = 0; x < dots.width(); ++x)
+            dots.setPixel(x, y, (x + y) % 2);
+    const QImage small = shrunk(dots, {10, 10});
+    for (int y = 0; y < small.height(); ++y)
+        for (int x = 0; x < small.width(); ++x)
+            EXPECT_EQ(small.pixelColor(x, y).red(), 127);
+}
+
+TEST(Shrinking, MeansTheDotsOfEachPixelWhateverTheSize)
+{
+    QImage grey(7, 5, QImage::Format_Grayscale8);
+    grey.fill(90U);
+    for (const QSize size : {QSize(1, 1), QSize(3, 2), QSize(6, 4), QSize(7, 5), QSize(20, 9)}) {
+        const QImage other = shrunk(grey, size);
+        ASSERT_EQ(other.size(), size);
+        EXPECT_EQ(other.pixelColor(0, 0).red(), 90);
+        EXPECT_EQ(other.pixelColor(size.width() - 1, size.height() - 1).red(), 90);
+    }
+}
+
+} // namespace
