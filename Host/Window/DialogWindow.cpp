@@ -153,7 +153,7 @@ void DialogWindow::connectFields()
     connect(m_ui->tabs, &QTabBar::currentChanged, this, &DialogWindow::showPanelAt);
     connect(m_ui->retry, &QPushButton::clicked, &m_dialog, &PrintDialog::lookAgain);
     connect(m_ui->choose, &QPushButton::clicked, this, &DialogWindow::chooseFiles);
-    connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::showSummary);
+    connect(m_ui->unfold, &QPushButton::toggled, this, &DialogWindow::unfoldSummary);
     connect(m_ui->unfoldPreview, &QPushButton::toggled, this, &DialogWindow::showPreview);
     connect(m_ui->buttons, &QDialogButtonBox::accepted, this, [this] {
         if (m_paper->commit())
@@ -385,7 +385,7 @@ void DialogWindow::fitToScreen()
     resize(wanted.boundedTo(room));
 }
 
-void DialogWindow::showSummary(bool isShown)
+void DialogWindow::unfoldSummary(bool isShown)
 {
     if (!m_summary) {
         m_summary = new SummaryView(this);
