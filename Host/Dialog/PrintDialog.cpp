@@ -496,14 +496,18 @@ void PrintDialog::giveCredentials(const Credentials &credentials)
 void PrintDialog::sendNext()
 {
     const Job job{m_documents.front(), jobTitle(), m_amount.copies, m_pagesToSend, m_target->jobOptions()};
+    const auto preparation = m_request.raw ? std::nullopt : m_target->preparation();
     m_job = BackgroundWork(
         *this,
-        [this, job, sink = m_target->sink()](const std::stop_token &stop) {
+        [this, job, preparation, sink = m_target->sink()](const std::stop_token &stop) -> Or<QString> {
+            const auto prepared = preparation ? preparedJob(job, *preparation, stop) : Or<Job>(job);
+            if (!prepared)
+                return prepared.problem();
             const auto tell = [this](qint64 done, qint64 total) {
                 const int percent = total > 0 ? static_cast<int>(done * 100 / total) : 0;
                 QMetaObject::invokeMethod(this, [this, percent] { Q_EMIT progressed(percent); }, Qt::QueuedConnection);
             };
-            return sink->submit(job, tell, stop);
+            return sink->submit(*prepared, tell, stop);
         },
         [this](Or<QString> sent) {
             m_sent = std::move(sent);

@@ -17,7 +17,8 @@ struct PrintRequest
     QString language = "en";
     OptionValues options;
     std::optional<int> copies;
-    QString pages; // empty: all, unless the printer's saved options say others
+    bool raw = false; // documents are sent as they are
+    QString pages;    // empty: all, unless the printer's saved options say others
 };
 
 } // namespace host

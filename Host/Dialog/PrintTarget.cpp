@@ -50,23 +50,14 @@ QString PrintTarget::fateOf(const QString &title) const
                       : tr("%1: sent to %2").arg(title, m_name);
 }
 
-namespace {
-
-constexpr auto kScaling = "print-scaling";
-constexpr auto kFill = "fill"; // as older programs ask for it, and for the next two
-constexpr auto kFitPlot = "fitplot";
-constexpr auto kFitToPage = "fit-to-page";
-
-} // namespace
-
 // The older words count where the newer one is missing, and of the two oldest the one that is there.
 Scaling PrintTarget::scaling() const
 {
     const auto isOn = [this](const char *word) {
         return QStringList{"true", "yes", "on"}.contains(m_serverOptions.value(word), Qt::CaseInsensitive);
     };
-    if (m_serverOptions.contains(kScaling))
-        return scalingNamed(m_serverOptions[kScaling]);
+    if (m_serverOptions.contains(kPrintScaling))
+        return scalingNamed(m_serverOptions[kPrintScaling]);
     if (isOn(kFill))
         return Scaling::fill;
     return isOn(m_serverOptions.contains(kFitPlot) ? kFitPlot : kFitToPage) ? Scaling::fit : Scaling::automatic;
@@ -74,10 +65,11 @@ Scaling PrintTarget::scaling() const
 
 void PrintTarget::setScaling(Scaling scaling)
 {
-    for (const char *word : {kFill, kFitPlot, kFitToPage, kScaling})
+    for (const char *word : kOlderScalings)
         m_serverOptions.remove(word);
+    m_serverOptions.remove(kPrintScaling);
     if (scaling != Scaling::automatic)
-        m_serverOptions[kScaling] = nameOf(scaling);
+        m_serverOptions[kPrintScaling] = nameOf(scaling);
 }
 
 OptionValues PrintTarget::restore(const QString &) { return {}; }
@@ -240,6 +232,11 @@ Resolution PPDTarget::resolution() const
     const QString marked = m_session->marks().choiceOf("Resolution");
     const auto standard = m_session->ppd().attribute("DefaultResolution");
     return resolutionNamed(marked).value_or(resolutionNamed(standard.value_or(QString())).value_or(Resolution{}));
+}
+
+std::optional<Preparation> PPDTarget::preparation() const
+{
+    return Preparation{sheet(), scaling(), m_session->ppd().takesPDF()};
 }
 
 OptionValues PPDTarget::jobOptions() const

@@ -7,6 +7,7 @@
 #include "Cups/SavedOptions.h"
 #include "Jobs/Job.h"
 #include "Pages/BurntPage.h"
+#include "Pages/PreparedJob.h"
 #include "Session/DialogSession.h"
 
 namespace host {
@@ -82,6 +83,8 @@ public:
     virtual Resolution resolution() const { return {}; }
     /// As the job says.
     Scaling scaling() const;
+    /// What is done with a document before it is sent; nil when it goes as it is.
+    virtual std::optional<Preparation> preparation() const { return std::nullopt; }
     void setScaling(Scaling scaling);
 
     /// Whether all panels agree to print; one that does not has told the user why.
@@ -141,6 +144,7 @@ public:
     std::optional<Sheet> sheet() const override;
     std::optional<PDEPrintEffect> printEffect() const override { return m_session->printEffect(); }
     Resolution resolution() const override;
+    std::optional<Preparation> preparation() const override;
     bool agrees() override { return m_session->shouldPrint(); }
     OptionValues jobOptions() const override;
 

@@ -209,6 +209,19 @@ std::optional<CustomSizeLimits> PPDDocument::customSizeLimits() const
                             {m_file->custom_max[0], m_file->custom_max[1]}};
 }
 
+bool PPDDocument::takesPDF() const
+{
+    const auto isForPDF = [](const char *filter) {
+        return filter && text(filter).simplified().section(' ', 0, 0) == "application/pdf";
+    };
+    const ppd_attr_t *filter = ppdFindAttr(m_file.get(), "cupsFilter2", nullptr);
+    if (!filter) // the older form counts where there is none of the newer
+        return std::any_of(m_file->filters, m_file->filters + m_file->num_filters, isForPDF);
+    while (filter && !isForPDF(filter->value))
+        filter = ppdFindNextAttr(m_file.get(), "cupsFilter2", nullptr);
+    return filter;
+}
+
 std::optional<QString> PPDDocument::attribute(const char *name) const
 {
     const ppd_attr_t *const found = ppdFindAttr(m_file.get(), name, nullptr);

@@ -82,6 +82,9 @@ public:
     /// The value of an attribute; nil when the PPD has none of that name.
     std::optional<QString> attribute(const char *name) const;
 
+    /// Whether the driver takes a PDF as it comes, untouched by the server's own filters.
+    bool takesPDF() const;
+
 private:
     explicit PPDDocument(printing::PPDFile file);
 

@@ -1,14 +1,11 @@
 #include "PageReader.h"
 
-#include <QDeadlineTimer>
-#include <QProcess>
+#include "ConfinedProgram.h"
+
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-#include <array>
-#include <csignal>
-#include <sys/prctl.h>
-#include <sys/resource.h>
+#include <algorithm>
 
 namespace host {
 
@@ -17,74 +14,15 @@ using foundation::Problem;
 
 namespace {
 
-constexpr auto kInfo = "pdfinfo";
 constexpr int kMostPages = 100'000;
 constexpr qint64 kMostInfoBytes = qint64{100} * kMostPages; // a page takes two short lines
-constexpr int kLook = 20;                                   // ms between looks at whether anybody still wants the page
+constexpr auto kInfo = "pdfinfo";
+constexpr auto kPainter = "pdftoppm";
 
-struct Limit
+Allowance allowance(qint64 output, std::chrono::milliseconds patience)
 {
-    __rlimit_resource resource;
-    rlim_t value;
-};
-constexpr std::array kLimits{
-    Limit{RLIMIT_AS, rlim_t{512} * 1024 * 1024}, // bytes
-    Limit{RLIMIT_CPU, 20},                       // seconds
-    Limit{RLIMIT_FSIZE, 0},                      // it writes into a pipe only
-    Limit{RLIMIT_CORE, 0},
-    Limit{RLIMIT_NOFILE, 64},
-};
-
-/// Between fork and exec: calls of the system only.
-void confine()
-{
-    for (const Limit &limit : kLimits) {
-        const rlimit both{limit.value, limit.value};
-        ::setrlimit(limit.resource, &both);
-    }
-    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    return {qint64{512} * 1024 * 1024, output, 20, patience};
 }
-
-/// Ends with the object, whatever it is doing.
-class Helper
-{
-public:
-    Helper(const QString &program, const QStringList &arguments, const QString &document)
-    {
-        m_process.setChildProcessModifier(confine);
-        m_process.setStandardInputFile(document);
-        m_process.start(program, arguments, QIODevice::ReadOnly);
-    }
-    ~Helper()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-    Helper(const Helper &) = delete;
-    Helper &operator=(const Helper &) = delete;
-
-    /// All that it writes; nil when that is too much or takes too long, and when nobody wants it any more.
-    std::optional<QByteArray> output(qint64 mostBytes, const QDeadlineTimer &deadline, const std::stop_token &stop)
-    {
-        QByteArray output;
-        while (m_process.state() != QProcess::NotRunning && !stop.stop_requested() && !deadline.hasExpired()) {
-            m_process.waitForReadyRead(kLook);
-            output += m_process.readAllStandardOutput();
-            if (output.size() > mostBytes)
-                return std::nullopt;
-        }
-        if (m_process.state() != QProcess::NotRunning)
-            return std::nullopt;
-        output += m_process.readAllStandardOutput();
-        return output.size() > mostBytes ? std::nullopt : std::optional(std::move(output));
-    }
-    bool hasSucceeded() const { return m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() == 0; }
-    QByteArray complaints() { return m_process.readAllStandardError(); }
-
-private:
-    QProcess m_process;
-};
 
 /// "Page    2 size:  595.28 x 841.89 pts (A4)" and "Page    2 rot:   90", in the order of the pages.
 std::vector<QSizeF> readSizes(const QByteArray &info)
@@ -120,7 +58,7 @@ QImage readGreyMap(const QByteArray &map, QSize dots)
 PageReader::PageReader(const Document &document, std::chrono::milliseconds patience)
     : m_title(document.title())
     , m_patience(patience)
-    , m_path(QStringLiteral("/proc/self/fd/%1").arg(document.descriptor()))
+    , m_path(pathOfDescriptor(document.descriptor()))
 {}
 
 Or<QByteArray> PageReader::answerOf(const QString &program, const QStringList &arguments, qint64 mostBytes,
@@ -129,11 +67,12 @@ Or<QByteArray> PageReader::answerOf(const QString &program, const QStringList &a
     const QString path = QStandardPaths::findExecutable(program);
     if (path.isEmpty())
         return Problem{tr("Pages can't be shown: %1 is missing (it is part of poppler-utils).").arg(program)};
-    Helper helper(path, arguments, m_path);
-    auto output = helper.output(mostBytes, QDeadlineTimer(m_patience), stop);
-    if (!output)
-        return Problem{tr("%1: the page takes too long, or too much memory, to be drawn").arg(m_title)};
-    if (helper.hasSucceeded())
+    ConfinedProgram helper(path, arguments, m_path, allowance(mostBytes, m_patience));
+    auto output = helper.output(stop);
+    const auto status = helper.status();
+    if (!output || !status)
+        return Problem{tr("%1: the document takes too long, or too much memory, to be read").arg(m_title)};
+    if (status == 0)
         return *std::move(output);
     return Problem{helper.complaints().contains("Incorrect password")
                        ? tr("%1: the document is locked with a password").arg(m_title)
@@ -162,7 +101,7 @@ Or<QImage> PageReader::draw(int page, QSize dots, const std::stop_token &stop) c
     const QString number = QString::number(page);
     // A page that the document turns by itself is measured as it lies in the file: width and height change places.
     for (const QSize &asked : {dots, dots.transposed()}) {
-        const auto map = answerOf("pdftoppm",
+        const auto map = answerOf(kPainter,
                                   {"-gray", "-cropbox", "-f", number, "-l", number, "-scale-to-x",
                                    QString::number(asked.width()), "-scale-to-y", QString::number(asked.height()), "-"},
                                   qint64{dots.width()} * dots.height() + kHeader, stop);

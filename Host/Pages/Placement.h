@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -22,6 +23,13 @@ enum class Scaling {
 /// As the server reads a name, letter case aside; one that it does not know is `none`.
 Scaling scalingNamed(const QString &name);
 QString nameOf(Scaling scaling);
+
+/// The option of a job that says it, and those by which older programs ask for `fit`.
+inline constexpr auto kPrintScaling = "print-scaling";
+inline constexpr auto kFill = "fill";
+inline constexpr auto kFitPlot = "fitplot";
+inline constexpr auto kFitToPage = "fit-to-page";
+inline constexpr std::array kOlderScalings{kFill, kFitPlot, kFitToPage};
 
 /// What a document's pages are put on sheets by: `automatic` is decided once for all of them, by the largest. Sizes are
 /// in points, as pages are looked at.

@@ -4,6 +4,9 @@
 
 #include "Jobs/PageRanges.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace host {
 
 using foundation::Or;
@@ -33,6 +36,17 @@ Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Shee
                                  .arg(title, QString::number(result.countOfDocument()), ranges)};
     result.m_numbers = *std::move(numbers);
     return result;
+}
+
+bool PrintedPages::standAsTheyAre(const Sheet &sheet) const
+{
+    const QRectF whole(0, 0, sheet.size.width, sheet.size.height);
+    return count() == countOfDocument() && std::ranges::all_of(m_sizes, [&](QSizeF size) {
+               const auto [isTurned, where] = placementOf(size, sheet, m_scaling);
+               return !isTurned && std::abs(where.width() - whole.width()) <= 1 &&
+                      std::abs(where.height() - whole.height()) <= 1 &&
+                      (where.center() - whole.center()).manhattanLength() <= 1;
+           });
 }
 
 Or<QImage> PrintedPages::sheet(int index, const SheetDots &dots, const std::stop_token &stop) const

@@ -21,6 +21,10 @@ public:
     /// Of the document, printed or not.
     int countOfDocument() const { return static_cast<int>(m_sizes.size()); }
 
+    /// Whether the document's pages are sheets as they are: all are printed, each of the sheet's size to a point, and
+    /// none is scaled or turned.
+    bool standAsTheyAre(const Sheet &sheet) const;
+
     /// The sheet in grey, with the page on it that is printed as the one at `index`, from 0 on.
     foundation::Or<QImage> sheet(int index, const SheetDots &dots, const std::stop_token &stop) const;
 

@@ -77,6 +77,7 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser, Face face)
     request.ppd = parser.value("ppd");
     request.output = parser.value("output");
     request.title = parser.value("title");
+    request.raw = parser.isSet("raw");
     request.prefersLastPrinter = face == Face::window;
     request.copies = readCopies(parser.value("n"));
     if (parser.isSet("n") && !request.copies)
@@ -105,6 +106,8 @@ Or<void> readPreview(const QCommandLineParser &parser, CommandLine &line)
     for (const char *option : {"page", "plain"})
         if (parser.isSet(option) && line.face != Face::preview)
             return Problem{QString("--%1 goes with preview only").arg(option)};
+    if (parser.isSet("raw") && line.face == Face::preview)
+        return Problem{"preview and --raw do not go together"};
     bool isNumber = false;
     line.page = parser.value("page").toInt(&isNumber);
     line.plain = parser.isSet("plain");

@@ -50,6 +50,10 @@ inline constexpr std::array kOptionRows{
     OptionRow{"P", nullptr, "pages", nullptr, "Pages to print, such as 1-3,5.", nullptr},
     OptionRow{"t", "title", "title", nullptr, "Title of the job.", "Else the document's name."},
     OptionRow{
+        nullptr, "raw", nullptr, nullptr, "Send documents to the printer as they are.",
+        "Else, for a printer with a driver, a text or an image is laid out for the chosen paper, a PDF is checked, "
+        "and where the driver takes PDF the chosen pages are put on the paper as the preview shows them."},
+    OptionRow{
         nullptr, "no-dialog", nullptr, nullptr, "Print without a window, by the same rules and checks.",
         "Needs no display. An interrupt ends the program within two seconds, and cancels a job that is on its way."},
     OptionRow{nullptr, "page", "number", "1", "The page of a preview, counted among those that are printed.",
@@ -146,8 +150,8 @@ inline constexpr std::array kExampleRows{
 inline constexpr auto kPurpose = "print dialog with the printer's own panels";
 inline constexpr auto kDescription =
     "Opens a print dialog for documents on a CUPS queue, or on a PPD file. Its panels come from a bundle that belongs "
-    "to the printer. PDF, PostScript, images (PNG, JPEG, GIF, TIFF) and plain text are printed as they are, told by "
-    "their content. Several documents are a job each.";
+    "to the printer. PDF, PostScript, images (PNG, JPEG, GIF, TIFF) and plain text are printed, told by their content. "
+    "Several documents are a job each.";
 inline constexpr auto kFileDescription = "The document: PDF, PostScript, image or text; - for standard input.";
 inline constexpr auto kOutputDescription =
     "Where each job went is written to standard output, a line each. Messages go to standard error, a line each that "

@@ -61,6 +61,8 @@ public:
     /// not come.
     QMap<QString, QString> record(int job) const;
     int recordCount() const;
+    /// The document that the driver got with a job that has been recorded.
+    QString documentOf(int job) const { return path(QString("rec/job-%1.document").arg(job)); }
     /// Documents that wait in the spool.
     QStringList spooled() const;
     /// Jobs that are not at an end, as `lpstat` tells.

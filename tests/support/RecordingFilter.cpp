@@ -1,5 +1,5 @@
-// A driver that prints nothing and writes down what it was told: arguments, environment, and the choices marked in
-// its PPD.
+// A driver that prints nothing and writes down what it was told: arguments, environment, the choices marked in its PPD,
+// and the document.
 // Runs under the test's own CUPS server, as any filter does.
 #include "Printing/ppd_api.h"
 
@@ -48,11 +48,13 @@ int main(int argc, char *argv[])
         if (argc > 6)
             file.open(argv[6], std::ios::binary);
         std::istream &document = argc > 6 ? file : std::cin;
+        std::ofstream copy(path + ".document", std::ios::binary);
         std::size_t size = 0;
         char part[4096];
         while (document.read(part, sizeof(part)) || document.gcount() > 0) {
             size += static_cast<std::size_t>(document.gcount());
             std::cout.write(part, document.gcount());
+            copy.write(part, document.gcount());
         }
         out << "size " << size << '\n';
     }

@@ -75,6 +75,29 @@
     </message>
 </context>
 <context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: das Dokument ist beschädigt</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1: für seine Seiten ist kein Platz</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1: das Dokument braucht zu lange oder zu viel Speicher, um auf das Papier gesetzt zu werden</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1: kann nicht auf das Papier gesetzt werden: %2 fehlt (es gehört zu qnprint).</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: seine Seiten können nicht gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -572,12 +595,12 @@
         <translation>Seiten können nicht gezeigt werden: %1 fehlt (es gehört zu poppler-utils).</translation>
     </message>
     <message>
-        <source>%1: the page takes too long, or too much memory, to be drawn</source>
-        <translation>%1: die Seite braucht zu lange oder zu viel Speicher, um gezeichnet zu werden</translation>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1: das Dokument braucht zu lange oder zu viel Speicher, um gelesen zu werden</translation>
     </message>
     <message>
         <source>%1: the document is locked with a password</source>
-        <translation>%1: das Dokument ist mit einem Passwort gesperrt</translation>
+        <translation>%1: das Dokument ist mit einem Passwort geschützt</translation>
     </message>
     <message>
         <source>%1: the document is damaged</source>
@@ -590,6 +613,10 @@
     <message>
         <source>%1: page %2 can&apos;t be drawn</source>
         <translation>%1: Seite %2 kann nicht gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>%1: the document has too many pages</source>
+        <translation>%1: das Dokument hat zu viele Seiten</translation>
     </message>
 </context>
 <context>

@@ -75,6 +75,29 @@
     </message>
 </context>
 <context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1: el documento está dañado</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1: no hay espacio para sus páginas</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1: colocar el documento en el papel requiere demasiado tiempo o memoria</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1: no se puede colocar en el papel: falta %2 (es parte de qnprint).</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1: no se pueden guardar sus páginas: %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -572,12 +595,12 @@
         <translation>No se pueden mostrar las páginas: falta %1 (es parte de poppler-utils).</translation>
     </message>
     <message>
-        <source>%1: the page takes too long, or too much memory, to be drawn</source>
-        <translation>%1: la página tarda demasiado o necesita demasiada memoria para dibujarse</translation>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1: leer el documento requiere demasiado tiempo o memoria</translation>
     </message>
     <message>
         <source>%1: the document is locked with a password</source>
-        <translation>%1: el documento está bloqueado con una contraseña</translation>
+        <translation>%1: el documento está protegido con una contraseña</translation>
     </message>
     <message>
         <source>%1: the document is damaged</source>
@@ -590,6 +613,10 @@
     <message>
         <source>%1: page %2 can&apos;t be drawn</source>
         <translation>%1: no se puede dibujar la página %2</translation>
+    </message>
+    <message>
+        <source>%1: the document has too many pages</source>
+        <translation>%1: el documento tiene demasiadas páginas</translation>
     </message>
 </context>
 <context>
@@ -827,12 +854,12 @@
     <message>
         <source>%1 has only one page, not %2</source>
         <comment>a document, ranges of pages</comment>
-        <translation>%1 tiene una sola página, no %2</translation>
+        <translation>%1 solo tiene una página, no %2</translation>
     </message>
     <message>
         <source>%1 has only %2 pages, not %3</source>
         <comment>a document, a number, ranges of pages</comment>
-        <translation>%1 tiene solo %2 páginas, no %3</translation>
+        <translation>%1 solo tiene %2 páginas, no %3</translation>
     </message>
     <message>
         <source>The paper is too large to be shown.</source>

@@ -75,6 +75,29 @@
     </message>
 </context>
 <context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1 : le document est endommagé</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1 : il n’y a pas de place pour ses pages</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1 : placer le document sur le papier demande trop de temps ou de mémoire</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1 : ne peut pas être placé sur le papier : %2 manque (il fait partie de qnprint).</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1 : ses pages ne peuvent pas être enregistrées : %2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -569,15 +592,15 @@
     <name>host::PageReader</name>
     <message>
         <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
-        <translation>Impossible d’afficher les pages : %1 manque (il fait partie de poppler-utils).</translation>
+        <translation>Les pages ne peuvent pas être montrées : %1 manque (il fait partie de poppler-utils).</translation>
     </message>
     <message>
-        <source>%1: the page takes too long, or too much memory, to be drawn</source>
-        <translation>%1 : la page prend trop de temps ou trop de mémoire à dessiner</translation>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1 : lire le document demande trop de temps ou de mémoire</translation>
     </message>
     <message>
         <source>%1: the document is locked with a password</source>
-        <translation>%1 : le document est verrouillé par un mot de passe</translation>
+        <translation>%1 : le document est protégé par un mot de passe</translation>
     </message>
     <message>
         <source>%1: the document is damaged</source>
@@ -585,11 +608,15 @@
     </message>
     <message>
         <source>%1: the document has no pages</source>
-        <translation>%1 : le document n’a pas de page</translation>
+        <translation>%1 : le document n’a pas de pages</translation>
     </message>
     <message>
         <source>%1: page %2 can&apos;t be drawn</source>
         <translation>%1 : la page %2 ne peut pas être dessinée</translation>
+    </message>
+    <message>
+        <source>%1: the document has too many pages</source>
+        <translation>%1 : le document a trop de pages</translation>
     </message>
 </context>
 <context>
@@ -623,7 +650,7 @@
     <name>host::PictureFile</name>
     <message>
         <source>%1: can&apos;t be written</source>
-        <translation>%1 : impossible à écrire</translation>
+        <translation>%1 : ne peut pas être écrit</translation>
     </message>
 </context>
 <context>
@@ -822,25 +849,25 @@
     <name>host::PrintedPages</name>
     <message>
         <source>%1: PostScript can&apos;t be shown before it is printed</source>
-        <translation>%1 : le PostScript ne peut pas être affiché avant l’impression</translation>
+        <translation>%1 : PostScript ne peut pas être montré avant l’impression</translation>
     </message>
     <message>
         <source>%1 has only one page, not %2</source>
         <comment>a document, ranges of pages</comment>
-        <translation>%1 n’a qu’une page, pas %2</translation>
+        <translation>%1 n’a qu’une page, et non %2</translation>
     </message>
     <message>
         <source>%1 has only %2 pages, not %3</source>
         <comment>a document, a number, ranges of pages</comment>
-        <translation>%1 n’a que %2 pages, pas %3</translation>
+        <translation>%1 n’a que %2 pages, et non %3</translation>
     </message>
     <message>
         <source>The paper is too large to be shown.</source>
-        <translation>Le papier est trop grand pour être affiché.</translation>
+        <translation>Le papier est trop grand pour être montré.</translation>
     </message>
     <message>
         <source>%1: page %2 is too large to be shown</source>
-        <translation>%1 : la page %2 est trop grande pour être affichée</translation>
+        <translation>%1 : la page %2 est trop grande pour être montrée</translation>
     </message>
 </context>
 <context>

@@ -75,6 +75,29 @@
     </message>
 </context>
 <context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1：文書が壊れています</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1：ページを保存する空き容量がありません</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1：文書を用紙に配置するのに時間またはメモリがかかりすぎます</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1：用紙に配置できません。%2 がありません（qnprint の一部です）。</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：ページを保存できません：%2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -569,27 +592,31 @@
     <name>host::PageReader</name>
     <message>
         <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
-        <translation>ページを表示できません。%1 がありません (poppler-utils に含まれます)。</translation>
+        <translation>ページを表示できません。%1 がありません（poppler-utils の一部です）。</translation>
     </message>
     <message>
-        <source>%1: the page takes too long, or too much memory, to be drawn</source>
-        <translation>%1: ページの描画に時間またはメモリーがかかりすぎます</translation>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1：文書を読み取るのに時間またはメモリがかかりすぎます</translation>
     </message>
     <message>
         <source>%1: the document is locked with a password</source>
-        <translation>%1: 文書はパスワードで保護されています</translation>
+        <translation>%1：文書はパスワードで保護されています</translation>
     </message>
     <message>
         <source>%1: the document is damaged</source>
-        <translation>%1: 文書が壊れています</translation>
+        <translation>%1：文書が壊れています</translation>
     </message>
     <message>
         <source>%1: the document has no pages</source>
-        <translation>%1: 文書にページがありません</translation>
+        <translation>%1：文書にページがありません</translation>
     </message>
     <message>
         <source>%1: page %2 can&apos;t be drawn</source>
-        <translation>%1: %2 ページを描画できません</translation>
+        <translation>%1：%2 ページを描画できません</translation>
+    </message>
+    <message>
+        <source>%1: the document has too many pages</source>
+        <translation>%1: 文書のページが多すぎます</translation>
     </message>
 </context>
 <context>
@@ -623,7 +650,7 @@
     <name>host::PictureFile</name>
     <message>
         <source>%1: can&apos;t be written</source>
-        <translation>%1: 書き込めません</translation>
+        <translation>%1：書き込めません</translation>
     </message>
 </context>
 <context>
@@ -822,7 +849,7 @@
     <name>host::PrintedPages</name>
     <message>
         <source>%1: PostScript can&apos;t be shown before it is printed</source>
-        <translation>%1: PostScript は印刷前に表示できません</translation>
+        <translation>%1：PostScript は印刷前に表示できません</translation>
     </message>
     <message>
         <source>%1 has only one page, not %2</source>
@@ -840,7 +867,7 @@
     </message>
     <message>
         <source>%1: page %2 is too large to be shown</source>
-        <translation>%1: %2 ページは大きすぎて表示できません</translation>
+        <translation>%1：%2 ページは大きすぎて表示できません</translation>
     </message>
 </context>
 <context>

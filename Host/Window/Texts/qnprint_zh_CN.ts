@@ -75,6 +75,29 @@
     </message>
 </context>
 <context>
+    <name>host::ArrangedPages</name>
+    <message>
+        <source>%1: the document is damaged</source>
+        <translation>%1：文档已损坏</translation>
+    </message>
+    <message>
+        <source>%1: there is no room for its pages</source>
+        <translation>%1：没有空间存放其页面</translation>
+    </message>
+    <message>
+        <source>%1: the document takes too long, or too much memory, to be put on the paper</source>
+        <translation>%1：将文档放到纸张上所需的时间或内存过多</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be put on the paper: %2 is missing (it is part of qnprint).</source>
+        <translation>%1：无法放到纸张上：缺少 %2（它是 qnprint 的一部分）。</translation>
+    </message>
+    <message>
+        <source>%1: its pages can&apos;t be kept: %2</source>
+        <translation>%1：无法保存其页面：%2</translation>
+    </message>
+</context>
+<context>
     <name>host::Certificate</name>
     <message>
         <source>it was withdrawn</source>
@@ -569,15 +592,15 @@
     <name>host::PageReader</name>
     <message>
         <source>Pages can&apos;t be shown: %1 is missing (it is part of poppler-utils).</source>
-        <translation>无法显示页面：缺少 %1（属于 poppler-utils）。</translation>
+        <translation>无法显示页面：缺少 %1（它是 poppler-utils 的一部分）。</translation>
     </message>
     <message>
-        <source>%1: the page takes too long, or too much memory, to be drawn</source>
-        <translation>%1：绘制该页面耗时过长或占用内存过多</translation>
+        <source>%1: the document takes too long, or too much memory, to be read</source>
+        <translation>%1：读取文档所需的时间或内存过多</translation>
     </message>
     <message>
         <source>%1: the document is locked with a password</source>
-        <translation>%1：文档已用密码锁定</translation>
+        <translation>%1：文档受密码保护</translation>
     </message>
     <message>
         <source>%1: the document is damaged</source>
@@ -590,6 +613,10 @@
     <message>
         <source>%1: page %2 can&apos;t be drawn</source>
         <translation>%1：无法绘制第 %2 页</translation>
+    </message>
+    <message>
+        <source>%1: the document has too many pages</source>
+        <translation>%1：文档页数过多</translation>
     </message>
 </context>
 <context>
@@ -827,7 +854,7 @@
     <message>
         <source>%1 has only one page, not %2</source>
         <comment>a document, ranges of pages</comment>
-        <translation>%1 只有 1 页，没有 %2</translation>
+        <translation>%1 只有一页，没有 %2</translation>
     </message>
     <message>
         <source>%1 has only %2 pages, not %3</source>

@@ -31,6 +31,7 @@ public:
     foundation::Or<QString> submit(const Job &job, const JobProgress &, std::stop_token stop) override
     {
         title = job.title;
+        hasBegun = true;
         while (!mayEnd && !stop.stop_requested())
             QThread::msleep(1);
         hasEnded = true;
@@ -40,6 +41,7 @@ public:
     }
 
     QString title;
+    std::atomic<bool> hasBegun = false;
     std::atomic<bool> mayEnd = false;
     std::atomic<bool> hasEnded = false;
 };
@@ -66,6 +68,8 @@ protected:
         m_dialog->use(printer("one"));
         m_dialog->print();
         ASSERT_EQ(m_dialog->state(), State::sending);
+        while (!m_sink->hasBegun) // the document is looked at before
+            QThread::msleep(1);
     }
 
     QTemporaryDir m_directory;
@@ -74,6 +78,20 @@ protected:
     std::shared_ptr<SlowSink> m_sink = std::make_shared<SlowSink>();
     std::unique_ptr<PrintDialog> m_dialog;
 };
+
+TEST_F(DialogWithoutWindow, SendsNothingOfADocumentThatHasNoSuchPages)
+{
+    m_dialog->use(printer("one"));
+    m_dialog->setPages("2-3");
+    QSignalSpy failures(m_dialog.get(), &PrintDialog::failed);
+    m_dialog->print();
+    ASSERT_TRUE(failures.wait(kMilliseconds));
+    EXPECT_EQ(m_dialog->state(), State::ready);
+    EXPECT_TRUE(m_dialog->message().contains("ticket.pdf has only one page, not 2-3"))
+        << m_dialog->message().toStdString();
+    EXPECT_FALSE(m_sink->hasBegun);
+    EXPECT_EQ(m_dialog->documents().size(), 1U);
+}
 
 TEST_F(DialogWithoutWindow, UsesAPrinterAtOnceWhenNothingStandsOnTheEarlierOne)
 {

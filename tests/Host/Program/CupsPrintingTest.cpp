@@ -145,7 +145,7 @@ TEST_F(CupsPrinting, TellsOfAQueueThatIsStoppedAndLeavesTheJobThere)
 
 TEST_F(CupsPrinting, SendsThePagesInTheFormThatServersTake)
 {
-    ASSERT_EQ(print({"-d", "counter", "-P", "5, 1 -2,2-3", kTicket}), 0) << m_said.toStdString();
+    ASSERT_EQ(print({"-d", "counter", "--raw", "-P", "5, 1 -2,2-3", kTicket}), 0) << m_said.toStdString();
     EXPECT_TRUE(m_server.record(1)["options"].split(' ').contains("page-ranges=1-3,5"));
     EXPECT_EQ(print({"-d", "counter", "-P", "5-1", kTicket}), 2);
     EXPECT_EQ(m_said.trimmed(), "qnprint: -P 5-1: no pages, such as 1-3,5");
@@ -154,7 +154,7 @@ TEST_F(CupsPrinting, SendsThePagesInTheFormThatServersTake)
 TEST_F(CupsPrinting, PassesOnWhatThePPDDoesNotKnow)
 {
     ASSERT_EQ(m_server.run("lpoptions", {"-p", "counter", "-o", "number-up=2", "-o", "copies=3"}), 0);
-    ASSERT_EQ(print({"-d", "counter", "-o", "fit-to-page=true", "-o", "QnSpeed=S2", kTicket}), 0)
+    ASSERT_EQ(print({"-d", "counter", "--raw", "-o", "fit-to-page=true", "-o", "QnSpeed=S2", kTicket}), 0)
         << m_said.toStdString();
     const auto job = m_server.record(1);
     const QStringList options = job["options"].split(' ');
@@ -465,7 +465,7 @@ protected:
         ASSERT_TRUE(file.resize(0) && file.write(QByteArray(64 << 20, 'x')));
         file.close();
         m_program.setProcessEnvironment(m_server.environment());
-        m_program.start(QN_PROGRAM, {"--no-dialog", "-d", "counter", large});
+        m_program.start(QN_PROGRAM, {"--no-dialog", "-d", "counter", "--raw", large});
         const auto isReceiving = [this] { return m_server.log().contains("Send-Document"); };
         for (int i = 0; i < 1000 && !isReceiving(); ++i)
             QThread::msleep(5);

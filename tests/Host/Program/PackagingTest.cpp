@@ -1,6 +1,7 @@
 // What is installed, and what a file manager is told of us.
 #include "Jobs/Document.h"
 
+#include "JobPDF.h"
 #include "Print.h"
 #include "Results.h"
 
@@ -76,6 +77,18 @@ TEST(AnInstallation, HasTheManualAndTheCompletionsWhereTheyAreLookedFor)
         EXPECT_EQ(there.readAll(), here.readAll()) << installed;
     }
     EXPECT_FALSE(QFile::exists(prefix.filePath("bin/qnprint-manual")));
+}
+
+TEST(AnInstallation, FindsTheProgramThatPutsPagesOnThePaper)
+{
+    const QTemporaryDir prefix;
+    ASSERT_EQ(QProcess::execute(QN_CMAKE, {"--install", QN_BUILD_DIR, "--prefix", prefix.path()}), 0);
+    const QString ticket = support::JobPDF().pages(2, {300, 400}).file(prefix.filePath("ticket.pdf"));
+    EXPECT_EQ(QProcess::execute(prefix.filePath("bin/qnprint"),
+                                {"--no-dialog", "--ppd", QN_SOURCE_DIR "/examples/ppd/full.ppd", "--output",
+                                 prefix.filePath("out"), "-P", "2", ticket}),
+              0);
+    EXPECT_EQ(support::wordsOf(prefix.filePath("out/ticket.pdf")), QStringList("Page 2"));
 }
 
 } // namespace

@@ -1,0 +1,106 @@
+#include "ConfinedProgram.h"
+
+#include <QDeadlineTimer>
+
+#include <array>
+#include <csignal>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace host {
+
+namespace {
+
+constexpr int kLook = 20;                    // ms between looks at whether anybody still wants the answer
+constexpr qsizetype kMostComplaints = 65536; // bytes
+constexpr rlim_t kMostOpenFiles = 64;
+
+struct Limit
+{
+    __rlimit_resource resource;
+    rlim_t value;
+};
+
+/// Between fork and exec: calls of the system only. An interrupt from the terminal is ours to pass on.
+void confine(const Allowance &allowance, qint64 largestFile)
+{
+    const std::array limits{
+        Limit{RLIMIT_AS, static_cast<rlim_t>(allowance.memory)},
+        Limit{RLIMIT_CPU, static_cast<rlim_t>(allowance.processorTime)},
+        Limit{RLIMIT_FSIZE, static_cast<rlim_t>(largestFile)},
+        Limit{RLIMIT_CORE, 0},
+        Limit{RLIMIT_NOFILE, kMostOpenFiles},
+    };
+    for (const Limit &limit : limits) {
+        const rlimit both{limit.value, limit.value};
+        ::setrlimit(limit.resource, &both);
+    }
+    ::setsid();
+    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+}
+
+} // namespace
+
+ConfinedProgram::ConfinedProgram(const QString &path, const QStringList &arguments, const QString &input,
+                                 const Allowance &allowance)
+    : m_allowance(allowance)
+{
+    start(path, arguments, input, 0);
+}
+
+ConfinedProgram::ConfinedProgram(const QString &path, const QStringList &arguments, const QString &input,
+                                 const QString &output, const Allowance &allowance)
+    : m_allowance(allowance)
+{
+    m_process.setStandardOutputFile(output);
+    start(path, arguments, input, allowance.output);
+}
+
+ConfinedProgram::~ConfinedProgram()
+{
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void ConfinedProgram::start(const QString &path, const QStringList &arguments, const QString &input, qint64 largestFile)
+{
+    m_process.setChildProcessModifier([allowance = m_allowance, largestFile] { confine(allowance, largestFile); });
+    m_process.setStandardInputFile(input);
+    m_process.start(path, arguments, QIODevice::ReadOnly);
+}
+
+/// There may be no end of them.
+void ConfinedProgram::readComplaints()
+{
+    const QByteArray more = m_process.readAllStandardError();
+    m_complaints += more.left(kMostComplaints - m_complaints.size());
+}
+
+std::optional<QByteArray> ConfinedProgram::output(const std::stop_token &stop)
+{
+    const QDeadlineTimer deadline(m_allowance.time);
+    QByteArray output;
+    while (m_process.state() != QProcess::NotRunning && !stop.stop_requested() && !deadline.hasExpired()) {
+        m_process.waitForFinished(kLook);
+        readComplaints();
+        output += m_process.readAllStandardOutput();
+        if (output.size() > m_allowance.output)
+            return std::nullopt;
+    }
+    if (m_process.state() != QProcess::NotRunning)
+        return std::nullopt;
+    readComplaints();
+    output += m_process.readAllStandardOutput();
+    return output.size() > m_allowance.output ? std::nullopt : std::optional(std::move(output));
+}
+
+std::optional<int> ConfinedProgram::status() const
+{
+    const bool hasEnded =
+        m_process.error() != QProcess::FailedToStart && m_process.exitStatus() == QProcess::NormalExit;
+    return hasEnded ? std::optional(m_process.exitCode()) : std::nullopt;
+}
+
+} // namespace host
