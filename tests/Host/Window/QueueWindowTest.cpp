@@ -1,6 +1,6 @@
 // The window on queues of a real CUPS server, also when that server fails at the worst moment.
-#include "JobPDF.h"
 #include "QueueWindow.h"
+#include "JobPDF.h"
 
 #include "Cups/CupsSink.h"
 #include "Dialog/PrinterFinder.h"
