@@ -2,7 +2,6 @@
 
 #include "ConfinedProgram.h"
 
-#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -24,17 +23,17 @@ Allowance allowance(qint64 output, std::chrono::milliseconds patience)
     return {qint64{512} * 1024 * 1024, output, 20, patience};
 }
 
-/// "Page    2 size:  595.28 x 841.89 pts (A4)" and "Page    2 rot:   90", in the order of the pages.
+/// "Page    2 size:  595.28 x 841.89 pts (A4)" and "Page    2 rot:   90", in the order of the pages. Word by word: an
+/// expression would have to be compiled at each start.
 std::vector<QSizeF> readSizes(const QByteArray &info)
 {
-    static const QRegularExpression kLine(R"(^Page +\d+ (?:size: +([0-9.e+]+) x ([0-9.e+]+) pts|rot: +(\d+)))",
-                                          QRegularExpression::MultilineOption);
     std::vector<QSizeF> sizes;
-    for (auto lines = kLine.globalMatch(QString::fromLatin1(info)); lines.hasNext();) {
-        const auto line = lines.next();
-        if (line.hasCaptured(1))
-            sizes.emplace_back(line.captured(1).toDouble(), line.captured(2).toDouble());
-        else if (!sizes.empty() && line.captured(3).toInt() % 180 != 0)
+    for (const QByteArray &line : info.split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        if (words.size() >= 7 && words[0] == "Page" && words[2] == "size:" && words[4] == "x" && words[6] == "pts")
+            sizes.emplace_back(words[3].toDouble(), words[5].toDouble());
+        else if (words.size() == 4 && words[0] == "Page" && words[2] == "rot:" && !sizes.empty() &&
+                 words[3].toInt() % 180 != 0)
             sizes.back().transpose();
     }
     return sizes;

@@ -123,6 +123,17 @@ const FaceRow *namedFace(const QStringList &arguments)
     return row == kFaceRows.end() ? nullptr : row;
 }
 
+Face faceOf(const QCommandLineParser &parser, const QStringList &arguments)
+{
+    if (parser.isSet("help"))
+        return Face::help;
+    if (parser.isSet("version"))
+        return Face::version;
+    if (const FaceRow *const row = namedFace(arguments))
+        return row->face;
+    return parser.isSet("no-dialog") ? Face::batch : Face::window;
+}
+
 } // namespace
 
 void complain(const QString &sentence)
@@ -140,13 +151,7 @@ Face faceOf(const QStringList &arguments)
     QCommandLineParser parser;
     addOptions(parser);
     parser.parse(QStringList("qnprint") + arguments);
-    if (parser.isSet("help"))
-        return Face::help;
-    if (parser.isSet("version"))
-        return Face::version;
-    if (const FaceRow *const row = namedFace(arguments))
-        return row->face;
-    return parser.isSet("no-dialog") ? Face::batch : Face::window;
+    return faceOf(parser, arguments);
 }
 
 Or<CommandLine> readCommandLine(const QStringList &arguments)
@@ -156,7 +161,7 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
     if (!parser.parse(QStringList("qnprint") + arguments.mid(namedFace(arguments) ? 1 : 0)))
         return Problem{parser.errorText()};
     CommandLine line;
-    line.face = faceOf(arguments);
+    line.face = faceOf(parser, arguments);
     auto request = readRequest(parser, line.face);
     if (!request)
         return request.problem();

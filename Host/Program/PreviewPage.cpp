@@ -1,8 +1,8 @@
 // A page of a job as a picture: the dialog without a face, asked what will come out.
 #include "OpenDialog.h"
+#include "PictureFile.h"
 
 #include "Dialog/PrintDialog.h"
-#include "Pages/PictureFile.h"
 #include "Pages/PrintedPages.h"
 
 #include <QEventLoop>

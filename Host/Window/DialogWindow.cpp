@@ -326,17 +326,25 @@ void DialogWindow::checkDocument()
     connect(m_check.get(), &DocumentCheck::changed, this, &DialogWindow::showCheck);
 }
 
-/// How many pages there are, beside those that are to be printed, and what helps where they don't go with the paper.
-void DialogWindow::showCheck()
+/// Beside those that are to be printed. All of a single page needs no number.
+void DialogWindow::showCountOfPages()
 {
-    if (const auto pages = m_check->pages(); pages && !m_ofPages) {
+    const int pages = m_check->pages().value_or(0);
+    const bool isTold = pages > 1 || (pages == 1 && !m_dialog.amount().pages.isEmpty());
+    if (isTold && !m_ofPages) {
         m_ofPages = new QLabel(m_ui->settings);
         m_ui->amountRow->addWidget(m_ofPages);
     }
-    if (m_ofPages) {
-        m_ofPages->setVisible(m_check->pages().has_value());
-        m_ofPages->setText(tr("of %1", "how many pages").arg(QString::number(m_check->pages().value_or(0))));
-    }
+    if (!m_ofPages)
+        return;
+    m_ofPages->setVisible(isTold);
+    m_ofPages->setText(tr("of %1", "how many pages").arg(QString::number(pages)));
+}
+
+/// How many pages there are, and what helps where they don't go with the paper.
+void DialogWindow::showCheck()
+{
+    showCountOfPages();
     const auto &remedy = m_check->remedy();
     if (remedy && !m_remedy) {
         m_remedy = new QPushButton(this);

@@ -73,6 +73,7 @@ private:
     void setSending(bool isSending);
     void checkDocument();
     void showCheck();
+    void showCountOfPages();
     void unfoldSummary(bool isShown);
     void putBeside(QWidget &part, int stretch);
     void unfold(QWidget &part, bool isUnfolded);

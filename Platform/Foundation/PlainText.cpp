@@ -11,6 +11,8 @@ constexpr qsizetype kLongestLine = 300;
 
 bool isHarmful(QChar character)
 {
+    if (character >= u' ' && character < u'\x7f')
+        return false; // most of all text
     switch (character.category()) {
     case QChar::Other_Control:
     case QChar::Separator_Line:

@@ -17,12 +17,28 @@ namespace {
 constexpr double kSmallest = 0.75; // of the usual size; smaller is not read with pleasure
 constexpr double kStep = 0.5;      // in points
 
+/// Tells of most texts that they fit without shaping them, which every paint event would have to pay for. Latin letters
+/// are as wide in a text as each by itself, but for kerning.
+bool surelyFits(const QString &text, const QFontMetricsF &metrics, double width)
+{
+    constexpr double kKerning = 1.05;
+    double sum = 0;
+    for (const QChar letter : text) {
+        if (letter < u' ' || letter > u'\x17f')
+            return false;
+        sum += metrics.horizontalAdvance(letter);
+    }
+    return sum * kKerning <= width;
+}
+
 } // namespace
 
 FittingText::FittingText(const QString &whole, const QFont &usual, int width)
     : font(usual)
     , text(whole)
 {
+    if (surelyFits(whole, QFontMetricsF(font), width))
+        return;
     const auto fits = [&] { return QFontMetricsF(font).horizontalAdvance(whole) <= width; };
     const double size = usual.pointSizeF() > 0 ? usual.pointSizeF() : QFontInfo(usual).pointSizeF();
     for (double smaller = size - kStep; !fits() && smaller >= size * kSmallest; smaller -= kStep)

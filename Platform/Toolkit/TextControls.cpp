@@ -28,6 +28,8 @@ QString withoutMnemonic(QString text) { return text.replace('&', "&&"); }
 
 QString harmless(const QString &text)
 {
+    if (!text.contains('\n'))
+        return foundation::withoutControls(text);
     QStringList lines = text.split('\n');
     for (QString &line : lines)
         line = foundation::withoutControls(line);

@@ -72,6 +72,11 @@ TEST_F(DocumentInTheWindow, TellsHowManyPagesItHas)
     open(documentOf({210, 297}, 3));
     EXPECT_EQ(ofPages(), "of 3");
     EXPECT_EQ(message(), "");
+    m_dialog->chooseDocuments({documentOf({210, 297})});
+    settle();
+    EXPECT_EQ(ofPages(), "");
+    type("1");
+    EXPECT_EQ(ofPages(), "of 1");
 }
 
 TEST_F(DocumentInTheWindow, OfTextHasPagesOnlyWhenItIsLaidOut)
