@@ -8,9 +8,6 @@
 
 namespace host {
 
-using foundation::Or;
-using foundation::Problem;
-
 namespace {
 
 constexpr double kCoarse = 4; // times fewer dots a side, for the first picture of a page

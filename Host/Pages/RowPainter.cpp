@@ -46,7 +46,6 @@ RowPainter::RowPainter(QPainter &painter, double width)
     , m_font(lineFont())
     , m_fonts{QRawFont::fromFont(m_font)}
     , m_stretch(kColumn / advance(m_fonts.front()))
-    , m_shapes(kMostShapes)
 {}
 
 void RowPainter::draw(const Row &row, int line)
@@ -192,13 +191,11 @@ RowPainter::Shape RowPainter::shapeOf(const QString &text) const
 
 const RowPainter::Shape &RowPainter::keptShapeOf(const QString &text)
 {
-    const Shape *kept = m_shapes.object(text);
-    if (!kept) {
-        auto *shape = new Shape(shapeOf(text)); // the cache's
-        m_shapes.insert(text, shape);
-        kept = shape;
-    }
-    return *kept;
+    if (const auto kept = m_shapes.constFind(text); kept != m_shapes.cend())
+        return *kept;
+    if (m_shapes.size() >= kMostShapes)
+        m_shapes.clear();
+    return *m_shapes.insert(text, shapeOf(text));
 }
 
 } // namespace host

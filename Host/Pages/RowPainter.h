@@ -4,7 +4,6 @@
 #include "PDFPages.h"
 #include "TextRows.h"
 
-#include <QCache>
 #include <QGlyphRun>
 #include <QHash>
 #include <QRawFont>
@@ -57,7 +56,7 @@ private:
     QList<QRawFont> m_fonts; // the first one for all that it has, the others for wide characters
     double m_stretch;        // of the first one, to the width of a column
     QHash<char32_t, Glyph> m_glyphs;
-    QCache<QString, Shape> m_shapes;
+    QHash<QString, Shape> m_shapes; // of late
 };
 
 } // namespace host

@@ -55,7 +55,7 @@ QImage shrunk(const QImage &picture, QSize size)
             add(picture.constScanLine(row), columns, sums);
         uchar *const levels = result.scanLine(y);
         for (std::size_t x = 0; x < sums.size(); ++x)
-            levels[x] = static_cast<uchar>(sums[x] / (widths[x] * (row - first)));
+            levels[x] = static_cast<uchar>(sums[x] / std::max(1, widths[x] * (row - first)));
     }
     return result;
 }

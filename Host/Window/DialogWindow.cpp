@@ -88,14 +88,17 @@ DialogWindow::DialogWindow(PrintDialog &dialog)
     showAmount();
     showMessage();
     showState();
-    for (const auto &[button, key] :
-         {std::pair(m_ui->unfoldPreview, kPreviewIsUnfolded), std::pair(m_ui->unfold, kSummaryIsUnfolded)}) {
-        button->setChecked(UserDefaults::standard().objectForKey(key) == "yes");
-        connect(button, &QPushButton::clicked, this, [key = key](bool isUnfolded) {
-            UserDefaults::standard().setObjectForKey(isUnfolded ? "yes" : "no", key);
-        });
-    }
+    rememberUnfolded(*m_ui->unfoldPreview, kPreviewIsUnfolded);
+    rememberUnfolded(*m_ui->unfold, kSummaryIsUnfolded);
     fitToScreen();
+}
+
+/// Pressed as a person left it.
+void DialogWindow::rememberUnfolded(QPushButton &button, const char *key)
+{
+    button.setChecked(UserDefaults::standard().objectForKey(key) == "yes");
+    connect(&button, &QPushButton::clicked, this,
+            [key](bool isUnfolded) { UserDefaults::standard().setObjectForKey(isUnfolded ? "yes" : "no", key); });
 }
 
 /// The panels own their views; only their place was here.

@@ -74,6 +74,7 @@ private:
     void checkDocument();
     void showCheck();
     void showCountOfPages();
+    void rememberUnfolded(QPushButton &button, const char *key);
     void unfoldSummary(bool isShown);
     void putBeside(QWidget &part, int stretch);
     void unfold(QWidget &part, bool isUnfolded);
