@@ -4,8 +4,11 @@
 #include "ConfinedProgram.h"
 
 #include "Foundation/RegularFile.h"
+#include "Foundation/Shadow.h"
 
 #include <QFileInfo>
+
+#include <limits>
 
 namespace host {
 
@@ -15,7 +18,8 @@ using foundation::Problem;
 namespace {
 
 constexpr qint64 kMebibyte = qint64{1024} * 1024;
-constexpr Allowance kAllowance{1024 * kMebibyte, 1024 * kMebibyte, 120, std::chrono::seconds(180)};
+constexpr qint64 kMemory = foundation::kHasShadow ? std::numeric_limits<qint64>::max() : 1024 * kMebibyte;
+constexpr Allowance kAllowance{kMemory, 1024 * kMebibyte, 120, std::chrono::seconds(180)};
 
 /// Beside the installed libraries, or in the build; empty where it is not.
 QString arrangeProgram()

@@ -8,6 +8,7 @@
 #include "ServerConnection.h"
 
 #include "Cups/Wire.h"
+#include "Foundation/Shadow.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -35,12 +36,6 @@ constexpr rlim_t kBytesOfMemory = rlim_t{200} * 1024 * 1024; // beyond those tha
 constexpr rlim_t kBytesOfFile = rlim_t{64} * 1024 * 1024;
 constexpr auto kTimeAlone = 10s; // to cancel a job after the dialog has gone
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr bool kHasShadow = true; // of the sanitizer, larger than any limit
-#else
-constexpr bool kHasShadow = false;
-#endif
-
 std::atomic<bool> dialogHasGone = false;
 
 void limit(__rlimit_resource resource, rlim_t most)
@@ -66,7 +61,7 @@ void limitOurselves()
     std::set_terminate([] { ::_exit(EXIT_FAILURE); });
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_FSIZE, kBytesOfFile);
-    if (!kHasShadow)
+    if (!foundation::kHasShadow)
         limit(RLIMIT_AS, bytesMapped() + kBytesOfMemory);
 }
 

@@ -40,7 +40,7 @@ protected:
         qputenv("HOME", m_directory.path().toUtf8()); // what is saved here is nobody's
         qputenv("CUPS_SERVERROOT", m_directory.path().toUtf8());
         setUp(m_directory.filePath("defaults.ini"));
-        makeDialog({});
+        makeDialog({}, ticket());
         const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}};
         auto printer = support::value(targetOfQueue({}, support::value(withPPDOpened({"Test", {}, {}, ppd, {}, {}}))));
         printer->setSink(std::make_shared<FolderSink>(m_out));
@@ -80,6 +80,13 @@ protected:
         return file.fileName();
     }
 
+    /// A text, which goes with every paper and has no pages before it is laid out: the window has nothing to say of it.
+    QString ticket() const
+    {
+        QFile file(m_directory.filePath("ticket.pdf"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write("A ticket\n") > 0);
+        return file.fileName();
+    }
     QTemporaryDir m_directory;
     QString m_out = m_directory.filePath("out");
 };
