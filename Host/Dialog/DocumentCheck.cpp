@@ -51,6 +51,7 @@ DocumentCheck::DocumentCheck(PrintDialog &dialog)
     : m_dialog(dialog)
 {
     connect(&dialog, &PrintDialog::documentsChanged, this, &DocumentCheck::begin);
+    connect(&dialog, &PrintDialog::stateChanged, this, &DocumentCheck::compare);
     connect(&dialog, &PrintDialog::targetChanged, this, &DocumentCheck::compare);
     connect(&dialog, &PrintDialog::settingsChanged, this, &DocumentCheck::compare);
     begin();
@@ -100,7 +101,7 @@ void DocumentCheck::compare()
 {
     m_remedy.reset();
     if (m_dialog.state() == PrintDialog::State::sending)
-        return;
+        return Q_EMIT changed(); // nothing of it can be changed now
     const QString pages = comparePages();
     if (!pages.isEmpty() || m_saysPages) // others say something there as well
         m_dialog.say(About::pages, pages);

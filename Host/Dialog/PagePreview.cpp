@@ -101,9 +101,12 @@ void PagePreview::refresh()
     if (!m_isShown)
         return;
     const auto view = wanted();
-    if (!view)
+    if (!view) {
+        stop(); // what is still drawn is of nobody's document
+        m_shown.reset();
         return tell(m_dialog.documents().empty() ? tr("The document's pages will show here.")
                                                  : tr("The size of the paper is not known."));
+    }
     if (m_isWorking) {
         if (!haveSameSheet(*view, *m_drawing))
             stop();
@@ -129,7 +132,7 @@ void PagePreview::begin(const View &view)
         *this,
         [this, view, cache = std::exchange(m_cache, {})](const std::stop_token &stop) mutable {
             const auto post = [this](const QImage &picture) {
-                QMetaObject::invokeMethod(this, [this, picture] { show(picture); }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(this, [this, picture] { showFirst(picture); }, Qt::QueuedConnection);
             };
             return draw(view, std::move(cache), post, stop);
         },
@@ -182,6 +185,13 @@ void PagePreview::end(Picture done)
         show(*done.picture);
     else
         tell(done.picture.problem().sentence);
+}
+
+/// It may have been on its way when it was not wanted any more.
+void PagePreview::showFirst(const QImage &picture)
+{
+    if (!m_isStopped)
+        show(picture);
 }
 
 void PagePreview::show(const QImage &picture)

@@ -78,6 +78,7 @@ private:
     void stop();
     void begin(const View &view);
     void end(Picture done);
+    void showFirst(const QImage &picture);
     void show(const QImage &picture);
     void tell(const QString &problem);
     template <class Post>

@@ -154,9 +154,9 @@ void PrintDialog::setPages(const QString &pages)
 
 void PrintDialog::setScaling(Scaling scaling)
 {
-    if (m_target)
+    if (m_target && m_state != State::sending)
         m_target->setScaling(scaling);
-    settleSoon();
+    settleSoon(); // also where it stays as it was: a face shows that
 }
 
 void PrintDialog::choosePrinter(const QString &name)

@@ -9,6 +9,9 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 
+#include <chrono>
+#include <thread>
+
 using namespace host;
 
 namespace {
@@ -182,6 +185,34 @@ TEST_F(DocumentInTheWindow, IsMeasuredInInchesWhereThoseAreUsed)
     const foundation::ScopedLocale american(QLocale("en_US"));
     open(documentOf({80, 150}));
     EXPECT_EQ(message(), "The document is 3.15 in wide, the paper 8.26.");
+}
+
+/// A job that lasts until it is stopped.
+class LastingSink : public JobSink
+{
+public:
+    foundation::Or<QString> submit(const Job &, const JobProgress &, std::stop_token stop) override
+    {
+        while (!stop.stop_requested())
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        return foundation::Problem{"stopped"};
+    }
+};
+
+TEST_F(DocumentInTheWindow, OffersNothingToChangeWhileAJobIsOnItsWay)
+{
+    open(documentOf({80, 150}));
+    m_dialog->target()->setSink(std::make_shared<LastingSink>());
+    auto *const remedy = button("Use 80 × 150 mm");
+    ASSERT_TRUE(remedy && remedy->isVisible());
+    button("&Print")->click();
+    ASSERT_EQ(m_dialog->state(), PrintDialog::State::sending);
+    EXPECT_FALSE(remedy->isVisible());
+    m_dialog->setScaling(Scaling::fit);
+    EXPECT_FALSE(m_dialog->target()->jobOptions().contains("print-scaling"));
+    m_dialog->stop();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->state() == PrintDialog::State::ready; }, 20000));
+    EXPECT_TRUE(remedy->isVisible());
 }
 
 TEST_F(DocumentInTheWindow, GoesInTheSizeThatIsChosen)

@@ -296,6 +296,17 @@ TEST_F(Preview, ShowsTheLatestOfManyChoices)
     EXPECT_NEAR(black(), 0.9, 0.01);
 }
 
+TEST_F(Preview, ShowsNothingOfADocumentThatWentInTheMiddleOfItsWork)
+{
+    unfold();
+    m_dialog->chooseDocuments({documentOf(3)});
+    ASSERT_TRUE(preview().isBusy());
+    m_dialog->chooseDocuments({});
+    settle();
+    EXPECT_TRUE(preview().picture().isNull());
+    EXPECT_EQ(preview().problem(), "The document's pages will show here.");
+}
+
 TEST_F(Preview, GoesWithTheWindowInTheMiddleOfItsWork)
 {
     m_dialog->chooseDocuments({documentOf(3)});
