@@ -67,9 +67,10 @@ PrintDialog::~PrintDialog() = default;
 Or<void> PrintDialog::start()
 {
     if (m_request.ppd.isEmpty()) {
+        m_isGuess = m_request.isGuess && !m_wanted.queue.isEmpty();
         if (m_wanted.queue.isEmpty() && m_request.prefersLastPrinter) {
             m_wanted = lastPrinter();
-            m_wantsLastPrinter = true;
+            m_isGuess = true;
         }
         if (!m_wanted.queue.isEmpty())
             offerPrinters({{m_wanted.queue, {}, {}, {}}}, m_wanted.queue);
@@ -102,7 +103,10 @@ QString PrintDialog::jobTitle() const
     return foundation::plainLine(m_request.title.isEmpty() ? m_documents.front()->title() : m_request.title);
 }
 
-bool PrintDialog::canPrint() const { return m_state == State::ready && m_target->takesJobs() && !m_documents.empty(); }
+bool PrintDialog::canPrint() const
+{
+    return m_state == State::ready && m_target->takesJobs() && (preparesOnly() || !m_documents.empty());
+}
 
 bool PrintDialog::canLookAgain() const
 {
@@ -163,7 +167,7 @@ void PrintDialog::choosePrinter(const QString &name)
 {
     if (m_state == State::sending)
         return;
-    m_wantsLastPrinter = false;
+    m_isGuess = false;
     m_refusedCredentials = 0;
     look({name, {}});
 }
@@ -208,7 +212,7 @@ void PrintDialog::finderFound(OpenedQueue queue)
 
 void PrintDialog::finderFailed(const Problem &problem)
 {
-    if (problem.kind == Problem::Kind::notFound && std::exchange(m_wantsLastPrinter, false))
+    if (problem.kind == Problem::Kind::notFound && std::exchange(m_isGuess, false))
         return look({}); // the default queue, then
     endLooking(problem, problem.kind == Problem::Kind::noService
                             ? tr("The print service does not run. Start it (“systemctl start cups”), or ask whoever "
@@ -440,7 +444,7 @@ void PrintDialog::print()
 {
     if (m_state != State::ready)
         return;
-    if (m_documents.empty())
+    if (m_documents.empty() && !preparesOnly())
         return say(About::document, tr("There is no document to print."));
     const auto pages = readPageRanges(m_amount.pages);
     if (!pages) {
@@ -456,6 +460,11 @@ void PrintDialog::print()
     }
     if (!agrees) {
         Q_EMIT refused();
+        return;
+    }
+    if (preparesOnly()) {
+        rememberPrinter();
+        Q_EMIT prepared();
         return;
     }
     m_pagesToSend = *pages;

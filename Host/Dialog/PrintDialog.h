@@ -48,6 +48,8 @@ public:
     const std::vector<std::shared_ptr<Document>> &documents() const { return m_documents; }
     /// What will come out, in the words of a person: printer, paper, copies, pages, and what differs from the defaults.
     std::vector<SummaryRow> summary() const;
+    /// Whether the document comes later: there is none here, and printing ends with `prepared`.
+    bool preparesOnly() const { return m_request.preparesOnly; }
     /// Whether the settings are others than those of the preset, or of the defaults, that is shown as chosen.
     bool isPresetChanged() const;
     /// Whether looking for the printer once more can help.
@@ -115,6 +117,8 @@ Q_SIGNALS:
     void pagesRefused();
     /// A panel did not agree to print, and has told why.
     void refused();
+    /// All is settled for a document that comes later.
+    void prepared();
     void progressed(int percent);
     /// A job went out: where to, and what became of it, which may be empty.
     void printed(const QString &where, const QString &fate);
@@ -167,7 +171,7 @@ private:
     QString m_chosenPrinter;
     bool m_asksServer = false;
     bool m_hasAllPrinters = false;
-    bool m_wantsLastPrinter = false; // and nobody has chosen another
+    bool m_isGuess = false; // nobody has chosen the one that is wanted
 
     Amount m_amount;
     std::optional<OptionValues> m_restored; // what the preset has led to; nil when it has gone

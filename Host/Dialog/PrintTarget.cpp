@@ -134,7 +134,12 @@ Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues 
                                 DialogSession::Parameters parameters, std::unique_ptr<PPDDocument> ppd)
 {
     parameters.localization = request.language;
+    if (request.isSettled)
+        parameters.defaults.clear();
     parameters.defaults = withMediaAsPageSize(parameters.defaults);
+    const QString remembering = QueueName::fromText(request.queue).queue;
+    if (remembering.isEmpty() || remembering == m_name)
+        parameters.defaults.insert(request.remembered);
     parameters.defaults.insert(withMediaAsPageSize(request.options));
     parameters.defaults.insert(carried);
     auto session = DialogSession::open(parameters, std::move(ppd));
@@ -250,7 +255,7 @@ PlainTarget::PlainTarget(const PrintRequest &request, const Queue &queue)
     : m_papers(queue.papers)
 {
     describe(queue);
-    OptionValues options = SavedOptions(queue.name).options(queue.preset);
+    OptionValues options = request.isSettled ? OptionValues() : SavedOptions(queue.name).options(queue.preset);
     options.insert(request.options);
     setServerOptions(std::move(options));
     setAmount(request);

@@ -59,6 +59,8 @@ public:
     virtual std::optional<CustomSizeLimits> customSizeLimits() const { return std::nullopt; }
     virtual void choosePaper(const ChosenPaper &paper) = 0;
 
+    /// Whether a bundle is made for the printer: its PPD names one that is there, or has an option of its panels.
+    virtual bool hasOwnPanels() const { return false; }
     virtual const PDEPanels &panels() const = 0;
     /// Puts a panel on display. False when it has no view.
     virtual bool show(PDEPanel &) { return false; }
@@ -134,6 +136,7 @@ public:
     ChosenPaper paper() const override { return m_session->paper(); }
     std::optional<CustomSizeLimits> customSizeLimits() const override { return m_session->ppd().customSizeLimits(); }
     void choosePaper(const ChosenPaper &paper) override { m_session->changePaper(paper); }
+    bool hasOwnPanels() const override { return m_session->isBundlesOwnPrinter(); }
     const PDEPanels &panels() const override { return m_session->panels(); }
     bool show(PDEPanel &panel) override { return m_session->show(panel); }
     std::vector<SummaryRow> differences() const override { return m_session->differences(); }

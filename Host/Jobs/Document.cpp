@@ -58,38 +58,50 @@ bool isSource(const QByteArray &sample)
     return kBeginning.match(QString::fromLatin1(sample)).hasMatch();
 }
 
-bool copyAll(QFile &from, QFile &to)
+/// Null when all is copied; else the one of the files that has failed.
+const QFile *copyAll(QFile &from, QFile &to)
 {
     for (;;) {
         const QByteArray part = from.read(kChunkBytes);
+        if (part.isEmpty() && from.error() != QFile::NoError)
+            return &from;
         if (part.isEmpty())
-            return to.seek(0);
+            return to.seek(0) ? nullptr : &to;
         if (to.write(part) != part.size())
-            return false;
+            return &to;
     }
 }
 
 } // namespace
 
-Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
+Or<std::unique_ptr<QFile>> Document::copyOf(const QString &title, int descriptor)
 {
     auto copy = foundation::openUnnamedFile();
     if (!copy)
-        return Problem{tr("standard input: %1").arg(copy.problem().sentence)};
+        return Problem{QString("%1: %2").arg(title, copy.problem().sentence)};
     QFile input;
-    if (!input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, **copy))
-        return Problem{tr("standard input: %1").arg(foundation::fileErrorText(**copy))};
+    const QFile *const failed = input.open(descriptor, QIODevice::ReadOnly) ? copyAll(input, **copy) : &input;
+    if (failed)
+        return Problem{QString("%1: %2").arg(title, foundation::fileErrorText(*failed))};
     return copy;
+}
+
+Or<std::shared_ptr<Document>> Document::copied(const QString &title, int descriptor)
+{
+    auto copy = copyOf(title, descriptor);
+    if (!copy)
+        return copy.problem();
+    return made(title, *std::move(copy));
 }
 
 Or<std::shared_ptr<Document>> Document::open(const QString &path)
 {
-    const bool isStandardInput = path == "-";
-    auto file = isStandardInput ? copyOfStandardInput() : foundation::openRegularFile(path);
+    if (path == "-")
+        return copied(tr("standard input"), STDIN_FILENO);
+    auto file = foundation::openRegularFile(path);
     if (!file)
         return file.problem();
-    const QString title = isStandardInput ? tr("standard input") : QFileInfo(path).fileName();
-    return checked(std::shared_ptr<Document>(new Document(title, *std::move(file))));
+    return made(QFileInfo(path).fileName(), *std::move(file));
 }
 
 Or<std::shared_ptr<Document>> Document::received(int descriptor)

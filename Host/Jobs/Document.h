@@ -20,6 +20,9 @@ public:
     /// temporary file. A problem when it can't be printed.
     static foundation::Or<std::shared_ptr<Document>> open(const QString &path);
 
+    /// A private temporary copy of all that can be read from a descriptor, be it a file or a pipe, from where it is.
+    static foundation::Or<std::shared_ptr<Document>> copied(const QString &title, int descriptor);
+
     /// The document of another process that has opened it; the descriptor becomes ours.
     static foundation::Or<std::shared_ptr<Document>> received(int descriptor);
 
@@ -28,6 +31,7 @@ public:
 
     /// The file's name without its folder; "standard input" for that.
     const QString &title() const { return m_title; }
+    void setTitle(const QString &title) { m_title = title; }
     /// MIME type, told by the content.
     const QByteArray &format() const { return m_format; }
     /// Of file names of this format: "pdf", "png", "txt" ...
@@ -59,7 +63,7 @@ private:
     };
 
     static foundation::Or<std::shared_ptr<Document>> checked(std::shared_ptr<Document> document);
-    static foundation::Or<std::unique_ptr<QFile>> copyOfStandardInput();
+    static foundation::Or<std::unique_ptr<QFile>> copyOf(const QString &title, int descriptor);
     bool recognise();
     Fingerprint fingerprint() const;
     QByteArray part(qint64 bytes);

@@ -2,6 +2,8 @@
 
 #include "ConfinedProgram.h"
 
+#include "Foundation/PlainText.h"
+
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -92,6 +94,16 @@ Or<std::vector<QSizeF>> PageReader::sizes(const std::stop_token &stop) const
     if (sizes.size() > kMostPages)
         return Problem{tr("%1: the document has too many pages").arg(m_title)};
     return sizes;
+}
+
+QString PageReader::title(const std::stop_token &stop) const
+{
+    constexpr QByteArrayView kTitle("Title:");
+    const auto info = answerOf(kInfo, {"-enc", "UTF-8", "-"}, kMostInfoBytes, stop);
+    for (const QByteArray &line : info ? info->split('\n') : QByteArrayList())
+        if (line.startsWith(kTitle))
+            return foundation::plainLine(QString::fromUtf8(line.mid(kTitle.size()))).trimmed();
+    return {};
 }
 
 Or<QImage> PageReader::draw(int page, QSize dots, const std::stop_token &stop) const

@@ -30,6 +30,9 @@ public:
     /// many pages, and when there is no program to read it.
     foundation::Or<std::vector<QSizeF>> sizes(const std::stop_token &stop) const;
 
+    /// What the document calls itself; empty when it does not say, or can't be read.
+    QString title(const std::stop_token &stop) const;
+
     /// A page, from 1 on, in so many dots, as a QImage::Format_Grayscale8. A problem when it can't be drawn, or not in
     /// the time and memory that it is given.
     foundation::Or<QImage> draw(int page, QSize dots, const std::stop_token &stop) const;

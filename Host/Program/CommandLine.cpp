@@ -3,6 +3,7 @@
 
 #include "Foundation/PlainText.h"
 #include "Jobs/PageRanges.h"
+#include "Portal/PrintSettingsFile.h"
 
 #include <QCommandLineParser>
 
@@ -116,6 +117,48 @@ Or<void> readPreview(const QCommandLineParser &parser, CommandLine &line)
     return {};
 }
 
+/// What the command line says counts for more.
+Or<void> readSettingsFile(const QString &path, PrintRequest &request)
+{
+    if (path.isEmpty())
+        return {};
+    QString title;
+    const auto wish = readPrintSettings(path, title);
+    if (!wish)
+        return wish.problem();
+    if (request.queue.isEmpty() && request.ppd.isEmpty() && !wish->printer.isEmpty()) {
+        request.queue = wish->printer;
+        request.isGuess = true; // it may be another's name for a file
+    }
+    request.copies = request.copies ? request.copies : wish->copies;
+    request.remembered = wish->options;
+    request.title = request.title.isEmpty() ? title : request.title;
+    return {};
+}
+
+Or<void> readPortal(const QCommandLineParser &parser, CommandLine &line)
+{
+    struct Row
+    {
+        const char *option;
+        PortalCommand command;
+    };
+    constexpr std::array kRows{Row{"enable", PortalCommand::enable}, Row{"disable", PortalCommand::disable},
+                               Row{"status", PortalCommand::status}};
+    for (const Row &row : kRows) {
+        if (!parser.isSet(row.option))
+            continue;
+        if (line.face != Face::portal)
+            return Problem{QString("--%1 goes with portal only").arg(row.option)};
+        if (line.portal != PortalCommand::serve)
+            return Problem{"--enable, --disable and --status do not go together"};
+        line.portal = row.command;
+    }
+    if (line.face == Face::portal && !parser.positionalArguments().isEmpty())
+        return Problem{QString("portal: takes no file, and not %1").arg(parser.positionalArguments().first())};
+    return {};
+}
+
 const FaceRow *namedFace(const QStringList &arguments)
 {
     const auto *const row =
@@ -135,6 +178,14 @@ Face faceOf(const QCommandLineParser &parser, const QStringList &arguments)
 }
 
 } // namespace
+
+void removeTemporaries(const CommandLine &line)
+{
+    if (line.printSettings.isEmpty())
+        return;
+    for (const QString &file : QStringList(line.printSettings) + line.files)
+        removeTemporary(file);
+}
 
 void complain(const QString &sentence)
 {
@@ -170,6 +221,11 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
         return environment.problem();
     if (const auto preview = readPreview(parser, line); !preview)
         return preview.problem();
+    if (const auto portal = readPortal(parser, line); !portal)
+        return portal.problem();
+    line.printSettings = parser.value("print-settings");
+    if (const auto settings = readSettingsFile(line.printSettings, *request); !settings)
+        return settings.problem();
     line.files = parser.positionalArguments();
     line.panel = parser.value("panel");
     line.environment = *std::move(environment);

@@ -15,6 +15,9 @@ namespace host {
 /// The face that a command line asks for, whatever else may be wrong with it.
 Face faceOf(const QStringList &arguments);
 
+/// What `portal` is to do.
+enum class PortalCommand { serve, enable, disable, status };
+
 struct CommandLine
 {
     Face face = Face::window;
@@ -23,11 +26,16 @@ struct CommandLine
     QString panel;      // to show first; empty: the first one
     int page = 1;       // of a preview
     bool plain = false; // a preview in grey
+    PortalCommand portal = PortalCommand::serve;
+    QString printSettings; // a file; empty: none
     Environment environment;
 };
 
 /// Without Qt's own arguments.
 foundation::Or<CommandLine> readCommandLine(const QStringList &arguments);
+
+/// Removes what an application has written down for us, once it has been opened.
+void removeTemporaries(const CommandLine &line);
 
 /// Needs an application, whose name it says.
 QString helpText();

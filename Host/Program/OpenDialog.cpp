@@ -29,8 +29,8 @@ void tellWhatBecomesOfJobs(const PrintDialog &dialog)
     });
 }
 
-/// What a signal does: it closes the window, and all that is open over it; a job that is on its way is stopped first,
-/// and what becomes of it is said where the signal came from.
+} // namespace
+
 void interrupt(DialogWindow &window, PrintDialog &dialog)
 {
     const auto close = [&window] {
@@ -48,6 +48,8 @@ void interrupt(DialogWindow &window, PrintDialog &dialog)
     });
     dialog.stop();
 }
+
+namespace {
 
 /// Shows the panel that the command line names; one that is not there yet, as soon as its printer comes. The exit
 /// status of a window that closes without a job.
@@ -72,6 +74,7 @@ int openDialog(const CommandLine &line)
     setConversationLanguage(line.request.language);
     PrintDialog dialog(line.request, nullptr);
     dialog.chooseDocuments(line.files);
+    removeTemporaries(line);
     tellOnTerminal(dialog); // and the window will
     tellWhatBecomesOfJobs(dialog);
     if (const auto started = dialog.start(); !started)

@@ -5,6 +5,13 @@
 
 namespace host {
 
+class DialogWindow;
+class PrintDialog;
+
+/// What a signal does: it closes the window, and all that is open over it; a job that is on its way is stopped first,
+/// and what becomes of it is said where the signal came from.
+void interrupt(DialogWindow &window, PrintDialog &dialog);
+
 // Each does what the command line asks for, and answers the exit status of the program.
 
 /// `qnprint [FILE]`: the window.

@@ -1,7 +1,8 @@
 // Printing from the command line: the dialog without a face, driven to its end.
-#include "OpenDialog.h"
+#include "PrintUnseen.h"
 
 #include "Interrupts.h"
+#include "OpenDialog.h"
 
 #include "Dialog/PrintDialog.h"
 #include "Foundation/PlainText.h"
@@ -10,6 +11,9 @@
 #include <QEventLoop>
 
 namespace host {
+
+using foundation::Or;
+using foundation::Problem;
 
 namespace {
 
@@ -24,17 +28,15 @@ public:
             for (const QString &sentence : sentences)
                 complain(sentence);
         });
-        QObject::connect(&dialog, &PrintDialog::refused, &m_loop, [this] { m_loop.exit(kRefused); });
-        QObject::connect(&dialog, &PrintDialog::failed, &m_loop,
-                         [this](const foundation::Problem &problem) { fail(problem); });
+        QObject::connect(&dialog, &PrintDialog::refused, &m_loop, [this] { end(Problem()); });
+        QObject::connect(&dialog, &PrintDialog::failed, &m_loop, [this](const Problem &problem) { end(problem); });
         QObject::connect(&dialog, &PrintDialog::printed, &m_loop, [](const QString &where, const QString &fate) {
             report(fate.isEmpty() ? where : where + ' ' + foundation::plainLine(fate));
         });
-        QObject::connect(&dialog, &PrintDialog::finished, &m_loop, [this] { m_loop.exit(kDone); });
+        QObject::connect(&dialog, &PrintDialog::finished, &m_loop, [this] { end({}); });
     }
 
-    /// The exit status.
-    int run()
+    Or<void> run()
     {
         if (m_dialog.state() == PrintDialog::State::looking)
             QObject::connect(
@@ -42,25 +44,20 @@ public:
         else
             QMetaObject::invokeMethod(&m_loop, [this] { go(); }, Qt::QueuedConnection);
         const Interrupts interrupts([this] { interrupt(); });
-        return m_loop.exec();
+        m_loop.exec();
+        return m_end;
     }
 
 private:
-    void refuse(const QString &sentence)
+    void end(Or<void> how)
     {
-        complain(sentence);
-        m_loop.exit(kRefused);
-    }
-    void fail(const foundation::Problem &problem)
-    {
-        refuse(problem.sentence);
-        for (std::size_t i = 1; i < m_dialog.documents().size(); ++i)
-            complain(QString("%1: not printed").arg(m_dialog.documents()[i]->title()));
+        m_end = std::move(how);
+        m_loop.exit();
     }
     void go()
     {
         if (m_dialog.state() == PrintDialog::State::noPrinter)
-            return refuse(m_dialog.problem().sentence);
+            return end(m_dialog.problem());
         if (!m_dialog.target()->note().isEmpty())
             complain(m_dialog.target()->note());
         for (const QString &doubt : m_dialog.target()->doubts())
@@ -72,14 +69,17 @@ private:
         if (m_dialog.state() == PrintDialog::State::sending)
             m_dialog.stop(); // the program would leave half a job behind
         else
-            refuse("cancelled; nothing was printed");
+            end(Problem{"cancelled; nothing was printed"});
     }
 
     PrintDialog &m_dialog;
     QEventLoop m_loop;
+    Or<void> m_end;
 };
 
 } // namespace
+
+Or<void> printUnseen(PrintDialog &dialog) { return Batch(dialog).run(); }
 
 int printWithoutWindow(const CommandLine &line)
 {
@@ -92,6 +92,7 @@ int printWithoutWindow(const CommandLine &line)
     });
     PrintDialog dialog(line.request, nullptr);
     dialog.chooseDocuments(line.files);
+    removeTemporaries(line);
     if (dialog.documents().size() < static_cast<std::size_t>(line.files.size())) {
         complain(dialog.message()); // and none of the others is printed either
         return kRefused;
@@ -100,7 +101,14 @@ int printWithoutWindow(const CommandLine &line)
         complain(started.problem().sentence);
         return kRefused;
     }
-    return Batch(dialog).run();
+    const auto printed = printUnseen(dialog);
+    if (printed)
+        return kDone;
+    if (!printed.problem().sentence.isEmpty()) // a panel that does not agree has told why
+        complain(printed.problem().sentence);
+    for (std::size_t i = 1; i < dialog.documents().size(); ++i)
+        complain(QString("%1: not printed").arg(dialog.documents()[i]->title()));
+    return kRefused;
 }
 
 } // namespace host

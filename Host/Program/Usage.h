@@ -11,7 +11,7 @@ inline constexpr int kRefused = 1; // or cancelled, or failed
 inline constexpr int kWrongUse = 2;
 
 /// What the program becomes. Only the window needs a display.
-enum class Face { window, batch, script, shot, preview, help, version };
+enum class Face { window, batch, script, shot, preview, portal, help, version };
 
 /// What a shell offers for a value.
 enum class Completion { nothing, ppdFile, folder, queue };
@@ -60,6 +60,15 @@ inline constexpr std::array kOptionRows{
               "Goes with preview only."},
     OptionRow{nullptr, "plain", nullptr, nullptr, "A preview in grey, as it is before the head burns it.",
               "Before halftone, reversal and mirroring. Goes with preview only."},
+    OptionRow{
+        nullptr, "print-settings", "file", nullptr, "Begin with what an application has written down.",
+        "The file is one of GTK's print settings, as its preview command gets it. It and the document go when they "
+        "have been read, where they are temporary files of GTK's."},
+    OptionRow{nullptr, "enable", nullptr, nullptr, "Make qnprint the print dialog of this user's applications.",
+              "Goes with portal only. Says what it has written, and what has to be started again."},
+    OptionRow{nullptr, "disable", nullptr, nullptr, "Take that back.", "Goes with portal only."},
+    OptionRow{nullptr, "status", nullptr, nullptr, "Tell whether applications print with qnprint.",
+              "Goes with portal only."},
     OptionRow{nullptr, "panel", "panel", nullptr, "Panel to show first, by its identifier.",
               "Does not go together with --no-dialog."},
     OptionRow{nullptr, "language", "language", nullptr, "Language of the panels.",
@@ -92,6 +101,10 @@ inline constexpr std::array kFaceRows{
             "Takes a picture of a page as it comes out of the printer, without a display.",
             "A dot of the thermal head is a pixel of the picture, a PNG of the whole sheet in black and white that has "
             "the head's resolution. Nothing is printed. Pages are drawn by pdfinfo and pdftoppm of poppler-utils."},
+    FaceRow{Face::portal, "portal", "portal [--enable | --disable | --status]",
+            "Serves the desktop's portal, by which applications print.",
+            "The session bus starts the service when an application wants to print, and it ends when nobody has for a "
+            "minute. With --ppd and --output its dialogs print into a folder."},
 };
 
 struct ExitRow

@@ -1,5 +1,6 @@
 // `qnprint`: which face of the dialog the command line asks for.
 #include "Application.h"
+#include "ForApplications.h"
 #include "OpenDialog.h"
 #include "QnVersion.h"
 
@@ -31,7 +32,7 @@ int tell(const QString &text)
 }
 
 /// The command line is read before there is an application: wrong use is told without a display as well.
-int run(Face face, const host::Arguments &arguments)
+int run(Face face, const host::Arguments &arguments, int argc, char *argv[])
 {
     if (face == Face::script) {
         const host::Application application(face, arguments.ofQt);
@@ -41,6 +42,10 @@ int run(Face face, const host::Arguments &arguments)
     if (!line) {
         host::complain(line.problem().sentence);
         return host::kWrongUse;
+    }
+    if (face == Face::portal) {
+        const QCoreApplication application(argc, argv); // nothing to be seen, and little memory
+        return host::runPortal(*line);
     }
     if (face != Face::shot && line->request.ppd.isEmpty())
         host::prepareConversation(); // starts while the application does
@@ -71,6 +76,8 @@ int main(int argc, char *argv[])
 
     if (argc == 2 && qstrcmp(argv[1], host::kConversation) == 0)
         talkWithServer(argc, argv);
+    if (argc == 2 && host::isForApplication(QString::fromLocal8Bit(argv[1])))
+        return host::serveApplication(QString::fromLocal8Bit(argv[1]));
     const auto arguments = host::partArguments(rawArguments(argc, argv));
     const Face face = host::faceOf(arguments.ours);
     if (face == Face::version)
@@ -79,5 +86,5 @@ int main(int argc, char *argv[])
         const QCoreApplication application(argc, argv);
         return tell(host::helpText());
     }
-    return run(face, arguments);
+    return run(face, arguments, argc, argv);
 }

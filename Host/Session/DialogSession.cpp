@@ -4,6 +4,8 @@
 #include "Foundation/Bundle.h"
 #include "Foundation/NotificationCenter.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <utility>
 
@@ -190,6 +192,13 @@ void DialogSession::markPageSize()
         report(m_marks.mark(kPageSize, *m_paper.name));
     else if (*m_paper.name == printing::kUserDefinedPaper && m_paper.size)
         report(m_marks.markCustomPageSize(*m_paper.size));
+}
+
+bool DialogSession::isBundlesOwnPrinter() const
+{
+    const auto named = m_ppd->attribute("APDialogExtension");
+    const QString name = QFileInfo(m_plugIn.bundle->path()).fileName();
+    return !m_claimed.isEmpty() || (named && QFileInfo(*named).fileName() == name);
 }
 
 /// Those that a panel takes care of; the paper has a place of its own.

@@ -80,6 +80,8 @@ public:
     /// What the panels remember for this dialog.
     std::vector<PDERemembered> remembered() const { return m_plugIn.entry->remembered(); }
     const PPDDocument &ppd() const { return *m_ppd; }
+    /// Whether the PPD names the bundle, or has an option that a panel takes care of.
+    bool isBundlesOwnPrinter() const;
     const PPDMarks &marks() const { return m_marks; }
     const ChosenPaper &paper() const { return m_paper; }
     /// The PPD's papers, in the language of the dialog where the PPD has it.

@@ -13,6 +13,7 @@
 #include "Jobs/PageRanges.h"
 #include "Toolkit/TextControls.h"
 
+#include <QCheckBox>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QMenu>
@@ -178,6 +179,7 @@ void DialogWindow::connectDialog()
     connect(&m_dialog, &PrintDialog::progressed, m_ui->progress, &QProgressBar::setValue);
     connect(&m_dialog, &PrintDialog::documentsChanged, this, &DialogWindow::showDocuments);
     connect(&m_dialog, &PrintDialog::finished, this, &DialogWindow::accept);
+    connect(&m_dialog, &PrintDialog::prepared, this, &DialogWindow::accept);
     connect(&m_dialog, &PrintDialog::credentialsWanted, this, &DialogWindow::askForCredentials);
     connect(&m_dialog, &PrintDialog::pagesRefused, this, [this] {
         m_ui->pages->setFocus();
@@ -212,6 +214,8 @@ void DialogWindow::offerPrinters()
 void DialogWindow::showDocuments()
 {
     const auto &documents = m_dialog.documents();
+    if (m_dialog.preparesOnly())
+        return;
     if (documents.empty())
         setWindowTitle(tr("Print"));
     else if (documents.size() == 1)
@@ -255,7 +259,8 @@ void DialogWindow::showMessage()
     const Messages &messages = m_dialog.messages();
     const bool isSaidAbove = m_ui->panelSpace->currentWidget() == m_ui->inPlaceOfPanel;
     QString text = isSaidAbove ? messages.textBeside(About::printer) : messages.text();
-    if (text.isEmpty() && m_dialog.documents().empty() && m_dialog.state() == PrintDialog::State::ready)
+    if (text.isEmpty() && m_dialog.documents().empty() && !m_dialog.preparesOnly() &&
+        m_dialog.state() == PrintDialog::State::ready)
         text = tr("Choose a file to print, or drop one here.");
     m_ui->message->say(foundation::withoutControls(text));
     if (const QString wrong = messages.about(About::pages); m_ui->pages->accessibleDescription() != wrong)
@@ -295,7 +300,7 @@ void DialogWindow::setSending(bool isSending)
     }
     for (QWidget *part : {m_ui->settings, static_cast<QWidget *>(m_ui->choose)})
         part->setEnabled(!isSending);
-    setAcceptDrops(!isSending);
+    setAcceptDrops(!isSending && !m_dialog.preparesOnly());
     if (!isSending && m_focusBeforeJob)
         m_focusBeforeJob->setFocus();
 }
@@ -364,6 +369,29 @@ void DialogWindow::showCheck()
         m_remedy->setText(remedy ? toolkit::withoutMnemonic(foundation::withoutControls(remedy->text)) : QString());
     }
 }
+
+void DialogWindow::serveApplication(const QString &title, const QString &acceptLabel, bool offersOthers)
+{
+    setWindowTitle(title.isEmpty() ? tr("Print") : title);
+    if (!acceptLabel.isEmpty())
+        m_print->setText(acceptLabel);
+    setAcceptDrops(false);
+    m_ui->unfoldPreview->hide(); // there is nothing to be seen yet
+    showPreview(false);
+    m_ui->choose->disconnect(this);
+    m_ui->choose->setText(tr("&Other Printers…"));
+    m_ui->choose->setVisible(offersOthers);
+    connect(m_ui->choose, &QPushButton::clicked, this, &DialogWindow::othersWanted);
+    m_look = new QCheckBox(tr("&Look at the pages before they are printed"));
+    m_ui->form->addRow(QString(), m_look);
+    restoreTabOrder();
+    m_ui->settings->layout()->activate();
+    m_ui->scroller->updateGeometry(); // it holds one row more
+    layout()->activate();
+    fitToScreen();
+}
+
+bool DialogWindow::wantsToLook() const { return m_look && m_look->isChecked(); }
 
 void DialogWindow::dragEnterEvent(QDragEnterEvent *event)
 {

@@ -11,6 +11,7 @@
 #include <memory>
 
 class QAction;
+class QCheckBox;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -39,10 +40,20 @@ public:
     void showPanelFirst(const QString &identifier);
     void reject() override;
 
+    /// Serves an application whose document comes later. `title`: what it calls its dialog, and `acceptLabel` what it
+    /// calls printing; each may be empty. With another dialog there is a button for it.
+    void serveApplication(const QString &title, const QString &acceptLabel, bool offersOthers);
+    /// Whether the person wants to see the pages before they are printed.
+    bool wantsToLook() const;
+
     /// Shows the preview, or folds it away.
     void showPreview(bool isShown);
     /// Whether all of it that is to be seen is there.
     bool isComplete() const;
+
+Q_SIGNALS:
+    /// The person wants another dialog in place of this one.
+    void othersWanted();
 
 protected:
     bool event(QEvent *event) override;
@@ -92,6 +103,7 @@ private:
     std::unique_ptr<DocumentCheck> m_check; // once the window is there
     QLabel *m_ofPages = nullptr;            // made when they are known
     QPushButton *m_remedy = nullptr;        // made when there is one
+    QCheckBox *m_look = nullptr;            // made for an application
     QVBoxLayout *m_beside = nullptr;        // what stands beside the settings; each made when it is first seen
     PreviewPane *m_preview = nullptr;
     SummaryView *m_summary = nullptr;

@@ -327,13 +327,17 @@
         <comment>how many pages</comment>
         <translation>von %1</translation>
     </message>
+    <message>
+        <source>&amp;Other Printers…</source>
+        <translation>&amp;Andere Drucker…</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the pages before they are printed</source>
+        <translation>Die Seiten vor dem Drucken anse&amp;hen</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
-    <message>
-        <source>standard input: %1</source>
-        <translation>Standardeingabe: %1</translation>
-    </message>
     <message>
         <source>standard input</source>
         <translation>Standardeingabe</translation>
@@ -401,6 +405,53 @@
     <message>
         <source>too many jobs of this name</source>
         <translation>zu viele Aufträge dieses Namens</translation>
+    </message>
+</context>
+<context>
+    <name>host::ForApplications</name>
+    <message>
+        <source>Document</source>
+        <comment>a title</comment>
+        <translation>Dokument</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobFailedBox</name>
+    <message>
+        <source>%1 Was Not Printed</source>
+        <translation>%1 wurde nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>A Document Was Not Printed</source>
+        <translation>Ein Dokument wurde nicht gedruckt</translation>
+    </message>
+    <message>
+        <source>Try &amp;Again</source>
+        <translation>&amp;Noch einmal</translation>
+    </message>
+    <message>
+        <source>Another &amp;Printer…</source>
+        <translation>Anderer &amp;Drucker…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as PDF…</source>
+        <translation>Als PDF &amp;speichern…</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Speichern…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Wird gedruckt…</translation>
+    </message>
+    <message>
+        <source>Save the Document</source>
+        <translation>Dokument speichern</translation>
     </message>
 </context>
 <context>

@@ -327,13 +327,17 @@
         <comment>how many pages</comment>
         <translation>de %1</translation>
     </message>
+    <message>
+        <source>&amp;Other Printers…</source>
+        <translation>&amp;Otras impresoras…</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the pages before they are printed</source>
+        <translation>&amp;Ver las páginas antes de imprimirlas</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
-    <message>
-        <source>standard input: %1</source>
-        <translation>entrada estándar: %1</translation>
-    </message>
     <message>
         <source>standard input</source>
         <translation>entrada estándar</translation>
@@ -401,6 +405,53 @@
     <message>
         <source>too many jobs of this name</source>
         <translation>demasiados trabajos con este nombre</translation>
+    </message>
+</context>
+<context>
+    <name>host::ForApplications</name>
+    <message>
+        <source>Document</source>
+        <comment>a title</comment>
+        <translation>Documento</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobFailedBox</name>
+    <message>
+        <source>%1 Was Not Printed</source>
+        <translation>%1 no se imprimió</translation>
+    </message>
+    <message>
+        <source>A Document Was Not Printed</source>
+        <translation>Un documento no se imprimió</translation>
+    </message>
+    <message>
+        <source>Try &amp;Again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>Another &amp;Printer…</source>
+        <translation>Otra &amp;impresora…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as PDF…</source>
+        <translation>&amp;Guardar como PDF…</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Guardar…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Imprimiendo…</translation>
+    </message>
+    <message>
+        <source>Save the Document</source>
+        <translation>Guardar el documento</translation>
     </message>
 </context>
 <context>

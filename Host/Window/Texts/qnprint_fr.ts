@@ -327,13 +327,17 @@
         <comment>how many pages</comment>
         <translation>sur %1</translation>
     </message>
+    <message>
+        <source>&amp;Other Printers…</source>
+        <translation>&amp;Autres imprimantes…</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the pages before they are printed</source>
+        <translation>&amp;Voir les pages avant de les imprimer</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
-    <message>
-        <source>standard input: %1</source>
-        <translation>entrée standard : %1</translation>
-    </message>
     <message>
         <source>standard input</source>
         <translation>entrée standard</translation>
@@ -401,6 +405,53 @@
     <message>
         <source>too many jobs of this name</source>
         <translation>trop de tâches de ce nom</translation>
+    </message>
+</context>
+<context>
+    <name>host::ForApplications</name>
+    <message>
+        <source>Document</source>
+        <comment>a title</comment>
+        <translation>Document</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobFailedBox</name>
+    <message>
+        <source>%1 Was Not Printed</source>
+        <translation>%1 n’a pas été imprimé</translation>
+    </message>
+    <message>
+        <source>A Document Was Not Printed</source>
+        <translation>Un document n’a pas été imprimé</translation>
+    </message>
+    <message>
+        <source>Try &amp;Again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>Another &amp;Printer…</source>
+        <translation>Autre &amp;imprimante…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as PDF…</source>
+        <translation>&amp;Enregistrer en PDF…</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Impression en cours…</translation>
+    </message>
+    <message>
+        <source>Save the Document</source>
+        <translation>Enregistrer le document</translation>
     </message>
 </context>
 <context>

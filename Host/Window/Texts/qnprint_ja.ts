@@ -327,13 +327,17 @@
         <comment>how many pages</comment>
         <translation>/ %1</translation>
     </message>
+    <message>
+        <source>&amp;Other Printers…</source>
+        <translation>他のプリンター(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the pages before they are printed</source>
+        <translation>印刷する前にページを見る(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
-    <message>
-        <source>standard input: %1</source>
-        <translation>標準入力: %1</translation>
-    </message>
     <message>
         <source>standard input</source>
         <translation>標準入力</translation>
@@ -401,6 +405,53 @@
     <message>
         <source>too many jobs of this name</source>
         <translation>同じ名前のジョブが多すぎます</translation>
+    </message>
+</context>
+<context>
+    <name>host::ForApplications</name>
+    <message>
+        <source>Document</source>
+        <comment>a title</comment>
+        <translation>文書</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobFailedBox</name>
+    <message>
+        <source>%1 Was Not Printed</source>
+        <translation>%1 は印刷されませんでした</translation>
+    </message>
+    <message>
+        <source>A Document Was Not Printed</source>
+        <translation>文書が印刷されませんでした</translation>
+    </message>
+    <message>
+        <source>Try &amp;Again</source>
+        <translation>再試行(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Another &amp;Printer…</source>
+        <translation>別のプリンター(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as PDF…</source>
+        <translation>PDF として保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷しています…</translation>
+    </message>
+    <message>
+        <source>Save the Document</source>
+        <translation>文書を保存</translation>
     </message>
 </context>
 <context>

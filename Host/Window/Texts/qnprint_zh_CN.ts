@@ -327,13 +327,17 @@
         <comment>how many pages</comment>
         <translation>/ %1</translation>
     </message>
+    <message>
+        <source>&amp;Other Printers…</source>
+        <translation>其他打印机(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Look at the pages before they are printed</source>
+        <translation>打印前查看页面(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>host::Document</name>
-    <message>
-        <source>standard input: %1</source>
-        <translation>标准输入：%1</translation>
-    </message>
     <message>
         <source>standard input</source>
         <translation>标准输入</translation>
@@ -401,6 +405,53 @@
     <message>
         <source>too many jobs of this name</source>
         <translation>同名作业过多</translation>
+    </message>
+</context>
+<context>
+    <name>host::ForApplications</name>
+    <message>
+        <source>Document</source>
+        <comment>a title</comment>
+        <translation>文档</translation>
+    </message>
+</context>
+<context>
+    <name>host::JobFailedBox</name>
+    <message>
+        <source>%1 Was Not Printed</source>
+        <translation>%1 未打印</translation>
+    </message>
+    <message>
+        <source>A Document Was Not Printed</source>
+        <translation>有文档未打印</translation>
+    </message>
+    <message>
+        <source>Try &amp;Again</source>
+        <translation>重试(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Another &amp;Printer…</source>
+        <translation>其他打印机(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as PDF…</source>
+        <translation>另存为 PDF(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>Save the Document</source>
+        <translation>保存文档</translation>
     </message>
 </context>
 <context>

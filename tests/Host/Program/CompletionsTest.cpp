@@ -282,7 +282,7 @@ TEST_F(Fish, CompletesWhatIsMeant)
     EXPECT_EQ(offers("qnprint --panel "), QStringList());
     EXPECT_EQ(offers("qnprint --no-dialog ti"), QStringList{"ticket.pdf"});
     EXPECT_EQ(offers("qnprint s"), QStringList({"script", "shot"}));
-    EXPECT_EQ(offers("qnprint p"), QStringList{"preview"});
+    EXPECT_EQ(offers("qnprint p"), (QStringList{"portal", "preview"}));
     EXPECT_EQ(offers("qnprint --no-dialog s"), QStringList());
 }
 

@@ -39,11 +39,27 @@ TEST_F(TheCommand, SaysOfEveryOptionWhatItTakesAndWhatItIsFor)
         options.append(match.captured(1));
         purposes.append(match.captured(2));
     }
-    EXPECT_EQ(options,
-              QStringList({"-h, --help", "--version", "-d, --destination <queue>", "--ppd <file>", "--output <folder>",
-                           "-o <keyword=choice>", "-n <number>", "-P <pages>", "-t, --title <title>", "--raw",
-                           "--no-dialog", "--page <number>", "--plain", "--panel <panel>", "--language <language>",
-                           "--locale <locale>", "--system-version <version>"}))
+    EXPECT_EQ(options, QStringList({"-h, --help",
+                                    "--version",
+                                    "-d, --destination <queue>",
+                                    "--ppd <file>",
+                                    "--output <folder>",
+                                    "-o <keyword=choice>",
+                                    "-n <number>",
+                                    "-P <pages>",
+                                    "-t, --title <title>",
+                                    "--raw",
+                                    "--no-dialog",
+                                    "--page <number>",
+                                    "--plain",
+                                    "--print-settings <file>",
+                                    "--enable",
+                                    "--disable",
+                                    "--status",
+                                    "--panel <panel>",
+                                    "--language <language>",
+                                    "--locale <locale>",
+                                    "--system-version <version>"}))
         << m_output.toStdString();
     EXPECT_FALSE(purposes.contains(QString())) << m_output.toStdString();
     EXPECT_EQ(purposes.removeDuplicates(), 0) << m_output.toStdString();
@@ -76,6 +92,10 @@ INSTANTIATE_TEST_SUITE_P(
                     BadValue{{"-o", "QnSpeed"}, "-o QnSpeed: not of the form keyword=choice"},
                     BadValue{{"-o", "=S1"}, "-o =S1: not of the form keyword=choice"},
                     BadValue{{"-o", "Qn Speed=S1"}, "-o Qn Speed=S1: not of the form keyword=choice"},
+                    BadValue{{"--enable"}, "--enable goes with portal only"},
+                    BadValue{{"--disable"}, "--disable goes with portal only"},
+                    BadValue{{"--status"}, "--status goes with portal only"},
+                    BadValue{{"--print-settings", "/nosuch.ini"}, "/nosuch.ini: No such file or directory"},
                     BadValue{{"--no-such-option"}, "Unknown option 'no-such-option'."}));
 
 } // namespace
