@@ -16,9 +16,9 @@ struct PrintRequest
     QString title;                   // of the job; empty: the document's
     QString language = "en";
     OptionValues options;
-    OptionValues remembered; // by whoever asks, for the queue; like saved options they count as far as they still can
-    bool isSettled = false;  // the options are complete: nothing that is saved counts beside them
-    bool isGuess = false;    // the queue may not be there any more; then it is the default queue
+    OptionValues remembered;   // by whoever asks, for the queue; like saved options they count as far as they still can
+    bool isSettled = false;    // the options are complete: nothing that is saved counts beside them
+    bool isGuess = false;      // the queue may not be there any more; then it is the default queue
     bool preparesOnly = false; // the document comes later, and is printed by another
     std::optional<int> copies;
     bool raw = false; // documents are sent as they are
