@@ -201,7 +201,9 @@ PrintRequest requestFor(const JobWish &wish)
 Or<std::shared_ptr<Document>> receive(JobWish &wish)
 {
     std::signal(SIGXFSZ, SIG_IGN); // a document without end is told as one that is too large
-    const rlimit limit{kLargestDocument, kLargestDocument};
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = std::min({limit.rlim_cur, limit.rlim_max, kLargestDocument});
     ::setrlimit(RLIMIT_FSIZE, &limit);
     const QString name =
         wish.title.isEmpty() ? QCoreApplication::translate("host::ForApplications", "Document", "a title") : wish.title;
