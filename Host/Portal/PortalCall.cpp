@@ -11,14 +11,7 @@ PortalCall::PortalCall(const QDBusConnection &bus, const QDBusMessage &message, 
     , m_message(message)
     , m_sender(message.service())
     , m_handle(handle.path())
-    , m_isRegistered(m_bus.registerObject(m_handle, this, QDBusConnection::ExportScriptableSlots))
 {}
-
-PortalCall::~PortalCall()
-{
-    if (m_isRegistered)
-        m_bus.unregisterObject(m_handle);
-}
 
 void PortalCall::answer(Response response, const QVariantMap &results)
 {
@@ -34,17 +27,12 @@ void PortalCall::reply(const QDBusMessage &message)
 {
     if (std::exchange(m_isAnswered, true))
         return;
-    if (std::exchange(m_isRegistered, false))
-        m_bus.unregisterObject(m_handle); // before the answer: the handle may be used again then
     m_bus.send(message);
     deleteLater();
 }
 
-/// Only whoever has called.
-void PortalCall::Close()
+void PortalCall::close()
 {
-    if (calledFromDBus() && QDBusContext::message().service() != m_sender)
-        return sendErrorReply(QDBusError::AccessDenied, "the request is another's");
     if (!m_isAnswered)
         Q_EMIT closed();
 }

@@ -1,9 +1,7 @@
-// A call of an application, from its arrival to its answer. Until then there is an object on the bus by which whoever
-// called can take the call back.
+// A call of an application, from its arrival to its answer. Until then whoever called can take it back, by its handle.
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QObject>
@@ -18,18 +16,14 @@ enum class Response : uint {
     failed = 2,    // ended otherwise
 };
 
-class PortalCall : public QObject, protected QDBusContext
+class PortalCall : public QObject
 {
     Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.impl.portal.Request")
 
 public:
     /// `message`: the call, whose answer comes later.
     PortalCall(const QDBusConnection &bus, const QDBusMessage &message, const QDBusObjectPath &handle, QObject *parent);
-    ~PortalCall() override;
 
-    /// Whether the call can be taken back; else its handle is in use already.
-    bool isRegistered() const { return m_isRegistered; }
     const QString &sender() const { return m_sender; }
     const QString &handle() const { return m_handle; }
 
@@ -38,8 +32,8 @@ public:
     /// The same with an error, which the front end writes into its log.
     void refuse(const QString &error, const QString &sentence);
 
-public Q_SLOTS:
-    Q_SCRIPTABLE void Close();
+    /// Nobody waits any more.
+    void close();
 
 Q_SIGNALS:
     /// Nobody waits for the answer any more.
@@ -52,7 +46,6 @@ private:
     QDBusMessage m_message;
     QString m_sender;
     QString m_handle;
-    bool m_isRegistered;
     bool m_isAnswered = false;
 };
 

@@ -9,6 +9,7 @@
 #include <QDBusArgument>
 #include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
+#include <QDBusVirtualObject>
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -23,6 +24,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kInterface = "org.freedesktop.impl.portal.Print";
+constexpr auto kRequestsPath = "/org/freedesktop/portal/desktop/request";
 constexpr auto kRequest = "org.freedesktop.impl.portal.Request";
 
 constexpr qsizetype kMostDialogsOfOne = 12; // of an application at a time
@@ -45,6 +47,33 @@ QString shortened(const QString &text)
 }
 
 } // namespace
+
+/// One object for all handles there can be: a call may be taken back before it has been looked at.
+class PrintPortal::Requests : public QDBusVirtualObject
+{
+public:
+    explicit Requests(const PrintPortal &portal)
+        : m_portal(portal)
+    {}
+    QString introspect(const QString &) const override
+    {
+        return QStringLiteral("<interface name=\"%1\"><method name=\"Close\"/></interface>").arg(kRequest);
+    }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &bus) override
+    {
+        PortalCall *const call = m_portal.callOf(message.path());
+        if (!call || message.member() != "Close" || (!message.interface().isEmpty() && message.interface() != kRequest))
+            return false;
+        if (call->sender() != message.service())
+            return bus.send(message.createErrorReply(QDBusError::AccessDenied, "the request is another's"));
+        bus.send(message.createReply());
+        call->close();
+        return true;
+    }
+
+private:
+    const PrintPortal &m_portal;
+};
 
 struct PrintPortal::Preparation
 {
@@ -69,6 +98,7 @@ struct PrintPortal::Token
 PrintPortal::PrintPortal(const QDBusConnection &bus, Parameters parameters)
     : m_bus(bus)
     , m_parameters(std::move(parameters))
+    , m_requests(std::make_unique<Requests>(*this))
 {
     m_callers.setConnection(m_bus);
     m_callers.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
@@ -89,7 +119,8 @@ PrintPortal::~PrintPortal() = default;
 Or<void> PrintPortal::begin()
 {
     // Before the name: a call may come with it.
-    const bool isThere = m_bus.registerObject(kPortalPath, this, QDBusConnection::ExportScriptableSlots);
+    const bool isThere = m_bus.registerObject(kPortalPath, this, QDBusConnection::ExportScriptableSlots) &&
+                         m_bus.registerVirtualObject(kRequestsPath, m_requests.get(), QDBusConnection::SubPath);
     if (!isThere || !m_bus.registerService(kPortalService))
         return Problem{QString("%1 is on the bus already").arg(kPortalService)};
     m_bus.connect({}, "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local", "Disconnected", this, SLOT(leave()));
@@ -103,7 +134,7 @@ void PrintPortal::leave()
     m_bus.unregisterService(kPortalService);
     m_bus.unregisterObject(kPortalPath);
     for (const auto &[call, application] : std::map(m_calls))
-        Q_EMIT call->closed();
+        call->close();
     lookIdle();
 }
 
@@ -112,14 +143,15 @@ PortalCall *PrintPortal::takeCall(const QDBusObjectPath &handle, const QString &
 {
     setDelayedReply(true);
     const auto ofOne = std::ranges::count_if(m_calls, [&](const auto &each) { return each.second == application; });
+    const bool isFree = handle.path().startsWith(QString(kRequestsPath) + '/') && !callOf(handle.path());
     auto *const call = new PortalCall(m_bus, message(), handle, this);
     connect(call, &QObject::destroyed, this, [this, call] {
         m_calls.erase(call);
         lookIdle();
     });
-    if (!call->isRegistered()) {
+    if (!isFree) {
         call->refuse("org.freedesktop.DBus.Error.InvalidArgs",
-                     QString("%1: there is such a request already").arg(handle.path()));
+                     QString("%1: no path of a request, or that of another one").arg(handle.path()));
         return nullptr;
     }
     if (limit == Limit::applies && (ofOne >= kMostDialogsOfOne || m_calls.size() >= kMostDialogs)) {
@@ -139,7 +171,14 @@ void PrintPortal::callerLeft(const QString &name)
     m_callers.removeWatchedService(name);
     for (const auto &[call, application] : std::map(m_calls))
         if (call->sender() == name)
-            Q_EMIT call->closed();
+            call->close();
+}
+
+/// Null when there is none.
+PortalCall *PrintPortal::callOf(const QString &handle) const
+{
+    const auto found = std::ranges::find_if(m_calls, [&](const auto &each) { return each.first->handle() == handle; });
+    return found == m_calls.end() ? nullptr : found->first;
 }
 
 void PrintPortal::lookIdle()

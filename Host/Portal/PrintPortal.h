@@ -7,6 +7,7 @@
 #include "PortalProcess.h"
 #include "PortalRequest.h"
 
+#include <QDBusContext>
 #include <QDBusServiceWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QElapsedTimer>
@@ -58,6 +59,7 @@ Q_SIGNALS:
     void done();
 
 private:
+    class Requests;     // the calls by their handles, on the bus
     struct Preparation; // what an application has asked for
     struct Token;       // what has been settled for it
 
@@ -76,11 +78,13 @@ private:
     std::optional<Token> take(uint number);
     void dropOldTokens();
     void callerLeft(const QString &name);
+    PortalCall *callOf(const QString &handle) const;
     DialogWish wishFor(const QString &parentWindow, const QVariantMap &options) const;
     void lookIdle();
 
     QDBusConnection m_bus;
     Parameters m_parameters;
+    std::unique_ptr<Requests> m_requests;
     QDBusServiceWatcher m_callers;
     QTimer m_idle;
     bool m_isLeaving = false;

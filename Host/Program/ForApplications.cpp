@@ -207,6 +207,7 @@ Or<std::shared_ptr<Document>> receive(JobWish &wish)
     ::setrlimit(RLIMIT_FSIZE, &limit);
     const QString name =
         wish.title.isEmpty() ? QCoreApplication::translate("host::ForApplications", "Document", "a title") : wish.title;
+    ::lseek(kDocumentDescriptor, 0, SEEK_SET); // where it was left by whoever wrote it; a pipe stays where it is
     auto document = Document::copied(name, kDocumentDescriptor);
     if (!document || !wish.title.isEmpty())
         return document;

@@ -259,7 +259,7 @@ TEST_F(PortalService, ClosesTheDialogOfARequestThatIsTakenBack)
     const auto pending = prepare();
     ASSERT_TRUE(showsDialog());
     takeBack(m_handles);
-    EXPECT_EQ(answerOf(pending).response, 2U);
+    EXPECT_EQ(answerOf(pending).response, 1U);
     EXPECT_TRUE(showsNothing());
     EXPECT_TRUE(QTest::qWaitFor([this] { return childrenOf(m_service.processId()).isEmpty(); }, kMilliseconds));
 }
@@ -269,7 +269,7 @@ TEST_F(PortalService, ClosesADialogThatDoesNotShowYet)
     startService();
     const auto pending = prepare();
     takeBack(m_handles);
-    EXPECT_EQ(answerOf(pending).response, 2U);
+    EXPECT_EQ(answerOf(pending).response, 1U);
     EXPECT_TRUE(QTest::qWaitFor([this] { return childrenOf(m_service.processId()).isEmpty(); }, kMilliseconds));
 }
 
@@ -284,7 +284,7 @@ TEST_F(PortalService, ClosesARequestOnlyForWhoeverHasMadeIt)
     EXPECT_EQ(answer.errorName(), "org.freedesktop.DBus.Error.AccessDenied");
     EXPECT_FALSE(pending.isFinished());
     takeBack(m_handles);
-    EXPECT_EQ(answerOf(pending).response, 2U);
+    EXPECT_EQ(answerOf(pending).response, 1U);
 }
 
 TEST_F(PortalService, ClosesTheDialogOfACallerThatHasGone)
@@ -355,7 +355,7 @@ TEST_P(EndOfTheService, LosesNoJob)
     ASSERT_EQ(::write(to.number(), bytes.constData(), static_cast<std::size_t>(bytes.size())), bytes.size());
     to.close();
     EXPECT_EQ(ticket("Invoice 17")["title"], "Invoice 17");
-    EXPECT_TRUE(m_service.waitForFinished(kMilliseconds));
+    EXPECT_TRUE(m_service.state() == QProcess::NotRunning || m_service.waitForFinished(kMilliseconds));
 }
 
 INSTANTIATE_TEST_SUITE_P(By, EndOfTheService, testing::Values(EndRow{"ARequest", SIGTERM}, EndRow{"ACrash", SIGKILL}),
@@ -460,7 +460,8 @@ TEST_F(PortalService, GivesAJobWithoutAnyTitleThatOfTheApplication)
     QFile document(kTicket);
     ASSERT_TRUE(document.open(QIODevice::ReadOnly));
     EXPECT_EQ(answerOf(print(document.handle(), settled.results["token"], "")).response, 0U);
-    EXPECT_EQ(printed(), QStringList{"org.test.App.json"});
+    ASSERT_EQ(printed().size(), 1);
+    EXPECT_EQ(ticket(QFileInfo(printed().first()).completeBaseName())["title"], "org.test.App");
 }
 
 struct DocumentRow
@@ -613,7 +614,7 @@ TEST_F(PortalService, HasALimitForEachApplication)
     for (int i = 1; i <= last; ++i)
         takeBack(i);
     for (const auto &each : open)
-        EXPECT_EQ(answerOf(each).response, 2U);
+        EXPECT_EQ(answerOf(each).response, 1U);
 }
 
 /// What a process has of a thing, by its own word: "VmRSS" in kB.
@@ -647,7 +648,7 @@ TEST_F(PortalService, IsAsSmallAfterManyRequestsAsBefore)
         for (int i = first; i <= m_handles; ++i)
             takeBack(i);
         for (const auto &each : open)
-            ASSERT_EQ(answerOf(each).response, 2U);
+            ASSERT_EQ(answerOf(each).response, 1U);
     };
     round(); // the first makes what stays
     const auto before = descriptors();
