@@ -112,6 +112,21 @@ Or<void> checkPreset(const Queue &queue)
 
 } // namespace
 
+namespace {
+
+/// What is there before anybody chooses: saved options, and what whoever asks remembers of the queue.
+OptionValues startingWith(const OptionValues &saved, const PrintRequest &request, const QString &queue)
+{
+    const QString asked = QueueName::fromText(request.queue).queue;
+    if (!asked.isEmpty() && asked != queue)
+        return saved;
+    OptionValues options = request.isSettled ? OptionValues() : saved;
+    options.insert(request.remembered);
+    return options;
+}
+
+} // namespace
+
 void PPDTarget::doubtUnknownOptions(const OptionValues &asked)
 {
     QStringList known;
@@ -134,12 +149,7 @@ Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues 
                                 DialogSession::Parameters parameters, std::unique_ptr<PPDDocument> ppd)
 {
     parameters.localization = request.language;
-    if (request.isSettled)
-        parameters.defaults.clear();
-    parameters.defaults = withMediaAsPageSize(parameters.defaults);
-    const QString remembering = QueueName::fromText(request.queue).queue;
-    if (remembering.isEmpty() || remembering == m_name)
-        parameters.defaults.insert(request.remembered);
+    parameters.defaults = withMediaAsPageSize(startingWith(parameters.defaults, request, m_name));
     parameters.defaults.insert(withMediaAsPageSize(request.options));
     parameters.defaults.insert(carried);
     auto session = DialogSession::open(parameters, std::move(ppd));
@@ -255,7 +265,7 @@ PlainTarget::PlainTarget(const PrintRequest &request, const Queue &queue)
     : m_papers(queue.papers)
 {
     describe(queue);
-    OptionValues options = request.isSettled ? OptionValues() : SavedOptions(queue.name).options(queue.preset);
+    OptionValues options = startingWith(SavedOptions(queue.name).options(queue.preset), request, queue.name);
     options.insert(request.options);
     setServerOptions(std::move(options));
     setAmount(request);
