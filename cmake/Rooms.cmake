@@ -20,9 +20,14 @@ function(qn_add_platform_library name)
     set_target_properties(${name} PROPERTIES
         OUTPUT_NAME qn${lower}
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+        INSTALL_RPATH "$ORIGIN"
         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
-    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/Platform)
-    install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qnprint NAMELINK_SKIP)
+    add_library(qnprint::${name} ALIAS ${name})
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Platform> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/qnprint>)
+    install(TARGETS ${name} EXPORT qnprint LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qnprint NAMELINK_SKIP)
+    install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qnprint
+        FILES_MATCHING PATTERN "*.h")
 endfunction()
 
 # A room that ends up inside the plug-in or the host.

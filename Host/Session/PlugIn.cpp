@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QPluginLoader>
 
 #include <algorithm>
@@ -20,13 +21,20 @@ namespace {
 constexpr auto kPathVariable = "QNPRINT_PLUGIN_PATH";
 constexpr auto kBundlePattern = "*.plugin";
 
-bool isForThisHost(const QString &path)
+bool isForThisHost(const foundation::Bundle::Info &info)
+{
+    return info.abiVersion == kPDEInterfaceVersion && info.build == buildTag();
+}
+
+bool isBundleForThisHost(const QString &path)
 {
     const auto bundle = foundation::Bundle::open(path, "none");
-    return bundle && (*bundle)->info().abiVersion == kPDEInterfaceVersion;
+    return bundle && isForThisHost((*bundle)->info());
 }
 
 } // namespace
+
+QString buildTag() { return QN_BUILD_TAG; }
 
 QStringList plugInDirectories()
 {
@@ -48,9 +56,35 @@ std::optional<QString> findBundle(const std::optional<QString> &dialogExtension)
         for (const QString &bundle : bundles)
             all.append(directory.filePath(bundle));
     }
-    if (const auto fitting = std::ranges::find_if(all, isForThisHost); fitting != all.end())
+    if (const auto fitting = std::ranges::find_if(all, isBundleForThisHost); fitting != all.end())
         return *fitting;
     return all.isEmpty() ? std::nullopt : std::optional(all.first()); // which then says what is wrong with it
+}
+
+Problem PlugIn::misfit(const QString &path, const foundation::Bundle::Info &info)
+{
+    if (info.abiVersion != kPDEInterfaceVersion)
+        return {tr("%1: made for interface version %2, this dialog has %3")
+                    .arg(path, QString::number(info.abiVersion), QString::number(kPDEInterfaceVersion))};
+    return {tr("%1: built for “%2”, this dialog is “%3”").arg(path, info.build, buildTag())};
+}
+
+Or<PDEPlugInEntry *> PlugIn::loadCode(const foundation::Bundle &bundle)
+{
+    const QString code = bundle.path() + '/' + bundle.info().executable;
+    if (const auto file = foundation::openRegularFile(code); !file)
+        return file.problem();
+    const Problem notOurs{tr("%1: %2 is not the code of a panel plug-in").arg(bundle.path(), bundle.info().executable)};
+    QPluginLoader loader(code);
+    const QJsonObject described = loader.metaData(); // read from the file: nothing of it has run yet
+    if (!described.isEmpty() && described["IID"].toString() != PDEPlugInEntry_iid)
+        return notOurs;
+    QObject *const root = loader.instance();
+    if (!root)
+        return Problem{QString("%1: %2").arg(bundle.path(), loader.errorString())};
+    if (auto *const entry = qobject_cast<PDEPlugInEntry *>(root))
+        return entry;
+    return notOurs;
 }
 
 Or<PlugIn> PlugIn::load(const QString &path, const QString &localization)
@@ -58,21 +92,12 @@ Or<PlugIn> PlugIn::load(const QString &path, const QString &localization)
     auto bundle = foundation::Bundle::open(path, localization);
     if (!bundle)
         return bundle.problem();
-    const auto &info = (*bundle)->info();
-    if (info.abiVersion != kPDEInterfaceVersion)
-        return Problem{tr("%1: made for interface version %2, this dialog has %3")
-                           .arg(path, QString::number(info.abiVersion), QString::number(kPDEInterfaceVersion))};
-    const QString code = (*bundle)->path() + '/' + info.executable;
-    if (const auto file = foundation::openRegularFile(code); !file)
-        return file.problem();
-    QPluginLoader loader(code);
-    QObject *const root = loader.instance();
-    if (!root)
-        return Problem{QString("%1: %2").arg(path, loader.errorString())};
-    auto *const entry = qobject_cast<PDEPlugInEntry *>(root);
+    if (!isForThisHost((*bundle)->info()))
+        return misfit(path, (*bundle)->info());
+    auto entry = loadCode(**bundle);
     if (!entry)
-        return Problem{tr("%1: %2 is not the code of a panel plug-in").arg(path, info.executable)};
-    return PlugIn{*std::move(bundle), entry};
+        return entry.problem();
+    return PlugIn{*std::move(bundle), *entry};
 }
 
 } // namespace host

@@ -21,7 +21,15 @@ public:
 
     std::unique_ptr<foundation::Bundle> bundle;
     PDEPlugInEntry *entry; // stays loaded until the process ends
+
+private:
+    static foundation::Problem misfit(const QString &path, const foundation::Bundle::Info &info);
+    static foundation::Or<PDEPlugInEntry *> loadCode(const foundation::Bundle &bundle);
 };
+
+/// What the code of a bundle must have in common with this program: standard library, its binary interface, Qt's major
+/// version. qn_add_bundle writes the same into an Info.json.
+QString buildTag();
 
 /// Directories that hold plug-in bundles, the user's choice first.
 QStringList plugInDirectories();

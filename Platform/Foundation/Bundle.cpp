@@ -34,7 +34,7 @@ Or<Bundle::Info> Bundle::readInfo(const QString &path)
     if (parse.error != QJsonParseError::NoError)
         return Problem{QString("%1/Info.json: %2").arg(path, parse.errorString())};
     Info info{object["identifier"].toString(), object["executable"].toString(), object["principalClass"].toString(),
-              object["abiVersion"].toInt()};
+              object["abiVersion"].toInt(), object["build"].toString()};
     if (info.executable.isEmpty() || info.principalClass.isEmpty())
         return Problem{tr("%1/Info.json: names no executable or no principal class").arg(path)};
     return info;

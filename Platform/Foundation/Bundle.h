@@ -22,13 +22,14 @@ class Bundle
     Q_DECLARE_TR_FUNCTIONS(foundation::Bundle)
 
 public:
-    /// What `Info.json` says. `abiVersion` is 0 when the file names none.
+    /// What `Info.json` says. `abiVersion` is 0 and `build` empty when the file names none.
     struct Info
     {
         QString identifier;
         QString executable;
         QString principalClass;
         int abiVersion = 0;
+        QString build; // what its code has in common with whoever can load it
     };
 
     /// Reads `Info.json`; a problem when the directory or the file is missing or malformed.

@@ -721,6 +721,10 @@
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1: %2 ist nicht der Code eines Plug-ins mit Einstellungen</translation>
     </message>
+    <message>
+        <source>%1: built for “%2”, this dialog is “%3”</source>
+        <translation>%1: gebaut für „%2“, dieser Dialog ist „%3“</translation>
+    </message>
 </context>
 <context>
     <name>host::PresetNameBox</name>

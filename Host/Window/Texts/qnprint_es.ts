@@ -721,6 +721,10 @@
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1: %2 no es el código de un complemento de ajustes</translation>
     </message>
+    <message>
+        <source>%1: built for “%2”, this dialog is “%3”</source>
+        <translation>%1: compilado para «%2», este diálogo es «%3»</translation>
+    </message>
 </context>
 <context>
     <name>host::PresetNameBox</name>

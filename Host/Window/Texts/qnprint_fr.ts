@@ -721,6 +721,10 @@
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1 : %2 n’est pas le code d’un module de réglages</translation>
     </message>
+    <message>
+        <source>%1: built for “%2”, this dialog is “%3”</source>
+        <translation>%1 : construit pour « %2 », ce dialogue est « %3 »</translation>
+    </message>
 </context>
 <context>
     <name>host::PresetNameBox</name>

@@ -721,6 +721,10 @@
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1: %2 は設定パネルのプラグインのコードではありません</translation>
     </message>
+    <message>
+        <source>%1: built for “%2”, this dialog is “%3”</source>
+        <translation>%1: 「%2」用に作られています。このダイアログは「%3」です</translation>
+    </message>
 </context>
 <context>
     <name>host::PresetNameBox</name>

@@ -721,6 +721,10 @@
         <source>%1: %2 is not the code of a panel plug-in</source>
         <translation>%1：%2 不是设置面板插件的代码</translation>
     </message>
+    <message>
+        <source>%1: built for “%2”, this dialog is “%3”</source>
+        <translation>%1：为“%2”构建，此对话框为“%3”</translation>
+    </message>
 </context>
 <context>
     <name>host::PresetNameBox</name>

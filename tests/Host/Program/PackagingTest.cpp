@@ -5,8 +5,10 @@
 #include "Print.h"
 #include "Results.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
+#include <QSettings>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -77,6 +79,39 @@ TEST(AnInstallation, HasTheManualAndTheCompletionsWhereTheyAreLookedFor)
         EXPECT_EQ(there.readAll(), here.readAll()) << installed;
     }
     EXPECT_FALSE(QFile::exists(prefix.filePath("bin/qnprint-manual")));
+}
+
+TEST(AnInstallation, HasLibrariesThatFindOneAnother)
+{
+    const QTemporaryDir prefix;
+    ASSERT_EQ(QProcess::execute(QN_CMAKE, {"--install", QN_BUILD_DIR, "--prefix", prefix.path()}), 0);
+    QDirIterator libraries(prefix.path(), {"*.so*"}, QDir::Files, QDirIterator::Subdirectories);
+    int count = 0;
+    for (; libraries.hasNext(); ++count) {
+        QProcess ldd;
+        ldd.start("ldd", {libraries.next()});
+        ASSERT_TRUE(ldd.waitForFinished());
+        const QByteArray words = ldd.readAll();
+        EXPECT_TRUE(words.contains("libc.so") && !words.contains("not found")) << words.toStdString();
+    }
+    EXPECT_GE(count, 4);
+}
+
+TEST(AnInstallation, TellsTheBusWhatToStartAndServesNoDesktopByItself)
+{
+    const QTemporaryDir prefix;
+    ASSERT_EQ(QProcess::execute(QN_CMAKE, {"--install", QN_BUILD_DIR, "--prefix", prefix.path()}), 0);
+    const QString name = "org.freedesktop.impl.portal.desktop.qnprint";
+    const QSettings service(prefix.filePath("share/dbus-1/services/" + name + ".service"), QSettings::IniFormat);
+    EXPECT_EQ(service.value("D-BUS Service/Name"), name);
+    EXPECT_TRUE(service.value("D-BUS Service/Exec").toString().startsWith('/'));
+    EXPECT_TRUE(service.value("D-BUS Service/Exec").toString().endsWith("/bin/qnprint portal"));
+    QFile portal(prefix.filePath("share/xdg-desktop-portal/portals/qnprint.portal"));
+    ASSERT_TRUE(portal.open(QIODevice::ReadOnly));
+    const QByteArrayList lines = portal.readAll().split('\n');
+    EXPECT_TRUE(lines.contains("DBusName=" + name.toUtf8()));
+    EXPECT_TRUE(lines.contains("Interfaces=org.freedesktop.impl.portal.Print;"));
+    EXPECT_TRUE(lines.contains("UseIn="));
 }
 
 TEST(AnInstallation, FindsTheProgramThatPutsPagesOnThePaper)

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTranslator>
@@ -238,6 +239,27 @@ TEST_F(DamagedBundle, OfAnotherInterfaceVersionIsRefused)
     EXPECT_EQ(refusal(), QString(": made for interface version 99, this dialog has %1").arg(kPDEInterfaceVersion));
 }
 
+TEST_F(DamagedBundle, BuiltAgainstAnotherStandardLibraryOrAnotherQtIsRefusedBeforeItsCodeIsLookedAt)
+{
+    ASSERT_TRUE(QFile::remove(m_path + "/QNKVPageSettings15.so"));
+    const QString info = R"({"executable":"QNKVPageSettings15.so","principalClass":"x","abiVersion":%1%2})";
+    write("Info.json", info.arg(kPDEInterfaceVersion).arg(R"(,"build":"libc++-qt6")").toUtf8());
+    EXPECT_EQ(refusal(), QString(": built for “libc++-qt6”, this dialog is “%1”").arg(host::buildTag()));
+    write("Info.json", info.arg(kPDEInterfaceVersion).arg(QString()).toUtf8());
+    EXPECT_EQ(refusal(), QString(": built for “”, this dialog is “%1”").arg(host::buildTag()));
+}
+
+TEST_F(DamagedBundle, WhoseCodeIsAnotherKindOfPlugInIsRefusedAndNothingOfItRuns)
+{
+    const QDir plugIns(QLibraryInfo::path(QLibraryInfo::PluginsPath));
+    ASSERT_TRUE(QFile::remove(m_path + "/QNKVPageSettings15.so"));
+    ASSERT_TRUE(QFile::copy(plugIns.filePath("imageformats/libqgif.so"), m_path + "/QNKVPageSettings15.so"));
+    EXPECT_EQ(refusal(), ": QNKVPageSettings15.so is not the code of a panel plug-in");
+    QFile maps("/proc/self/maps");
+    ASSERT_TRUE(maps.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(maps.readAll().contains(m_path.toUtf8()));
+}
+
 TEST_F(DamagedBundle, WithoutInfoOrWithBrokenInfoIsRefused)
 {
     write("Info.json", "{");
@@ -282,8 +304,9 @@ TEST_F(DamagedBundle, OfAnotherInterfaceVersionDoesNotStandInTheWayOfOneThatFits
 
 TEST_F(DamagedBundle, OfAnotherPrincipalClassIsNotAccepted)
 {
-    const QString info = R"({"executable":"QNKVPageSettings15.so","principalClass":"Another","abiVersion":%1})";
-    write("Info.json", info.arg(kPDEInterfaceVersion).toUtf8());
+    const QString info =
+        R"({"executable":"QNKVPageSettings15.so","principalClass":"Another","abiVersion":%1,"build":"%2"})";
+    write("Info.json", info.arg(QString::number(kPDEInterfaceVersion), host::buildTag()).toUtf8());
     openCopy();
     EXPECT_FALSE(reply()["accepted"].toBool(true));
     EXPECT_EQ(reply()["panels"], QJsonValue(QJsonArray()));

@@ -295,10 +295,11 @@ protected:
         ASSERT_TRUE(QDir().mkdir(m_path) && QFile::copy(QN_LAST_WORDS, m_path + "/LastWords.so"));
         QFile info(m_path + "/Info.json");
         ASSERT_TRUE(info.open(QIODevice::WriteOnly));
-        info.write(
-            QJsonDocument(
-                {{"executable", "LastWords.so"}, {"principalClass", "LastWords"}, {"abiVersion", kPDEInterfaceVersion}})
-                .toJson());
+        info.write(QJsonDocument({{"executable", "LastWords.so"},
+                                  {"principalClass", "LastWords"},
+                                  {"abiVersion", kPDEInterfaceVersion},
+                                  {"build", host::buildTag()}})
+                       .toJson());
         info.close();
         host::DialogSession::Parameters parameters;
         parameters.ppdPath = PPDText().standardOption("QnMedia").file();
