@@ -4,6 +4,7 @@
 #include "Usage.h"
 
 #include "Dialog/PrintRequest.h"
+#include "Script/Script.h"
 #include "Session/Environment.h"
 
 #include "Foundation/Or.h"
@@ -23,6 +24,8 @@ struct CommandLine
     QString panel;      // to show first; empty: the first one
     int page = 1;       // of a preview
     bool plain = false; // a preview in grey
+    QString compared;   // an earlier picture of the window; empty: none
+    ScriptFiles script;
     Environment environment;
 };
 
