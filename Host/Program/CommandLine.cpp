@@ -101,12 +101,29 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser, Face face)
     return request;
 }
 
+struct OwnOption
+{
+    const char *word;
+    Face face;
+};
+constexpr std::array kOwnOptions{
+    OwnOption{"page", Face::preview},  OwnOption{"plain", Face::preview}, OwnOption{"record", Face::script},
+    OwnOption{"expect", Face::script}, OwnOption{"compare", Face::shot},
+};
+
+/// Options that one face alone has.
+Or<void> checkOwnOptions(const QCommandLineParser &parser, Face face)
+{
+    for (const auto &[word, owner] : kOwnOptions)
+        if (parser.isSet(word) && face != owner)
+            return Problem{
+                QString("--%1 goes with %2 only").arg(word, std::ranges::find(kFaceRows, owner, &FaceRow::face)->word)};
+    return {};
+}
+
 /// Which page of a preview, and whether in grey.
 Or<void> readPreview(const QCommandLineParser &parser, CommandLine &line)
 {
-    for (const char *option : {"page", "plain"})
-        if (parser.isSet(option) && line.face != Face::preview)
-            return Problem{QString("--%1 goes with preview only").arg(option)};
     if (parser.isSet("raw") && line.face == Face::preview)
         return Problem{"preview and --raw do not go together"};
     bool isNumber = false;
@@ -219,6 +236,8 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
     auto environment = readEnvironment(parser);
     if (!environment)
         return environment.problem();
+    if (const auto owned = checkOwnOptions(parser, line.face); !owned)
+        return owned.problem();
     if (const auto preview = readPreview(parser, line); !preview)
         return preview.problem();
     if (const auto portal = readPortal(parser, line); !portal)
@@ -228,6 +247,8 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
         return settings.problem();
     line.files = parser.positionalArguments();
     line.panel = parser.value("panel");
+    line.compared = parser.value("compare");
+    line.script = {parser.value("record"), parser.value("expect")};
     line.environment = *std::move(environment);
     line.request = *std::move(request);
     line.request.language = parser.isSet("language") ? parser.value("language") : line.environment.locale.name();

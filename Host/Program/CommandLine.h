@@ -4,6 +4,7 @@
 #include "Usage.h"
 
 #include "Dialog/PrintRequest.h"
+#include "Script/Script.h"
 #include "Session/Environment.h"
 
 #include "Foundation/Or.h"
@@ -28,6 +29,8 @@ struct CommandLine
     bool plain = false; // a preview in grey
     PortalCommand portal = PortalCommand::serve;
     QString printSettings; // a file; empty: none
+    QString compared;      // an earlier picture of the window; empty: none
+    ScriptFiles script;
     Environment environment;
 };
 

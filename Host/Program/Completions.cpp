@@ -95,6 +95,10 @@ _qnprint()
             compopt -o filenames
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             ;;
+        %file%)
+            compopt -o filenames
+            mapfile -t COMPREPLY < <(compgen -f -- "$word")
+            ;;
         %nothing%) ;;
         *)
             if [[ $word == -* ]]; then
@@ -155,6 +159,7 @@ QString bashText()
     text.replace("%queue%", pattern(Completion::queue));
     text.replace("%ppd%", pattern(Completion::ppdFile));
     text.replace("%folder%", pattern(Completion::folder));
+    text.replace("%file%", pattern(Completion::file));
     text.replace("%nothing%", pattern(Completion::nothing));
     text.replace("%options%", allWords().join(' '));
     return text.replace("%faces%", faceWords().join(' '));
@@ -179,6 +184,7 @@ QString zshAction(Completion completion)
     case Completion::queue: return "_qnprint_queues";
     case Completion::ppdFile: return "_files -g \"*.ppd\"";
     case Completion::folder: return "_files -/";
+    case Completion::file: return "_files";
     case Completion::nothing: break;
     }
     return " ";
@@ -216,15 +222,17 @@ QString zshText()
 
 QString fishQuoted(QString text) { return '\'' + text.replace('\\', "\\\\").replace('\'', "\\'") + '\''; }
 
+/// A value, and no file by itself but where one is meant.
 QString fishAction(Completion completion)
 {
     switch (completion) {
-    case Completion::queue: return " -a '(lpstat -e 2>/dev/null)'";
-    case Completion::ppdFile: return " -a '(__qnprint_ppd_files)'";
-    case Completion::folder: return " -a '(__fish_complete_directories)'";
+    case Completion::queue: return " -x -a '(lpstat -e 2>/dev/null)'";
+    case Completion::ppdFile: return " -x -a '(__qnprint_ppd_files)'";
+    case Completion::folder: return " -x -a '(__fish_complete_directories)'";
+    case Completion::file: return " -r -F";
     case Completion::nothing: break;
     }
-    return {};
+    return " -x";
 }
 
 QString fishOption(const OptionRow &row)
@@ -235,7 +243,7 @@ QString fishOption(const OptionRow &row)
     if (row.word)
         line += QStringLiteral(" -l %1").arg(row.word);
     if (row.value)
-        line += " -x" + fishAction(row.completion); // a value, and no file by itself
+        line += fishAction(row.completion);
     return line + " -d " + fishQuoted(row.description);
 }
 

@@ -3,11 +3,14 @@
 
 #include "Cups/Conversation.h"
 #include "Interrupts.h"
+#include "PictureDifferences.h"
 #include "Window/DialogWindow.h"
 #include "Window/Notification.h"
 #include "Window/WindowTexts.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QImageReader>
 
 namespace host {
 
@@ -85,11 +88,65 @@ int openDialog(const CommandLine &line)
     return window.exec() == QDialog::Accepted ? kDone : withoutJob;
 }
 
+namespace {
+
+/// Null when there is nothing to compare with.
+foundation::Or<QImage> earlierPicture(const QString &path)
+{
+    if (path.isEmpty())
+        return QImage();
+    QImageReader reader(path);
+    QImage picture = reader.read();
+    if (picture.isNull())
+        return foundation::Problem{QString("%1: %2").arg(path, reader.errorString())};
+    return picture;
+}
+
+int write(const QImage &picture, const QString &path)
+{
+    if (picture.save(path))
+        return kDone;
+    complain(QString("%1: can't be written").arg(path));
+    return kRefused;
+}
+
+/// "panel-differences.png" beside "panel.png".
+QString besidePicture(const QString &path)
+{
+    return path.first(path.lastIndexOf('/') + 1) + QFileInfo(path).completeBaseName() + "-differences.png";
+}
+
+/// The picture takes its place whatever the earlier one is: it may be the one to compare with from then on.
+int keepPicture(const QImage &picture, const QImage &earlier, const CommandLine &line)
+{
+    const QString &path = line.files.last();
+    if (const int status = write(picture, path); status != kDone || earlier.isNull())
+        return status;
+    const PictureDifferences differences(earlier, picture);
+    if (differences.dots() == 0)
+        return kDone;
+    const QRect within = differences.within();
+    const QString beside = besidePicture(path);
+    complain(QString("%1: %2 dots differ from %3, within %4 x %5 at %6, %7; %8 has them in red")
+                 .arg(path, QString::number(differences.dots()), line.compared, QString::number(within.width()),
+                      QString::number(within.height()), QString::number(within.x()), QString::number(within.y()),
+                      beside));
+    write(differences.picture(), beside);
+    return kRefused;
+}
+
+} // namespace
+
 int takeShot(const CommandLine &line)
 {
     if (line.request.ppd.isEmpty() || line.files.isEmpty() || line.files.size() > 2) {
         complain("shot: needs --ppd FILE and the name of one picture, with a document before it or without");
         return kWrongUse;
+    }
+    const auto earlier = earlierPicture(line.compared);
+    if (!earlier) {
+        complain(earlier.problem().sentence);
+        return kRefused;
     }
     useWindowTexts(line.request.language);
     const QStringList documents = line.files.first(line.files.size() - 1);
@@ -113,10 +170,7 @@ int takeShot(const CommandLine &line)
     while (!window.isComplete())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::processEvents(); // what has come last takes its place
-    if (window.grab().save(line.files.last()))
-        return kDone;
-    complain(QString("%1: can't be written").arg(line.files.last()));
-    return kRefused;
+    return keepPicture(window.grab().toImage(), *earlier, line);
 }
 
 } // namespace host

@@ -14,7 +14,7 @@ inline constexpr int kWrongUse = 2;
 enum class Face { window, batch, script, shot, preview, portal, help, version };
 
 /// What a shell offers for a value.
-enum class Completion { nothing, ppdFile, folder, queue };
+enum class Completion { nothing, file, ppdFile, folder, queue };
 
 // Texts that a row does not have are null.
 
@@ -63,12 +63,23 @@ inline constexpr std::array kOptionRows{
     OptionRow{
         nullptr, "print-settings", "file", nullptr, "Begin with what an application has written down.",
         "The file is one of GTK's print settings, as its preview command gets it. It and the document go when they "
-        "have been read, where they are temporary files of GTK's."},
+        "have been read, where they are temporary files of GTK's.",
+        Completion::file},
     OptionRow{nullptr, "enable", nullptr, nullptr, "Make qnprint the print dialog of this user's applications.",
               "Goes with portal only. Says what it has written, and what has to be started again."},
     OptionRow{nullptr, "disable", nullptr, nullptr, "Take that back.", "Goes with portal only."},
     OptionRow{nullptr, "status", nullptr, nullptr, "Tell whether applications print with qnprint.",
               "Goes with portal only."},
+    OptionRow{nullptr, "record", "file", nullptr, "Write the replies of a script into a file as well.",
+              "The file is replaced when the script has ended. Goes with script only.", Completion::file},
+    OptionRow{nullptr, "expect", "file", nullptr, "Compare the replies of a script with recorded ones.",
+              "What differs is shown on standard error as a unified diff of the replies, each written out over several "
+              "lines behind its number; blank lines and lines that begin with # do not count. Goes with script only.",
+              Completion::file},
+    OptionRow{nullptr, "compare", "picture", nullptr, "Compare the picture of a window with an earlier one.",
+              "Where they differ, the dots that do are red in another picture beside the new one: for panel.png it is "
+              "panel-differences.png. Fonts and styles of another machine differ as well. Goes with shot only.",
+              Completion::file},
     OptionRow{nullptr, "panel", "panel", nullptr, "Panel to show first, by its identifier.",
               "Does not go together with --no-dialog."},
     OptionRow{nullptr, "language", "language", nullptr, "Language of the panels.",
@@ -92,7 +103,7 @@ struct FaceRow
 inline constexpr std::array kFaceRows{
     FaceRow{Face::script, "script", "script", "Drives the dialog with lines of JSON, without a display.",
             "Reads a request a line from standard input, and writes a reply each. It is for makers of drivers, who see "
-            "how their PPD behaves."},
+            "how their PPD behaves, and with --record and --expect keep it so."},
     FaceRow{Face::shot, "shot", "shot --ppd file [options] [document] picture",
             "Takes a picture of the window, without a display.",
             "With a document the window shows the preview of its first page. The ending of the picture's name tells "
@@ -114,7 +125,9 @@ struct ExitRow
 };
 inline constexpr std::array kExitRows{
     ExitRow{kDone, "Done: every job was sent, or its document and ticket are in the folder."},
-    ExitRow{kRefused, "Refused, cancelled or failed. Of several documents, those before may have been printed."},
+    ExitRow{kRefused,
+            "Refused, cancelled or failed. Of several documents, those before may have been printed. What was "
+            "to be compared differs."},
     ExitRow{kWrongUse, "Wrong use: the command line can't be read, or qnprint script met a line that was no known "
                        "request."},
 };
@@ -158,6 +171,7 @@ inline constexpr std::array kExampleRows{
     TermRow{"qnprint preview -d counter -o QnHalftonePattern=Dither --page 2 invoice.pdf page.png",
             "Shows what page 2 will look like."},
     TermRow{"qnprint shot --ppd printer.ppd --panel advanced panel.png", "Takes a picture of a panel."},
+    TermRow{"qnprint script --expect panel.replies <panel.jsonl", "Tells whether panels still do what they did."},
 };
 
 inline constexpr auto kPurpose = "print dialog with the printer's own panels";

@@ -31,13 +31,19 @@ int tell(const QString &text)
     return host::kDone;
 }
 
+int driveByScript(const host::CommandLine &line, const QStringList &argumentsOfQt)
+{
+    const host::Application application(Face::script, argumentsOfQt);
+    const auto ended = host::runScript(line.script);
+    if (ended)
+        return *ended;
+    host::complain(ended.problem().sentence);
+    return host::kRefused;
+}
+
 /// The command line is read before there is an application: wrong use is told without a display as well.
 int run(Face face, const host::Arguments &arguments, int argc, char *argv[])
 {
-    if (face == Face::script) {
-        const host::Application application(face, arguments.ofQt);
-        return host::runScript();
-    }
     const auto line = host::readCommandLine(arguments.ours);
     if (!line) {
         host::complain(line.problem().sentence);
@@ -47,6 +53,8 @@ int run(Face face, const host::Arguments &arguments, int argc, char *argv[])
         const QCoreApplication application(argc, argv); // nothing to be seen, and little memory
         return host::runPortal(*line);
     }
+    if (face == Face::script)
+        return driveByScript(*line, arguments.ofQt);
     if (face != Face::shot && line->request.ppd.isEmpty())
         host::prepareConversation(); // starts while the application does
     const host::Application application(face, arguments.ofQt);

@@ -2,6 +2,7 @@
 #include "Script.h"
 
 #include "ControlState.h"
+#include "RecordedReplies.h"
 
 #include "Session/Environment.h"
 
@@ -396,18 +397,42 @@ QJsonObject Script::close(const ScriptRequest &)
     return {};
 }
 
-int runScript()
+namespace {
+
+/// Whether every line was a known request.
+bool answerLines(RecordedReplies &replies)
 {
     // A run must not meet the user's own values, nor another run's.
     const QTemporaryDir directory;
     const foundation::ScopedDefaults defaults(directory.filePath("defaults.ini"));
     Script script;
     for (std::string line; std::getline(std::cin, line);) {
-        if (const auto reply = script.reply(QByteArray::fromStdString(line)))
+        if (const auto reply = script.reply(QByteArray::fromStdString(line))) {
             std::cout << reply->constData() << '\n' << std::flush; // flushed: somebody waits for it
+            replies.add(*reply);
+        }
         QCoreApplication::processEvents();
     }
-    return script.allLinesKnown() ? 0 : 2;
+    return script.allLinesKnown();
+}
+
+} // namespace
+
+foundation::Or<int> runScript(const ScriptFiles &files)
+{
+    constexpr int kDifferent = 1;
+    constexpr int kUnknownLine = 2;
+    auto replies = RecordedReplies::open(files.record, files.expect);
+    if (!replies)
+        return replies.problem();
+    const bool allLinesKnown = answerLines(**replies);
+    if (const auto written = (*replies)->write(); !written)
+        return written.problem();
+    const QByteArray differences = (*replies)->differences();
+    std::cerr << differences.constData() << std::flush;
+    if (!allLinesKnown)
+        return kUnknownLine;
+    return differences.isEmpty() ? 0 : kDifferent;
 }
 
 } // namespace host

@@ -70,7 +70,15 @@ private:
     std::unique_ptr<DialogSession> m_session; // goes first: its end may still mark and alert
 };
 
-/// Runs a script from standard input to standard output. Exit status 0, or 2 when a line was no known request.
-int runScript();
+/// What a run is kept in and compared with; empty: not at all.
+struct ScriptFiles
+{
+    QString record; // receives the replies
+    QString expect; // has those that are to come
+};
+
+/// Runs a script from standard input to standard output. Exit status 0; 1 when replies are others than expected, which
+/// standard error shows; 2 when a line was no known request. A problem when a file can't be read or written.
+foundation::Or<int> runScript(const ScriptFiles &files);
 
 } // namespace host

@@ -280,6 +280,7 @@ TEST_F(Fish, CompletesWhatIsMeant)
     EXPECT_EQ(offers("qnprint -n "), QStringList());
     EXPECT_EQ(offers("qnprint -o "), QStringList());
     EXPECT_EQ(offers("qnprint --panel "), QStringList());
+    EXPECT_EQ(offers("qnprint script --expect ou"), QStringList({"out folder/", "outline.txt"}));
     EXPECT_EQ(offers("qnprint --no-dialog ti"), QStringList{"ticket.pdf"});
     EXPECT_EQ(offers("qnprint s"), QStringList({"script", "shot"}));
     EXPECT_EQ(offers("qnprint p"), (QStringList{"portal", "preview"}));
