@@ -26,8 +26,8 @@ public:
     /// Whether there is a program to read pages.
     static bool isThere();
 
-    /// The size of each page in points, as it is looked at. A problem when the document is damaged, locked, or of too
-    /// many pages, and when there is no program to read it.
+    /// The size of each page in points, as it is looked at. A problem when the document is damaged, locked (of that
+    /// kind), or of too many pages, and when there is no program to read it.
     foundation::Or<std::vector<QSizeF>> sizes(const std::stop_token &stop) const;
 
     /// A page, from 1 on, in so many dots, as a QImage::Format_Grayscale8. A problem when it can't be drawn, or not in

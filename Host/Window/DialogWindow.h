@@ -4,6 +4,7 @@
 #include "PaperChooser.h"
 
 #include "Dialog/DocumentCheck.h"
+#include "Dialog/DocumentLock.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -83,6 +84,7 @@ private:
     void restoreTabOrder();
     void chooseFiles();
     void askForCredentials(const QString &sentence);
+    void askForPassword(const QString &sentence);
     void askForPresetName();
     void askToDeletePreset();
 
@@ -90,6 +92,7 @@ private:
     std::unique_ptr<Ui::DialogWindow> m_ui;
     PaperChooser *m_paper;
     std::unique_ptr<DocumentCheck> m_check; // once the window is there
+    std::unique_ptr<DocumentLock> m_lock;   // as well
     QLabel *m_ofPages = nullptr;            // made when they are known
     QPushButton *m_remedy = nullptr;        // made when there is one
     QVBoxLayout *m_beside = nullptr;        // what stands beside the settings; each made when it is first seen
