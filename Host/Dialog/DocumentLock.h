@@ -1,5 +1,5 @@
-// A document that is locked with a password: the password is asked for, and the document that it opens takes the place of
-// the locked one.
+// A document that is locked with a password: the password is asked for, and the document that it opens takes the place
+// of the locked one.
 #pragma once
 
 #include "BackgroundWork.h"
