@@ -91,8 +91,12 @@ void DocumentCheck::end(const std::shared_ptr<Document> &document, Or<std::vecto
     if (document != m_document)
         return; // another one has been chosen since
     m_isReading = false;
-    if (!sizes)
-        return m_dialog.say(About::document, sizes.problem().sentence);
+    if (!sizes) {
+        m_dialog.say(About::document, sizes.problem().sentence);
+        if (sizes.problem().kind == foundation::Problem::Kind::locked)
+            Q_EMIT locked(sizes.problem().sentence);
+        return;
+    }
     m_sizes = *std::move(sizes);
     compare();
 }

@@ -33,6 +33,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// The document can't be read without a password.
+    void locked(const QString &sentence);
 
 private:
     void begin();

@@ -54,12 +54,12 @@ PrintDialog::PrintDialog(PrintRequest request, std::shared_ptr<Document> documen
     if (document)
         m_documents.push_back(std::move(document));
     connect(m_finder, &PrinterFinder::found, this,
-            [this](const auto &queue) { whenFree([this, queue] { finderFound(std::move(*queue)); }); });
+            [this](const auto &queue) { whenFound([this, queue] { finderFound(std::move(*queue)); }); });
     connect(m_finder, &PrinterFinder::failed, this,
-            [this](const Problem &problem) { whenFree([this, problem] { finderFailed(problem); }); });
+            [this](const Problem &problem) { whenFound([this, problem] { finderFailed(problem); }); });
     connect(m_finder, &PrinterFinder::foundAll, this, &PrintDialog::finderFoundAll);
     connect(m_finder, &PrinterFinder::failedAll, this,
-            [this](const Problem &problem) { whenFree([this, problem] { finderFailedAll(problem); }); });
+            [this](const Problem &problem) { whenFound([this, problem] { finderFailedAll(problem); }); });
 }
 
 PrintDialog::~PrintDialog() = default;
@@ -188,7 +188,7 @@ void PrintDialog::look(const QueueName &name, const OptionValues &carried)
     m_asksServer = true;
     m_wanted = name;
     m_carried = carried;
-    m_waiting.clear(); // answers to an earlier search
+    ++m_searches;
     if (!name.queue.isEmpty())
         m_chosenPrinter = name.queue;
     say(About::printer, tr("Looking for the printer…"));
@@ -266,7 +266,7 @@ void PrintDialog::offerPrinters(std::vector<QueueEntry> printers, const QString 
 
 void PrintDialog::use(std::unique_ptr<PrintTarget> target)
 {
-    whenFree([this, shared = std::make_shared<std::unique_ptr<PrintTarget>>(std::move(target))] {
+    whenFound([this, shared = std::make_shared<std::unique_ptr<PrintTarget>>(std::move(target))] {
         adopt(std::move(*shared));
     });
 }
@@ -440,6 +440,16 @@ void PrintDialog::chooseDocuments(const QStringList &paths)
     Q_EMIT documentsChanged();
 }
 
+void PrintDialog::exchange(const std::shared_ptr<Document> &document, const std::shared_ptr<Document> &other)
+{
+    const auto found = std::ranges::find(m_documents, document);
+    if (found == m_documents.end())
+        return;
+    *found = other;
+    say(About::document, {});
+    Q_EMIT documentsChanged();
+}
+
 void PrintDialog::print()
 {
     if (m_state != State::ready)
@@ -581,6 +591,15 @@ void PrintDialog::whenFree(std::function<void()> act)
 {
     m_waiting.push_back(std::move(act));
     doWaiting();
+}
+
+/// The answer to a search, unless there is another one by then.
+void PrintDialog::whenFound(std::function<void()> act)
+{
+    whenFree([this, search = m_searches, act = std::move(act)] {
+        if (search == m_searches)
+            act();
+    });
 }
 
 void PrintDialog::doWaiting()

@@ -46,6 +46,8 @@ public:
     const Amount &amount() const { return m_amount; }
     /// What is still to be printed, in order, each as a job of its own.
     const std::vector<std::shared_ptr<Document>> &documents() const { return m_documents; }
+    /// Whether they are sent as they are.
+    bool isRaw() const { return m_request.raw; }
     /// What will come out, in the words of a person: printer, paper, copies, pages, and what differs from the defaults.
     std::vector<SummaryRow> summary() const;
     /// Whether the document comes later: there is none here, and printing ends with `prepared`.
@@ -81,6 +83,8 @@ public:
     /// Takes other documents in place of those that there are; those that can't be printed are named, and left out.
     /// Those that there are stay when none can.
     void chooseDocuments(const QStringList &paths);
+    /// Takes one document in another's place; nothing when that is not there any more.
+    void exchange(const std::shared_ptr<Document> &document, const std::shared_ptr<Document> &other);
     void print();
     /// Answers `credentialsWanted`, and does once more what they were wanted for.
     void giveCredentials(const Credentials &credentials);
@@ -97,6 +101,8 @@ public:
     // While a box is open over the dialog, answers from elsewhere wait: code of a panel may stand on the target.
     void hold();
     void release();
+    /// Does something as soon as no box is open over the dialog and no job is on its way; now, if that is so.
+    void whenFree(std::function<void()> act);
 
 Q_SIGNALS:
     void stateChanged();
@@ -149,7 +155,7 @@ private:
     void settle();
     void finish(const foundation::Or<QString> &sent);
     void fail(const foundation::Problem &problem);
-    void whenFree(std::function<void()> act);
+    void whenFound(std::function<void()> act);
     void doWaiting();
     bool isFree() const { return m_holds == 0 && m_state != State::sending; }
 
@@ -166,6 +172,7 @@ private:
     foundation::Problem m_problem;
 
     QueueName m_wanted;
+    int m_searches = 0;
     OptionValues m_carried; // choices to take over into the printer that is looked for
     std::vector<QueueEntry> m_printers;
     QString m_chosenPrinter;

@@ -62,8 +62,9 @@ Or<std::shared_ptr<Document>> ArrangedPages::of(const Document &document, const 
     auto file = foundation::openUnnamedFile();
     if (!file)
         return Problem{tr("%1: its pages can't be kept: %2").arg(document.title(), file.problem().sentence)};
-    ConfinedProgram arranging(program, wordsOf(sheet, scaling, ranges), pathOfDescriptor(document.descriptor()),
-                              pathOfDescriptor((*file)->handle()), kAllowance);
+    ConfinedProgram arranging(program, wordsOf(sheet, scaling, ranges),
+                              {pathOfDescriptor(document.descriptor()), pathOfDescriptor((*file)->handle())},
+                              kAllowance);
     const bool hasEnded = arranging.output(stop).has_value();
     const auto status = hasEnded ? arranging.status() : std::nullopt;
     if (status != kArranged)

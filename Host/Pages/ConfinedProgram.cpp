@@ -4,6 +4,7 @@
 
 #include <array>
 #include <csignal>
+#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -43,32 +44,25 @@ void confine(const Allowance &allowance, qint64 largestFile)
 
 } // namespace
 
-ConfinedProgram::ConfinedProgram(const QString &path, const QStringList &arguments, const QString &input,
+ConfinedProgram::ConfinedProgram(const QString &path, const QStringList &arguments, const Streams &streams,
                                  const Allowance &allowance)
     : m_allowance(allowance)
 {
-    start(path, arguments, input, 0);
-}
-
-ConfinedProgram::ConfinedProgram(const QString &path, const QStringList &arguments, const QString &input,
-                                 const QString &output, const Allowance &allowance)
-    : m_allowance(allowance)
-{
-    m_process.setStandardOutputFile(output);
-    start(path, arguments, input, allowance.output);
+    if (!streams.output.isEmpty())
+        m_process.setStandardOutputFile(streams.output);
+    m_process.setStandardInputFile(streams.input);
+    const qint64 largestFile = streams.output.isEmpty() ? 0 : allowance.output;
+    m_process.setChildProcessModifier([allowance, largestFile, kept = streams.kept] {
+        confine(allowance, largestFile);
+        ::fcntl(kept, F_SETFD, 0);
+    });
+    m_process.start(path, arguments, QIODevice::ReadOnly);
 }
 
 ConfinedProgram::~ConfinedProgram()
 {
     m_process.kill();
     m_process.waitForFinished();
-}
-
-void ConfinedProgram::start(const QString &path, const QStringList &arguments, const QString &input, qint64 largestFile)
-{
-    m_process.setChildProcessModifier([allowance = m_allowance, largestFile] { confine(allowance, largestFile); });
-    m_process.setStandardInputFile(input);
-    m_process.start(path, arguments, QIODevice::ReadOnly);
 }
 
 /// There may be no end of them.

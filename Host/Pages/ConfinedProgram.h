@@ -22,15 +22,19 @@ struct Allowance
 /// What opens a file anew, from its beginning, that is open already.
 inline QString pathOfDescriptor(int descriptor) { return QStringLiteral("/proc/self/fd/%1").arg(descriptor); }
 
+/// What a program reads and writes. What is open already goes by `pathOfDescriptor`.
+struct Streams
+{
+    QString input;       // its standard input
+    QString output = {}; // a file that is there; empty: a pipe, and it writes into no file
+    int kept = -1;       // a descriptor that it shall have as we have it; -1: none
+};
+
 /// Ends with the object, whatever it is doing.
 class ConfinedProgram
 {
 public:
-    /// Starts it with a file as its standard input. What it writes goes into a pipe, and into no file.
-    ConfinedProgram(const QString &path, const QStringList &arguments, const QString &input,
-                    const Allowance &allowance);
-    /// The same, but it writes into a file that is there.
-    ConfinedProgram(const QString &path, const QStringList &arguments, const QString &input, const QString &output,
+    ConfinedProgram(const QString &path, const QStringList &arguments, const Streams &streams,
                     const Allowance &allowance);
     ~ConfinedProgram();
     ConfinedProgram(const ConfinedProgram &) = delete;
@@ -45,7 +49,6 @@ public:
     const QByteArray &complaints() const { return m_complaints; }
 
 private:
-    void start(const QString &path, const QStringList &arguments, const QString &input, qint64 largestFile);
     void readComplaints();
 
     Allowance m_allowance;

@@ -68,16 +68,16 @@ Or<QByteArray> PageReader::answerOf(const QString &program, const QStringList &a
     const QString path = QStandardPaths::findExecutable(program);
     if (path.isEmpty())
         return Problem{tr("Pages can't be shown: %1 is missing (it is part of poppler-utils).").arg(program)};
-    ConfinedProgram helper(path, arguments, m_path, allowance(mostBytes, m_patience));
+    ConfinedProgram helper(path, arguments, {m_path}, allowance(mostBytes, m_patience));
     auto output = helper.output(stop);
     const auto status = helper.status();
     if (!output || !status)
         return Problem{tr("%1: the document takes too long, or too much memory, to be read").arg(m_title)};
     if (status == 0)
         return *std::move(output);
-    return Problem{helper.complaints().contains("Incorrect password")
-                       ? tr("%1: the document is locked with a password").arg(m_title)
-                       : tr("%1: the document is damaged").arg(m_title)};
+    if (helper.complaints().contains("Incorrect password"))
+        return Problem{tr("%1: the document is locked with a password").arg(m_title), Problem::Kind::locked};
+    return Problem{tr("%1: the document is damaged").arg(m_title)};
 }
 
 bool PageReader::isThere() { return !QStandardPaths::findExecutable(kInfo).isEmpty(); }

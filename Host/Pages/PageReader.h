@@ -26,8 +26,8 @@ public:
     /// Whether there is a program to read pages.
     static bool isThere();
 
-    /// The size of each page in points, as it is looked at. A problem when the document is damaged, locked, or of too
-    /// many pages, and when there is no program to read it.
+    /// The size of each page in points, as it is looked at. A problem when the document is damaged, locked (of that
+    /// kind), or of too many pages, and when there is no program to read it.
     foundation::Or<std::vector<QSizeF>> sizes(const std::stop_token &stop) const;
 
     /// What the document calls itself; empty when it does not say, or can't be read.

@@ -1,4 +1,4 @@
-// The box that asks who wants to print.
+// The box that asks for a password.
 #include "CredentialsBox.h"
 
 #include "Foundation/PlainText.h"
@@ -19,8 +19,22 @@ constexpr int kWidthInLetters = 48;
 
 CredentialsBox::CredentialsBox(const QString &sentence, const QString &user, QWidget *parent)
     : QDialog(parent)
-    , m_user(new QLineEdit(user))
-    , m_password(new QLineEdit)
+    , m_user(new QLineEdit(user, this))
+    , m_password(new QLineEdit(this))
+{
+    arrange(sentence, *m_user, tr("&Log In"));
+    (user.isEmpty() ? m_user : m_password)->setFocus();
+}
+
+CredentialsBox::CredentialsBox(const QString &sentence, QWidget *parent)
+    : QDialog(parent)
+    , m_user(nullptr)
+    , m_password(new QLineEdit(this))
+{
+    arrange(sentence, *m_password, tr("&Unlock"));
+}
+
+void CredentialsBox::arrange(const QString &sentence, QLineEdit &needed, const QString &button)
 {
     setWindowTitle(tr("Password"));
     auto *const why = new QLabel(foundation::withoutControls(sentence));
@@ -29,21 +43,21 @@ CredentialsBox::CredentialsBox(const QString &sentence, const QString &user, QWi
     why->setMinimumWidth(kWidthInLetters * fontMetrics().averageCharWidth());
     m_password->setEchoMode(QLineEdit::Password);
     auto *const buttons = new QDialogButtonBox;
-    auto *const go = buttons->addButton(tr("&Log In"), QDialogButtonBox::AcceptRole);
+    auto *const go = buttons->addButton(button, QDialogButtonBox::AcceptRole);
     buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     auto *const form = new QFormLayout(this);
     form->addRow(why);
-    form->addRow(tr("&User name:"), m_user);
+    if (m_user)
+        form->addRow(tr("&User name:"), m_user);
     form->addRow(tr("&Password:"), m_password);
     form->addRow(buttons);
-    const auto check = [this, go] { go->setEnabled(!m_user->text().isEmpty()); };
-    connect(m_user, &QLineEdit::textChanged, this, check);
+    const auto check = [go](const QString &text) { go->setEnabled(!text.isEmpty()); };
+    connect(&needed, &QLineEdit::textChanged, this, check);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    check();
-    (user.isEmpty() ? m_user : m_password)->setFocus();
+    check(needed.text());
 }
 
-Credentials CredentialsBox::credentials() const { return {m_user->text(), m_password->text()}; }
+Credentials CredentialsBox::credentials() const { return {m_user ? m_user->text() : QString(), m_password->text()}; }
 
 } // namespace host

@@ -1,4 +1,4 @@
-// The box that asks who wants to print.
+// The box that asks for a password, and where that matters for who says it.
 #pragma once
 
 #include "Cups/Conversation.h"
@@ -14,12 +14,16 @@ class CredentialsBox : public QDialog
     Q_OBJECT
 
 public:
-    /// `sentence`: why it is asked. `user`: who it probably is.
+    /// For a server. `sentence`: why it is asked. `user`: who it probably is.
     CredentialsBox(const QString &sentence, const QString &user, QWidget *parent);
+    /// For a document, which knows no names.
+    CredentialsBox(const QString &sentence, QWidget *parent);
 
     Credentials credentials() const;
 
 private:
+    void arrange(const QString &sentence, QLineEdit &needed, const QString &button);
+
     QLineEdit *m_user;
     QLineEdit *m_password;
 };

@@ -332,6 +332,9 @@ void DialogWindow::checkDocument()
         return;
     m_check = std::make_unique<DocumentCheck>(m_dialog);
     connect(m_check.get(), &DocumentCheck::changed, this, &DialogWindow::showCheck);
+    m_lock = std::make_unique<DocumentLock>(m_dialog);
+    connect(m_check.get(), &DocumentCheck::locked, m_lock.get(), &DocumentLock::ask);
+    connect(m_lock.get(), &DocumentLock::passwordWanted, this, &DialogWindow::askForPassword);
 }
 
 /// Beside those that are to be printed. All of a single page needs no number.
@@ -620,6 +623,19 @@ void DialogWindow::askForCredentials(const QString &sentence)
         m_user = box->credentials().user;
         m_dialog.giveCredentials(box->credentials());
     });
+    box->open();
+}
+
+/// Of a document. A window that has gone asks nobody.
+void DialogWindow::askForPassword(const QString &sentence)
+{
+    if (!isVisible())
+        return m_lock->leave();
+    auto *const box = new CredentialsBox(sentence, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(box, &QDialog::accepted, m_lock.get(), [this, box] { m_lock->open(box->credentials().password); });
+    connect(box, &QDialog::rejected, m_lock.get(), &DocumentLock::leave);
+    connect(m_lock.get(), &DocumentLock::passwordWantedNoMore, box, &QDialog::reject);
     box->open();
 }
 

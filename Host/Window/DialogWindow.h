@@ -4,6 +4,7 @@
 #include "PaperChooser.h"
 
 #include "Dialog/DocumentCheck.h"
+#include "Dialog/DocumentLock.h"
 
 #include <QDialog>
 #include <QPointer>
@@ -94,6 +95,7 @@ private:
     void restoreTabOrder();
     void chooseFiles();
     void askForCredentials(const QString &sentence);
+    void askForPassword(const QString &sentence);
     void askForPresetName();
     void askToDeletePreset();
 
@@ -101,6 +103,7 @@ private:
     std::unique_ptr<Ui::DialogWindow> m_ui;
     PaperChooser *m_paper;
     std::unique_ptr<DocumentCheck> m_check; // once the window is there
+    std::unique_ptr<DocumentLock> m_lock;   // as well
     QLabel *m_ofPages = nullptr;            // made when they are known
     QPushButton *m_remedy = nullptr;        // made when there is one
     QCheckBox *m_look = nullptr;            // made for an application

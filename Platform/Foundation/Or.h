@@ -20,6 +20,7 @@ struct Problem
         noAccess,   // the server wants to know who asks, or does not take them for whom they say; nothing was done
         noChoice,   // nobody has said which one, and there is none to be taken for it
         unanswered, // the server was asked and has not answered: it may have been done
+        locked,     // the document wants a password, or another one
     };
 
     QString sentence;

@@ -165,6 +165,10 @@
         <source>&amp;Password:</source>
         <translation>&amp;Passwort:</translation>
     </message>
+    <message>
+        <source>&amp;Unlock</source>
+        <translation>&amp;Entsperren</translation>
+    </message>
 </context>
 <context>
     <name>host::CupsSink</name>
@@ -390,6 +394,17 @@
     <message>
         <source>Fit to Paper</source>
         <translation>An Papier anpassen</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentLock</name>
+    <message>
+        <source>%1; qpdf, which unlocks it, is missing</source>
+        <translation>%1; es fehlt qpdf, das es entsperrt</translation>
+    </message>
+    <message>
+        <source>%1: stays locked; no password was right</source>
+        <translation>%1: bleibt geschützt; kein Passwort war richtig</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1096,21 @@
     <message>
         <source>Summary of the settings</source>
         <translation>Übersicht der Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnlockedDocument</name>
+    <message>
+        <source>%1: can&apos;t be unlocked; it is damaged, or too large</source>
+        <translation>%1: kann nicht entsperrt werden; es ist beschädigt oder zu groß</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be unlocked: %2</source>
+        <translation>%1: kann nicht entsperrt werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: the password is wrong</source>
+        <translation>%1: das Passwort ist falsch</translation>
     </message>
 </context>
 </TS>

@@ -165,6 +165,10 @@
         <source>&amp;Password:</source>
         <translation>&amp;Contraseña:</translation>
     </message>
+    <message>
+        <source>&amp;Unlock</source>
+        <translation>&amp;Desbloquear</translation>
+    </message>
 </context>
 <context>
     <name>host::CupsSink</name>
@@ -390,6 +394,17 @@
     <message>
         <source>Fit to Paper</source>
         <translation>Ajustar al papel</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentLock</name>
+    <message>
+        <source>%1; qpdf, which unlocks it, is missing</source>
+        <translation>%1; falta qpdf, que lo desbloquea</translation>
+    </message>
+    <message>
+        <source>%1: stays locked; no password was right</source>
+        <translation>%1: sigue protegido; ninguna contraseña era la correcta</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1096,21 @@
     <message>
         <source>Summary of the settings</source>
         <translation>Resumen de los ajustes</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnlockedDocument</name>
+    <message>
+        <source>%1: can&apos;t be unlocked; it is damaged, or too large</source>
+        <translation>%1: no se puede desbloquear; está dañado o es demasiado grande</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be unlocked: %2</source>
+        <translation>%1: no se puede desbloquear: %2</translation>
+    </message>
+    <message>
+        <source>%1: the password is wrong</source>
+        <translation>%1: la contraseña no es correcta</translation>
     </message>
 </context>
 </TS>

@@ -165,6 +165,10 @@
         <source>&amp;Password:</source>
         <translation>Mot de &amp;passe :</translation>
     </message>
+    <message>
+        <source>&amp;Unlock</source>
+        <translation>&amp;Déverrouiller</translation>
+    </message>
 </context>
 <context>
     <name>host::CupsSink</name>
@@ -390,6 +394,17 @@
     <message>
         <source>Fit to Paper</source>
         <translation>Adapter au papier</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentLock</name>
+    <message>
+        <source>%1; qpdf, which unlocks it, is missing</source>
+        <translation>%1 ; qpdf, qui le déverrouille, est absent</translation>
+    </message>
+    <message>
+        <source>%1: stays locked; no password was right</source>
+        <translation>%1 : reste protégé ; aucun mot de passe n’était le bon</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1096,21 @@
     <message>
         <source>Summary of the settings</source>
         <translation>Résumé des réglages</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnlockedDocument</name>
+    <message>
+        <source>%1: can&apos;t be unlocked; it is damaged, or too large</source>
+        <translation>%1 : ne peut pas être déverrouillé ; il est endommagé ou trop volumineux</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be unlocked: %2</source>
+        <translation>%1 : ne peut pas être déverrouillé : %2</translation>
+    </message>
+    <message>
+        <source>%1: the password is wrong</source>
+        <translation>%1 : le mot de passe est incorrect</translation>
     </message>
 </context>
 </TS>

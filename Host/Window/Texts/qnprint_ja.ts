@@ -165,6 +165,10 @@
         <source>&amp;Password:</source>
         <translation>パスワード(&amp;P)：</translation>
     </message>
+    <message>
+        <source>&amp;Unlock</source>
+        <translation>ロック解除(&amp;U)</translation>
+    </message>
 </context>
 <context>
     <name>host::CupsSink</name>
@@ -390,6 +394,17 @@
     <message>
         <source>Fit to Paper</source>
         <translation>用紙に合わせる</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentLock</name>
+    <message>
+        <source>%1; qpdf, which unlocks it, is missing</source>
+        <translation>%1。解除に使う qpdf がありません</translation>
+    </message>
+    <message>
+        <source>%1: stays locked; no password was right</source>
+        <translation>%1：保護されたままです。正しいパスワードがありませんでした</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1096,21 @@
     <message>
         <source>Summary of the settings</source>
         <translation>設定の一覧</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnlockedDocument</name>
+    <message>
+        <source>%1: can&apos;t be unlocked; it is damaged, or too large</source>
+        <translation>%1：ロックを解除できません。壊れているか、大きすぎます</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be unlocked: %2</source>
+        <translation>%1：ロックを解除できません：%2</translation>
+    </message>
+    <message>
+        <source>%1: the password is wrong</source>
+        <translation>%1：パスワードが違います</translation>
     </message>
 </context>
 </TS>

@@ -165,6 +165,10 @@
         <source>&amp;Password:</source>
         <translation>密码(&amp;P)：</translation>
     </message>
+    <message>
+        <source>&amp;Unlock</source>
+        <translation>解锁(&amp;U)</translation>
+    </message>
 </context>
 <context>
     <name>host::CupsSink</name>
@@ -390,6 +394,17 @@
     <message>
         <source>Fit to Paper</source>
         <translation>适合纸张</translation>
+    </message>
+</context>
+<context>
+    <name>host::DocumentLock</name>
+    <message>
+        <source>%1; qpdf, which unlocks it, is missing</source>
+        <translation>%1；缺少用于解锁的 qpdf</translation>
+    </message>
+    <message>
+        <source>%1: stays locked; no password was right</source>
+        <translation>%1：仍受保护；密码均不正确</translation>
     </message>
 </context>
 <context>
@@ -1081,6 +1096,21 @@
     <message>
         <source>Summary of the settings</source>
         <translation>设置摘要</translation>
+    </message>
+</context>
+<context>
+    <name>host::UnlockedDocument</name>
+    <message>
+        <source>%1: can&apos;t be unlocked; it is damaged, or too large</source>
+        <translation>%1：无法解锁；文档已损坏或过大</translation>
+    </message>
+    <message>
+        <source>%1: can&apos;t be unlocked: %2</source>
+        <translation>%1：无法解锁：%2</translation>
+    </message>
+    <message>
+        <source>%1: the password is wrong</source>
+        <translation>%1：密码错误</translation>
     </message>
 </context>
 </TS>
