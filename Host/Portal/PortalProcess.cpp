@@ -19,8 +19,6 @@ using namespace std::chrono_literals;
 constexpr auto kFarewell = 2s; // of a dialog that is dismissed
 constexpr qint64 kLongestAnswer = qint64{1} << 20;
 
-QString program; // empty: our own
-
 } // namespace
 
 SharedDescriptor::SharedDescriptor(int descriptor)
@@ -56,8 +54,6 @@ PortalProcess::~PortalProcess()
         m_process->kill();
 }
 
-void PortalProcess::setProgram(const QString &path) { program = path; }
-
 void PortalProcess::start(const char *word, const QJsonObject &request, Input input, const SharedDescriptor &document)
 {
     m_input = input;
@@ -70,7 +66,7 @@ void PortalProcess::start(const char *word, const QJsonObject &request, Input in
         else if (document.number() >= 0)
             ::dup2(document.number(), kDocumentDescriptor);
     });
-    m_process->start(program.isEmpty() ? QCoreApplication::applicationFilePath() : program,
+    m_process->start(QCoreApplication::applicationFilePath(),
                      {QString::fromLatin1(word)});
     m_process->write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
     if (input == Input::isClosed)

@@ -39,9 +39,6 @@ public:
     /// A dialog ends with us, a job does not.
     ~PortalProcess() override;
 
-    /// The program that becomes the process, and what it says first to it; for tests, which are another program.
-    static void setProgram(const QString &path);
-
     void start(const char *word, const QJsonObject &request, Input input, const SharedDescriptor &document = {});
     /// Ends a process whose input stays open: it closes what it shows, or is killed when it does not.
     void dismiss();

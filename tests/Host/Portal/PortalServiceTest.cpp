@@ -215,7 +215,7 @@ protected:
 TEST_F(PortalService, AnswersWhatAPersonHasSettled)
 {
     startService();
-    const auto pending = prepare({{"n-copies", "2"}, {"cups-QnDensity", "DHome"}, {"some-app-key", "kept"}});
+    const auto pending = prepare({{"n-copies", "2"}, {"cups-QnDensity", "D3"}, {"some-app-key", "kept"}});
     ASSERT_TRUE(showsDialog());
     EXPECT_TRUE(shows("dialog", "Print"));
     m_screen.press("alt+p");
@@ -225,6 +225,7 @@ TEST_F(PortalService, AnswersWhatAPersonHasSettled)
     EXPECT_EQ(answer.part("settings")["n-copies"], "1");
     EXPECT_EQ(answer.part("settings")["some-app-key"], "kept");
     EXPECT_EQ(answer.part("settings")["cups-PageSize"], "A4");
+    EXPECT_EQ(answer.part("settings")["cups-QnDensity"], "D3");
     EXPECT_EQ(answer.part("page-setup")["PPDName"], "A4");
     EXPECT_NEAR(answer.part("page-setup")["Width"].toDouble(), 210, 0.1);
     EXPECT_NE(answer.results["token"].toUInt(), 0U);
@@ -790,6 +791,37 @@ TEST_F(HandOver, IsNotOfferedWithoutAnotherDialog)
     EXPECT_FALSE(m_screen.waitFor(
                              "qnprint", [](const Seen &each) { return each.name.contains("Other Printers"); }, 500)
                      .has_value());
+}
+
+TEST_F(PortalService, EndsWithItsBus)
+{
+    support::Helper bus;
+    bus.start("dbus-daemon", {"--session", "--nofork", "--print-address=1"});
+    ASSERT_TRUE(bus.waitForStarted(kMilliseconds) && bus.waitForReadyRead(kMilliseconds));
+    m_environment.insert("DBUS_SESSION_BUS_ADDRESS", QString::fromLatin1(bus.readLine().trimmed()));
+    *m_bus = connect("short-lived");
+    startService();
+    prepare();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return childrenOf(m_service.processId()).size() == 1; }, kMilliseconds));
+    const pid_t dialog = childrenOf(m_service.processId()).first();
+    bus.kill();
+    EXPECT_TRUE(m_service.waitForFinished(kMilliseconds));
+    EXPECT_TRUE(QTest::qWaitFor([dialog] { return ::kill(dialog, 0) != 0; }, kMilliseconds));
+}
+
+TEST_F(PortalService, KeepsItsNumbersFromOneLifeToTheNext)
+{
+    startService();
+    const Answer settled = prepared();
+    m_service.terminate();
+    ASSERT_TRUE(m_service.waitForFinished(kMilliseconds));
+    startService();
+    QFile document(kTicket);
+    ASSERT_TRUE(document.open(QIODevice::ReadOnly));
+    const auto job = print(document.handle(), settled.results["token"]);
+    EXPECT_TRUE(shows("dialog", "Print Invoice 17")); // what was settled is forgotten, and nobody else's is taken for it
+    m_screen.press("Escape");
+    EXPECT_EQ(answerOf(job).response, 1U);
 }
 
 TEST_F(PortalService, EndsWhenNobodyNeedsIt)

@@ -23,7 +23,7 @@ protected:
         ASSERT_TRUE(QDir(m_folder.path()).mkpath("tmp"));
         ASSERT_TRUE(QFile::copy(QN_SOURCE_DIR "/examples/documents/ticket.pdf", path("tmp/previewAB12CD.pdf")));
         write("tmp/settingsAB12CD.ini", "[Print Settings]\nn-copies=2\nprint-pages=ranges\npage-ranges=4-5\n"
-                                        "cups-QnDensity=DHome\ncups-QnSpeed=NoSuch\nprinter=Print to File\n\n"
+                                        "cups-QnDensity=D3\ncups-QnSpeed=NoSuch\nprinter=Print to File\n\n"
                                         "[Page Setup]\nPPDName=A5\nWidth=148\n\n[Print Job]\ntitle=Invoice\\s17\n");
     }
     QString path(const QString &name) const { return m_folder.filePath(name); }
@@ -69,7 +69,7 @@ TEST_F(PrintSettings, AreWhatADialogBeginsWith)
     EXPECT_EQ(ticket()["copies"], 2);
     const QJsonObject options = ticket()["options"].toObject();
     EXPECT_EQ(options["PageSize"], "A5");
-    EXPECT_EQ(options["QnDensity"], "DHome");
+    EXPECT_EQ(options["QnDensity"], "D3");
     EXPECT_FALSE(options.contains("QnSpeed")); // a choice that the printer does not have
 }
 
