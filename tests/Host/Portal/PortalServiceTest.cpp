@@ -805,6 +805,7 @@ TEST_F(PortalService, EndsWithItsBus)
     ASSERT_TRUE(QTest::qWaitFor([this] { return childrenOf(m_service.processId()).size() == 1; }, kMilliseconds));
     const pid_t dialog = childrenOf(m_service.processId()).first();
     bus.kill();
+    EXPECT_TRUE(bus.waitForFinished(kMilliseconds));
     EXPECT_TRUE(m_service.waitForFinished(kMilliseconds));
     EXPECT_TRUE(QTest::qWaitFor([dialog] { return ::kill(dialog, 0) != 0; }, kMilliseconds));
 }
