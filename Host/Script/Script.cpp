@@ -132,6 +132,14 @@ Script::Script()
     })
 {}
 
+QStringList Script::requests()
+{
+    QStringList names;
+    for (const Verb &verb : kVerbs)
+        names.append(verb.name);
+    return names;
+}
+
 std::optional<QByteArray> Script::reply(const QByteArray &line)
 {
     if (line.trimmed().isEmpty() || line.startsWith('#'))

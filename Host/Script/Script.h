@@ -20,6 +20,8 @@ public:
     std::optional<QByteArray> reply(const QByteArray &line);
     /// Whether every line so far was an object with a known `do`.
     bool allLinesKnown() const { return m_allLinesKnown; }
+    /// What `do` may be.
+    static QStringList requests();
 
 private:
     /// Whether code of panels may run in a request: only then its reply tells of marks and alerts.
