@@ -66,8 +66,7 @@ void PortalProcess::start(const char *word, const QJsonObject &request, Input in
         else if (document.number() >= 0)
             ::dup2(document.number(), kDocumentDescriptor);
     });
-    m_process->start(QCoreApplication::applicationFilePath(),
-                     {QString::fromLatin1(word)});
+    m_process->start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(word)});
     m_process->write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
     if (input == Input::isClosed)
         m_process->closeWriteChannel();

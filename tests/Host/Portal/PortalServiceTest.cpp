@@ -820,7 +820,8 @@ TEST_F(PortalService, KeepsItsNumbersFromOneLifeToTheNext)
     QFile document(kTicket);
     ASSERT_TRUE(document.open(QIODevice::ReadOnly));
     const auto job = print(document.handle(), settled.results["token"]);
-    EXPECT_TRUE(shows("dialog", "Print Invoice 17")); // what was settled is forgotten, and nobody else's is taken for it
+    EXPECT_TRUE(
+        shows("dialog", "Print Invoice 17")); // what was settled is forgotten, and nobody else's is taken for it
     m_screen.press("Escape");
     EXPECT_EQ(answerOf(job).response, 1U);
 }
