@@ -153,6 +153,8 @@ inline constexpr std::array kFileRows{
             "lp -d queue/preset prints with it as well."},
     TermRow{"/etc/cups/lpoptions", "Those of the system, for all users. The user's own count for more."},
     TermRow{"~/.config/qnprint/qnprint.conf", "What the dialog and its panels remember."},
+    TermRow{"~/.config/xdg-desktop-portal/portals.conf",
+            "Which dialog applications print with; portal --enable and --disable change the line for printing."},
     TermRow{"~/.cache/qnprint/qnprint/ppd", "PPDs of queues. They are fetched again when the server's have changed."},
 };
 inline constexpr std::array kOutputRows{
