@@ -42,10 +42,10 @@ public:
     /// Takes its name on the bus. A problem when somebody else has it.
     foundation::Or<void> begin();
 
+public Q_SLOTS:
     /// Takes no more calls, ends all dialogs, and is done when the last job has ended by itself.
     void leave();
 
-public Q_SLOTS:
     Q_SCRIPTABLE uint PreparePrint(const QDBusObjectPath &handle, const QString &application,
                                    const QString &parentWindow, const QString &title, const QVariantMap &settings,
                                    const QVariantMap &pageSetup, const QVariantMap &options, QVariantMap &results);
