@@ -132,15 +132,24 @@ std::optional<QString> Screen::start(const QSize &size)
     return desktop ? std::nullopt : std::optional(QString("there is no accessible desktop"));
 }
 
-/// A session bus that nothing but the test is on, and that starts the accessibility bus when it is asked for.
+void Screen::offer(const QMap<QString, QString> &services, const QProcessEnvironment &environment)
+{
+    m_services.insert(services);
+    m_environment = environment;
+}
+
+/// A session bus that nothing but the test is on. It starts the accessibility bus when it is asked for.
 std::optional<QString> Screen::startBus()
 {
-    QFile service(m_folder.filePath("org.a11y.Bus.service"));
+    for (const auto &[name, command] : m_services.asKeyValueRange()) {
+        QFile service(m_folder.filePath(name + ".service"));
+        if (!service.open(QIODevice::WriteOnly))
+            return service.errorString();
+        service.write(QString("[D-BUS Service]\nName=%1\nExec=%2\n").arg(name, command).toUtf8());
+    }
     QFile configuration(m_folder.filePath("session.conf"));
-    if (!service.open(QIODevice::WriteOnly) || !configuration.open(QIODevice::WriteOnly))
+    if (!configuration.open(QIODevice::WriteOnly))
         return configuration.errorString();
-    service.write("[D-BUS Service]\nName=org.a11y.Bus\nExec=/usr/libexec/at-spi-bus-launcher\n");
-    service.close();
     configuration.write(QString("<busconfig><type>session</type><listen>unix:dir=%1</listen><auth>EXTERNAL</auth>"
                                 "<servicedir>%1</servicedir>"
                                 "<policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
@@ -148,7 +157,7 @@ std::optional<QString> Screen::startBus()
                             .arg(m_folder.path())
                             .toUtf8());
     configuration.close();
-    auto environment = QProcessEnvironment::systemEnvironment();
+    auto environment = extended(m_environment);
     for (const char *place : {"XDG_RUNTIME_DIR", "XDG_CACHE_HOME"}) // where the accessibility bus puts its socket
         environment.insert(place, m_folder.path());
     m_bus.setProcessEnvironment(environment);
@@ -162,7 +171,8 @@ std::optional<QString> Screen::startBus()
 QProcessEnvironment Screen::extended(QProcessEnvironment environment) const
 {
     environment.insert("DISPLAY", m_displayName);
-    environment.insert("DBUS_SESSION_BUS_ADDRESS", m_busAddress);
+    if (!m_busAddress.isEmpty())
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", m_busAddress);
     environment.insert("QT_QPA_PLATFORM", "xcb");
     environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     return environment;
@@ -199,12 +209,13 @@ std::optional<Seen> Screen::waitFor(const QString &program, const std::function<
     return std::nullopt;
 }
 
-bool Screen::run(const QString &program, const QStringList &arguments) const
+QByteArray Screen::ask(const QString &program, const QStringList &arguments) const
 {
     QProcess process;
     process.setProcessEnvironment(extended(QProcessEnvironment::systemEnvironment()));
     process.start(program, arguments);
-    return process.waitForFinished(kMilliseconds) && process.exitCode() == 0;
+    const bool isDone = process.waitForFinished(kMilliseconds) && process.exitCode() == 0;
+    return isDone ? process.readAllStandardOutput() : QByteArray();
 }
 
 std::optional<QString> Screen::listen()
@@ -220,14 +231,33 @@ std::optional<QString> Screen::listen()
     return isHeard ? std::nullopt : std::optional(QString("nobody listens to the accessibility bus"));
 }
 
-void Screen::press(const QString &keys) const { run("xdotool", {"key", keys}); }
+void Screen::press(const QString &keys) const { ask("xdotool", {"key", keys}); }
 
-void Screen::type(const QString &text) const { run("xdotool", {"type", "--delay", "20", text}); }
+void Screen::type(const QString &text) const { ask("xdotool", {"type", "--delay", "20", text}); }
 
 void Screen::click(const Seen &seen) const
 {
     const QPoint at = seen.place.center();
-    run("xdotool", {"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "1"});
+    ask("xdotool", {"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "1"});
+}
+
+bool Screen::choose(const QString &program, const std::function<bool(const Seen &)> &isMenu, const QString &item) const
+{
+    constexpr int kTries = 4;
+    const auto isItem = [&](const Seen &each) { return each.role == "list item" && each.name == item; };
+    std::optional<Seen> entry;
+    for (int i = 0; i < kTries && !entry; ++i) {
+        const auto menu = waitFor(program, isMenu);
+        if (!menu)
+            return false;
+        click(*menu);
+        entry = waitFor(program, isItem, kMilliseconds / kTries);
+    }
+    if (!entry)
+        return false;
+    QThread::msleep(600); // the menu takes a second click at once for the first one
+    click(*entry);
+    return true;
 }
 
 } // namespace support

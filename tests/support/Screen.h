@@ -4,6 +4,7 @@
 
 #include "Helper.h"
 
+#include <QMap>
 #include <QRect>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -35,6 +36,10 @@ public:
     Screen(const Screen &) = delete;
     Screen &operator=(const Screen &) = delete;
 
+    /// Programs by their names on the bus, which starts them in this environment when they are asked for. Before the
+    /// start.
+    void offer(const QMap<QString, QString> &services, const QProcessEnvironment &environment);
+
     /// Nil when it stands; otherwise one sentence that says why not.
     std::optional<QString> start(const QSize &size = {1280, 900});
 
@@ -54,11 +59,15 @@ public:
     void press(const QString &keys) const; // "alt+p"
     void type(const QString &text) const;
     void click(const Seen &seen) const;
+    /// Opens a menu and picks an item. A window that has just come still moves, and the menu with it: then it is
+    /// clicked once more, as a person would. False when the item does not come.
+    bool choose(const QString &program, const std::function<bool(const Seen &)> &isMenu, const QString &item) const;
+    /// What a program on this screen says; empty when it fails.
+    QByteArray ask(const QString &program, const QStringList &arguments) const;
 
 private:
     static constexpr int kMilliseconds = 20000;
 
-    bool run(const QString &program, const QStringList &arguments) const;
     std::optional<QString> startBus();
 
     QTemporaryDir m_folder{"/tmp/qnscreen-XXXXXX"};
@@ -68,6 +77,8 @@ private:
     QString m_displayName;
     QString m_busAddress;
     QStringList m_heard;
+    QMap<QString, QString> m_services{{"org.a11y.Bus", "/usr/libexec/at-spi-bus-launcher"}};
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };
 
 } // namespace support

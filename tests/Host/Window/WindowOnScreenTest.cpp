@@ -63,21 +63,6 @@ protected:
         return m_screen.waitFor(
             "qnprint", [&](const Seen &each) { return each.role == role && each.name == name && each.isEnabled; });
     }
-    /// A window that has just come still moves, and the menu with it: then it is clicked once more, as a person would.
-    void chooseByMouse(const std::function<bool(const Seen &)> &isMenu, const QString &item)
-    {
-        const auto isItem = [&](const Seen &each) { return each.role == "list item" && each.name == item; };
-        std::optional<Seen> entry;
-        for (int i = 0; i < kTries && !entry; ++i) {
-            const auto menu = m_screen.waitFor("qnprint", isMenu);
-            ASSERT_TRUE(menu) << item.toStdString();
-            m_screen.click(*menu);
-            entry = m_screen.waitFor("qnprint", isItem, kMilliseconds / kTries);
-        }
-        ASSERT_TRUE(entry) << item.toStdString();
-        QThread::msleep(600); // the menu takes a second click at once for the first one
-        m_screen.click(*entry);
-    }
     /// By keys. The second printer may not be in the menu yet, as it is asked for when the first one stands.
     bool chooseOffice()
     {
@@ -105,9 +90,11 @@ protected:
 
 TEST_F(OnScreen, PrintsWhatAPersonChose)
 {
-    chooseByMouse([](const Seen &each) { return each.label == "Paper:" && each.isEnabled; }, "A4, Roll");
-    chooseByMouse([](const Seen &each) { return each.role == "combo box" && each.name == "Thermal Paper"; },
-                  "Thermal Copy Paper");
+    ASSERT_TRUE(m_screen.choose(
+        "qnprint", [](const Seen &each) { return each.label == "Paper:" && each.isEnabled; }, "A4, Roll"));
+    ASSERT_TRUE(m_screen.choose(
+        "qnprint", [](const Seen &each) { return each.role == "combo box" && each.name == "Thermal Paper"; },
+        "Thermal Copy Paper"));
     ASSERT_TRUE(wait("combo box", "Thermal Copy Paper"));
 
     const auto amount = m_screen.waitFor(
