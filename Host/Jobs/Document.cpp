@@ -21,6 +21,7 @@ namespace {
 
 constexpr qint64 kChunkBytes = 65536;
 constexpr qint64 kSniffBytes = 4096;
+constexpr qint64 kMostKept = qint64{1} << 30; // of standard input, which may have no end
 
 struct Format
 {
@@ -58,15 +59,14 @@ bool isSource(const QByteArray &sample)
     return kBeginning.match(QString::fromLatin1(sample)).hasMatch();
 }
 
-bool copyAll(QFile &from, QFile &to)
+/// How much that was: -1 when it can't be written, and more than is kept when there is no end of it.
+qint64 copyAll(QFile &from, QFile &to)
 {
-    for (;;) {
-        const QByteArray part = from.read(kChunkBytes);
-        if (part.isEmpty())
-            return to.seek(0);
+    qint64 size = 0;
+    for (QByteArray part; size <= kMostKept && !(part = from.read(kChunkBytes)).isEmpty(); size += part.size())
         if (to.write(part) != part.size())
-            return false;
-    }
+            return -1;
+    return to.seek(0) ? size : -1;
 }
 
 } // namespace
@@ -77,7 +77,10 @@ Or<std::unique_ptr<QFile>> Document::copyOfStandardInput()
     if (!copy)
         return Problem{tr("standard input: %1").arg(copy.problem().sentence)};
     QFile input;
-    if (!input.open(STDIN_FILENO, QIODevice::ReadOnly) || !copyAll(input, **copy))
+    const qint64 size = input.open(STDIN_FILENO, QIODevice::ReadOnly) ? copyAll(input, **copy) : -1;
+    if (size > kMostKept)
+        return Problem{tr("standard input: there is too much of it")};
+    if (size < 0)
         return Problem{tr("standard input: %1").arg(foundation::fileErrorText(**copy))};
     return copy;
 }

@@ -307,6 +307,25 @@ TEST_F(Preview, ShowsNothingOfADocumentThatWentInTheMiddleOfItsWork)
     EXPECT_EQ(preview().problem(), "The document's pages will show here.");
 }
 
+TEST_F(Preview, OfAPrinterWithoutADriverIsGreyOnItsPaper)
+{
+    Queue queue;
+    queue.name = "Plain";
+    queue.papers = {{"iso_a6_105x148mm", "A6", {297.64, 419.53}}};
+    m_dialog->use(support::value(targetOfQueue({}, OpenedQueue{queue, nullptr})));
+    unfold();
+    EXPECT_EQ(preview().problem(), "The size of the paper is not known.");
+    m_dialog->choosePaper({"iso_a6_105x148mm", std::nullopt});
+    settle();
+    EXPECT_EQ(preview().problem(), "");
+    EXPECT_EQ(preview().dots(), QSize(839, 1183)); // at 203 dots an inch
+    EXPECT_GT(black(), 0.005);
+    EXPECT_FALSE(pane()->findChild<QCheckBox *>()->isEnabled());
+    press(tool("Each dot of the printer as a pixel of the screen"));
+    settle();
+    EXPECT_EQ(preview().picture().format(), QImage::Format_Grayscale8);
+}
+
 TEST_F(Preview, GoesWithTheWindowInTheMiddleOfItsWork)
 {
     m_dialog->chooseDocuments({documentOf(3)});
