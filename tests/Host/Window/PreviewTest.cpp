@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QScrollBar>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -248,6 +249,29 @@ TEST_F(Preview, ShowsADotAPixelAndScrollsThere)
     QTest::keyClick(view(), Qt::Key_Plus);
     settle();
     EXPECT_EQ(preview().picture().size(), preview().dots());
+}
+
+TEST_F(Preview, ShowsTheNextPageCoarselyWhereItsDotsTakeTheirTime)
+{
+    m_dialog->chooseDocuments({documentOf(3)});
+    unfold();
+    press(tool("Each dot of the printer as a pixel of the screen"));
+    settle();
+    const QByteArray before = qgetenv("PATH");
+    const QDir programs(m_directory.path());
+    QFile painter(programs.filePath("pdftoppm")); // which is never done at the head's resolution
+    ASSERT_TRUE(painter.open(QIODevice::WriteOnly));
+    painter.write("#!/bin/sh\ncase \"$*\" in *'-scale-to-x 1678'*) exec /bin/sleep 1000 ;; esac\nexec " +
+                  QStandardPaths::findExecutable("pdftoppm").toUtf8() + " \"$@\"\n");
+    painter.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    painter.close();
+    qputenv("PATH", programs.path().toUtf8() + ':' + before);
+    press(tool("Next page"));
+    const bool came = QTest::qWaitFor([this] { return black() > 0.15; }, 20000);
+    qputenv("PATH", before);
+    EXPECT_TRUE(came);
+    EXPECT_NEAR(black(), 0.2, 0.01);
+    EXPECT_TRUE(preview().isBusy());
 }
 
 TEST_F(Preview, ShowsTheFeedBelowTheSheetAsLongAsItCounts)
