@@ -135,6 +135,10 @@ QString DocumentCheck::compareSizes()
         if (!isOtherWidth && size.height() <= sheet->size.height + kNoDifference)
             continue;
         m_remedy = remedyFor(page, *sheet);
+        if (size != page) // which of its sides is its width depends on how one holds it
+            return tr("The document is %1 × %2 %3, the paper %4 × %5.", "width, height, unit, width, height")
+                .arg(number(page.width()), number(page.height()), unit(), number(sheet->size.width),
+                     number(sheet->size.height));
         const QString form = isOtherWidth ? tr("The document is %1 %3 wide, the paper %2.")
                                           : tr("The document is %1 %3 long, the paper %2.");
         return form.arg(number(isOtherWidth ? size.width() : size.height()),

@@ -155,7 +155,7 @@ PagePreview::Picture PagePreview::draw(View view, Cache cache, const Post &post,
     if (cache.grey.isNull() || !haveSameSheet(cache.of, view)) {
         cache.grey = {};
         const SheetDots coarse(view.sheet, {view.resolution.across / kCoarse, view.resolution.along / kCoarse});
-        if (const auto first = cache.pages->sheet(view.page, coarse, stop); first && !view.size.isEmpty())
+        if (const auto first = cache.pages->sheet(view.page, coarse, stop))
             post(pictureOf(*first, view));
         auto grey = cache.pages->sheet(view.page, dots, stop);
         if (!grey)

@@ -21,6 +21,7 @@ namespace {
 
 constexpr qint64 kChunkBytes = 65536;
 constexpr qint64 kSniffBytes = 4096;
+constexpr qint64 kMostKept = qint64{1} << 30; // of standard input, which may have no end
 
 struct Format
 {
@@ -58,17 +59,20 @@ bool isSource(const QByteArray &sample)
     return kBeginning.match(QString::fromLatin1(sample)).hasMatch();
 }
 
-/// Null when all is copied; else the one of the files that has failed.
-const QFile *copyAll(QFile &from, QFile &to)
+/// A problem without a name of what it is that can't be copied.
+Or<void> copyAll(QFile &from, QFile &to)
 {
-    for (;;) {
+    for (qint64 size = 0;;) {
         const QByteArray part = from.read(kChunkBytes);
+        size += part.size();
         if (part.isEmpty() && from.error() != QFile::NoError)
-            return &from;
+            return Problem{foundation::fileErrorText(from)};
+        if (size > kMostKept)
+            return Problem{Document::tr("there is too much of it")};
+        if (part.isEmpty() ? !to.seek(0) : to.write(part) != part.size())
+            return Problem{foundation::fileErrorText(to)};
         if (part.isEmpty())
-            return to.seek(0) ? nullptr : &to;
-        if (to.write(part) != part.size())
-            return &to;
+            return {};
     }
 }
 
@@ -80,9 +84,10 @@ Or<std::unique_ptr<QFile>> Document::copyOf(const QString &title, int descriptor
     if (!copy)
         return Problem{QString("%1: %2").arg(title, copy.problem().sentence)};
     QFile input;
-    const QFile *const failed = input.open(descriptor, QIODevice::ReadOnly) ? copyAll(input, **copy) : &input;
-    if (failed)
-        return Problem{QString("%1: %2").arg(title, foundation::fileErrorText(*failed))};
+    if (!input.open(descriptor, QIODevice::ReadOnly))
+        return Problem{QString("%1: %2").arg(title, foundation::fileErrorText(input))};
+    if (const auto copied = copyAll(input, **copy); !copied)
+        return Problem{QString("%1: %2").arg(title, copied.problem().sentence)};
     return copy;
 }
 

@@ -21,6 +21,9 @@ constexpr double kMetresPerInch = printing::kMillimetresPerInch / 1000;
 
 bool isResolution(double dots) { return dots >= kLeastResolution && dots <= kLargestResolution; }
 
+/// Whoever reads a document may say any number of it.
+bool isSide(double dots) { return dots >= 0 && dots <= kMostDots; }
+
 int dotsAt(double points, double resolution)
 {
     return static_cast<int>(std::lround(points / printing::kPointsPerInch * resolution));
@@ -88,7 +91,7 @@ bool SheetDots::areBearable(QSizeF points) const
 {
     const double across = points.width() / printing::kPointsPerInch * m_resolution.across;
     const double along = points.height() / printing::kPointsPerInch * m_resolution.along;
-    return std::max(across, 1.0) * std::max(along, 1.0) <= kMostDots;
+    return isSide(across) && isSide(along) && std::max(across, 1.0) * std::max(along, 1.0) <= kMostDots;
 }
 
 bool SheetDots::isBearable() const

@@ -10,6 +10,7 @@
 #include <QImageReader>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace host {
@@ -22,6 +23,7 @@ namespace {
 constexpr qsizetype kMostBytes = 128 << 20; // of the file
 constexpr int kMostMegabytes = 256;         // of the picture
 constexpr int kMostPages = 1000;
+constexpr double kMostPixels = 36e6;     // A4 at 600 dots an inch; no head has dots for more, and memory would be short
 constexpr double kLowestResolution = 72; // in dots an inch, as those below
 constexpr double kHighestResolution = 1200;
 constexpr double kUsualResolution = 96;
@@ -52,16 +54,25 @@ bool isTooLarge(QSize size)
     return kBytesOfPixel * size.width() * size.height() > qint64(kMostMegabytes) << 20;
 }
 
-/// Transparent parts are paper.
+/// Transparent parts are paper. Painted beneath the image, as a copy would take as much memory again.
 QImage onWhite(QImage image)
 {
     if (!image.hasAlphaChannel())
         return image;
-    QImage page(image.size(), QImage::Format_RGB32);
-    page.fill(Qt::white);
-    QPainter painter(&page);
-    painter.drawImage(QRect({}, image.size()), image);
-    return page;
+    image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+    painter.fillRect(image.rect(), Qt::white);
+    painter.end();
+    image.convertTo(QImage::Format_RGB32);
+    return image;
+}
+
+/// What an image of more pixels is read as: all of it, with fewer.
+QSize bearable(QSize size)
+{
+    const double pixels = double(size.width()) * size.height();
+    return pixels <= kMostPixels ? size : (QSizeF(size) * std::sqrt(kMostPixels / pixels)).toSize();
 }
 
 /// What a file without a resolution says is the screen's, which is no matter of the paper.
@@ -74,36 +85,39 @@ double resolution(int dotsPerMetre, int ofScreen)
     return isBelieved ? found : kUsualResolution;
 }
 
-/// In the units of the pages.
-QSizeF ownSize(const QImage &image, bool isOnItsSide)
+/// In the units of the pages. `size`: as the file has it, in pixels.
+QSizeF ownSize(const QImage &image, QSize size, bool isOnItsSide)
 {
     const QImage unsaid(1, 1, QImage::Format_Mono);
     double across = resolution(image.dotsPerMeterX(), unsaid.dotsPerMeterX());
     double down = resolution(image.dotsPerMeterY(), unsaid.dotsPerMeterY());
     if (isOnItsSide)
         std::swap(across, down); // the picture was turned, what is said of it was not
-    return {image.width() * PDFPages::kUnitsPerInch / across, image.height() * PDFPages::kUnitsPerInch / down};
+    const QSizeF upright = isOnItsSide ? size.transposed() : size;
+    return {upright.width() * PDFPages::kUnitsPerInch / across, upright.height() * PDFPages::kUnitsPerInch / down};
 }
 
-void draw(PDFPages &pages, const QImage &image, bool isOnItsSide)
+void draw(PDFPages &pages, QImage image, QSizeF own)
 {
     const QSizeF area = pages.area();
-    const QSizeF own = ownSize(image, isOnItsSide);
     const double scale = std::min({1.0, area.width() / own.width(), area.height() / own.height()});
     const QSizeF size = own * scale;
     const QPointF corner((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
-    pages.painter().drawImage(QRectF(corner, size), onWhite(image));
+    pages.painter().drawImage(QRectF(corner, size), onWhite(std::move(image)));
 }
 
 Or<void> drawNext(PDFPages &pages, QImageReader &reader, const QString &title)
 {
-    if (isTooLarge(reader.size()))
+    const QSize size = reader.size();
+    if (isTooLarge(size))
         return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(title)};
+    reader.setScaledSize(size == bearable(size) ? QSize() : bearable(size));
     const bool isOnItsSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.isNull())
         return Problem{PDFPages::tr("%1: the image is damaged").arg(title)};
-    draw(pages, image, isOnItsSide);
+    const QSizeF own = ownSize(image, size, isOnItsSide);
+    draw(pages, std::move(image), own);
     return {};
 }
 

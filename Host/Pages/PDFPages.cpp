@@ -6,6 +6,9 @@
 
 #include <QPageLayout>
 
+#include <cerrno>
+#include <unistd.h>
+
 namespace host {
 
 using foundation::Or;
@@ -47,7 +50,15 @@ public:
         open(WriteOnly | Unbuffered);
     }
     bool isSequential() const override { return true; }
-    bool isWhole() const { return m_isWhole; }
+    /// The system's number of what kept it from being written; 0 when all of it is. Qt forgets it over a write that was
+    /// done in part, so one more is tried.
+    int error()
+    {
+        if (m_isWhole && m_file.flush())
+            return 0;
+        const char more = 0;
+        return ::write(m_file.handle(), &more, 1) < 0 ? errno : EIO;
+    }
 
 protected:
     qint64 readData(char *, qint64) override { return -1; }
@@ -100,8 +111,8 @@ bool PDFPages::start(const printing::Paper &size)
 Or<std::shared_ptr<Document>> PDFPages::finish()
 {
     m_painter.end();
-    if (!m_output->isWhole() || !m_file->flush())
-        return Problem{tr("%1: its pages can't be kept: %2").arg(m_title, m_file->errorString())};
+    if (const int error = m_output->error())
+        return Problem{tr("%1: its pages can't be kept: %2").arg(m_title, foundation::systemErrorText(error))};
     return Document::made(m_title, std::move(m_file));
 }
 

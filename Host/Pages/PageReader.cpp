@@ -19,26 +19,12 @@ constexpr int kMostPages = 100'000;
 constexpr qint64 kMostInfoBytes = qint64{100} * kMostPages; // a page takes two short lines
 constexpr auto kInfo = "pdfinfo";
 constexpr auto kPainter = "pdftoppm";
+/// Their standard input by its name: what has none they keep in memory as a whole.
+constexpr auto kDocument = "/proc/self/fd/0";
 
 Allowance allowance(qint64 output, std::chrono::milliseconds patience)
 {
     return {qint64{512} * 1024 * 1024, output, 20, patience};
-}
-
-/// "Page    2 size:  595.28 x 841.89 pts (A4)" and "Page    2 rot:   90", in the order of the pages. Word by word: an
-/// expression would have to be compiled at each start.
-std::vector<QSizeF> readSizes(const QByteArray &info)
-{
-    std::vector<QSizeF> sizes;
-    for (const QByteArray &line : info.split('\n')) {
-        const QList<QByteArray> words = line.simplified().split(' ');
-        if (words.size() >= 7 && words[0] == "Page" && words[2] == "size:" && words[4] == "x" && words[6] == "pts")
-            sizes.emplace_back(words[3].toDouble(), words[5].toDouble());
-        else if (words.size() == 4 && words[0] == "Page" && words[2] == "rot:" && !sizes.empty() &&
-                 words[3].toInt() % 180 != 0)
-            sizes.back().transpose();
-    }
-    return sizes;
 }
 
 /// A portable grey map: "P5", width, height, the level of white, and a byte a dot.
@@ -55,6 +41,22 @@ QImage readGreyMap(const QByteArray &map, QSize dots)
 }
 
 } // namespace
+
+/// "Page    2 size:  595.28 x 841.89 pts (A4)" and "Page    2 rot:   90", in the order of the pages. Word by word: an
+/// expression would have to be compiled at each start.
+std::vector<QSizeF> readPageSizes(const QByteArray &info)
+{
+    std::vector<QSizeF> sizes;
+    for (const QByteArray &line : info.split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        if (words.size() >= 7 && words[0] == "Page" && words[2] == "size:" && words[4] == "x" && words[6] == "pts")
+            sizes.emplace_back(words[3].toDouble(), words[5].toDouble());
+        else if (words.size() == 4 && words[0] == "Page" && words[2] == "rot:" && !sizes.empty() &&
+                 words[3].toInt() % 180 != 0)
+            sizes.back().transpose();
+    }
+    return sizes;
+}
 
 PageReader::PageReader(const Document &document, std::chrono::milliseconds patience)
     : m_title(document.title())
@@ -85,10 +87,10 @@ bool PageReader::isThere() { return !QStandardPaths::findExecutable(kInfo).isEmp
 Or<std::vector<QSizeF>> PageReader::sizes(const std::stop_token &stop) const
 {
     const QString all = QString::number(kMostPages + 1);
-    const auto info = answerOf(kInfo, {"-f", "1", "-l", all, "-"}, kMostInfoBytes, stop);
+    const auto info = answerOf(kInfo, {"-f", "1", "-l", all, kDocument}, kMostInfoBytes, stop);
     if (!info)
         return info.problem();
-    auto sizes = readSizes(*info);
+    auto sizes = readPageSizes(*info);
     if (sizes.empty())
         return Problem{tr("%1: the document has no pages").arg(m_title)};
     if (sizes.size() > kMostPages)
@@ -112,10 +114,11 @@ Or<QImage> PageReader::draw(int page, QSize dots, const std::stop_token &stop) c
     const QString number = QString::number(page);
     // A page that the document turns by itself is measured as it lies in the file: width and height change places.
     for (const QSize &asked : {dots, dots.transposed()}) {
-        const auto map = answerOf(kPainter,
-                                  {"-gray", "-cropbox", "-f", number, "-l", number, "-scale-to-x",
-                                   QString::number(asked.width()), "-scale-to-y", QString::number(asked.height()), "-"},
-                                  qint64{dots.width()} * dots.height() + kHeader, stop);
+        const auto map =
+            answerOf(kPainter,
+                     {"-gray", "-cropbox", "-f", number, "-l", number, "-scale-to-x", QString::number(asked.width()),
+                      "-scale-to-y", QString::number(asked.height()), kDocument},
+                     qint64{dots.width()} * dots.height() + kHeader, stop);
         if (!map)
             return map.problem();
         if (QImage picture = readGreyMap(*map, dots); !picture.isNull())

@@ -13,6 +13,9 @@
 
 namespace host {
 
+/// Of the answer of pdfinfo: the size of each page in points, in their order, as it is looked at.
+std::vector<QSizeF> readPageSizes(const QByteArray &info);
+
 class PageReader
 {
     Q_DECLARE_TR_FUNCTIONS(host::PageReader)

@@ -14,11 +14,9 @@
 
 #include <QJsonDocument>
 
-#include <algorithm>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/mman.h>
-#include <sys/resource.h>
 #include <unistd.h>
 #include <utility>
 
@@ -28,8 +26,6 @@ using foundation::Or;
 using foundation::Problem;
 
 namespace {
-
-constexpr rlim_t kLargestDocument = rlim_t{1} << 30;
 
 PrintRequest requestFor(const JobWish &wish)
 {
@@ -50,11 +46,7 @@ PrintRequest requestFor(const JobWish &wish)
 /// The document, and with it the title of the job: the wished one, its own, or that of whoever wants it printed.
 Or<std::shared_ptr<Document>> receive(JobWish &wish)
 {
-    std::signal(SIGXFSZ, SIG_IGN); // a document without end is told as one that is too large
-    rlimit limit{};
-    ::getrlimit(RLIMIT_FSIZE, &limit);
-    limit.rlim_cur = std::min({limit.rlim_cur, limit.rlim_max, kLargestDocument});
-    ::setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, SIG_IGN); // where files may not grow without end, that is told as everything else
     const QString name =
         wish.title.isEmpty() ? QCoreApplication::translate("host::ForApplications", "Document", "a title") : wish.title;
     ::lseek(kDocumentDescriptor, 0, SEEK_SET); // where it was left by whoever wrote it; a pipe stays where it is

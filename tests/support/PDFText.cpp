@@ -72,6 +72,32 @@ QByteArray PDFText::text() const
 
 QString PDFText::file() const { return fileOf(text(), "pdf"); }
 
+namespace {
+
+/// Forms within forms, so many deep; each draws the one within it so many times.
+PDFText formsWithin(int depth, int times, QSizeF size)
+{
+    PDFText document;
+    QByteArray content = QByteArray("/G gs 0 0 1000 1000 re f ").repeated(times);
+    QByteArray forms;
+    for (int level = 0; level < depth; ++level) {
+        const int form = document.stream(content, "/Type /XObject /Subtype /Form /BBox [0 0 " + number(size.width()) +
+                                                      ' ' + number(size.height()) +
+                                                      "] /Group << /S /Transparency >> "
+                                                      "/Resources << /ExtGState << /G << /ca 0.5 >> >> /XObject << " +
+                                                      forms + " >> >>");
+        forms = "/F " + QByteArray::number(form) + " 0 R";
+        content = QByteArray("/G gs /F Do ").repeated(times);
+    }
+    return document.page(size, content,
+                         "/Resources << /ExtGState << /G << /ca 0.5 >> >> /XObject << " + forms + " >> >>");
+}
+
+} // namespace
+
+PDFText endlessPage() { return formsWithin(12, 10, {300, 400}); }
+PDFText heavyPage() { return formsWithin(98, 1, {595, 842}); }
+
 QString fileOf(const QByteArray &content, const QString &ending)
 {
     static const QTemporaryDir folder("/tmp/qndocuments-XXXXXX"); // whatever a test makes of TMPDIR

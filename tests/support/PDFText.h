@@ -33,6 +33,11 @@ private:
     int m_count = 0;
 };
 
+/// A page that nobody lives to see: ten times ten times ten ... forms within forms.
+PDFText endlessPage();
+/// One that takes more memory than there is: groups within groups, each of them as large as the page.
+PDFText heavyPage();
+
 /// Any file of that content, until the process ends.
 QString fileOf(const QByteArray &content, const QString &ending);
 

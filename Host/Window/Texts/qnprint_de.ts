@@ -362,6 +362,10 @@
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: kann so nicht gedruckt werden; PDF, PostScript, PNG, JPEG, GIF, TIFF und einfacher Text können es</translation>
     </message>
+    <message>
+        <source>there is too much of it</source>
+        <translation>es ist zu viel</translation>
+    </message>
 </context>
 <context>
     <name>host::DocumentCheck</name>
@@ -394,6 +398,11 @@
     <message>
         <source>Fit to Paper</source>
         <translation>An Papier anpassen</translation>
+    </message>
+    <message>
+        <source>The document is %1 × %2 %3, the paper %4 × %5.</source>
+        <comment>width, height, unit, width, height</comment>
+        <translation>Das Dokument ist %1 × %2 %3 groß, das Papier %4 × %5.</translation>
     </message>
 </context>
 <context>

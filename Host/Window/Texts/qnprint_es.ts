@@ -362,6 +362,10 @@
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: no se puede imprimir tal cual; PDF, PostScript, PNG, JPEG, GIF, TIFF y texto sin formato sí</translation>
     </message>
+    <message>
+        <source>there is too much of it</source>
+        <translation>hay demasiado</translation>
+    </message>
 </context>
 <context>
     <name>host::DocumentCheck</name>
@@ -394,6 +398,11 @@
     <message>
         <source>Fit to Paper</source>
         <translation>Ajustar al papel</translation>
+    </message>
+    <message>
+        <source>The document is %1 × %2 %3, the paper %4 × %5.</source>
+        <comment>width, height, unit, width, height</comment>
+        <translation>El documento mide %1 × %2 %3, el papel %4 × %5.</translation>
     </message>
 </context>
 <context>

@@ -362,6 +362,10 @@
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1 : ne peut pas être imprimé tel quel ; PDF, PostScript, PNG, JPEG, GIF, TIFF et texte brut le peuvent</translation>
     </message>
+    <message>
+        <source>there is too much of it</source>
+        <translation>il y en a trop</translation>
+    </message>
 </context>
 <context>
     <name>host::DocumentCheck</name>
@@ -394,6 +398,11 @@
     <message>
         <source>Fit to Paper</source>
         <translation>Adapter au papier</translation>
+    </message>
+    <message>
+        <source>The document is %1 × %2 %3, the paper %4 × %5.</source>
+        <comment>width, height, unit, width, height</comment>
+        <translation>Le document mesure %1 × %2 %3, le papier %4 × %5.</translation>
     </message>
 </context>
 <context>

@@ -362,6 +362,10 @@
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1: このままでは印刷できません。PDF、PostScript、PNG、JPEG、GIF、TIFF、プレーンテキストを印刷できます</translation>
     </message>
+    <message>
+        <source>there is too much of it</source>
+        <translation>量が多すぎます</translation>
+    </message>
 </context>
 <context>
     <name>host::DocumentCheck</name>
@@ -394,6 +398,11 @@
     <message>
         <source>Fit to Paper</source>
         <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>The document is %1 × %2 %3, the paper %4 × %5.</source>
+        <comment>width, height, unit, width, height</comment>
+        <translation>文書は %1 × %2 %3、用紙は %4 × %5 です。</translation>
     </message>
 </context>
 <context>

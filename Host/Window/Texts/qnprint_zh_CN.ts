@@ -362,6 +362,10 @@
         <source>%1: can&apos;t be printed as it is; PDF, PostScript, PNG, JPEG, GIF, TIFF and plain text can</source>
         <translation>%1：无法直接打印；可以打印 PDF、PostScript、PNG、JPEG、GIF、TIFF 和纯文本</translation>
     </message>
+    <message>
+        <source>there is too much of it</source>
+        <translation>内容过多</translation>
+    </message>
 </context>
 <context>
     <name>host::DocumentCheck</name>
@@ -394,6 +398,11 @@
     <message>
         <source>Fit to Paper</source>
         <translation>适合纸张</translation>
+    </message>
+    <message>
+        <source>The document is %1 × %2 %3, the paper %4 × %5.</source>
+        <comment>width, height, unit, width, height</comment>
+        <translation>文档为 %1 × %2 %3，纸张为 %4 × %5。</translation>
     </message>
 </context>
 <context>

@@ -202,6 +202,14 @@ TEST_F(Documents, OfStandardInputThatDoNotFitAreRefused)
     EXPECT_EQ(told, "standard input: File too large");
 }
 
+TEST_F(Documents, OfStandardInputWithoutEndAreRefused)
+{
+    const QString path = file("long.txt", "x");
+    ASSERT_TRUE(QFile::resize(path, (qint64{1} << 30) + 1));
+    const StandardInput input(path);
+    EXPECT_EQ(refusal("-"), "standard input: there is too much of it");
+}
+
 TEST_F(Documents, OfStandardInputThatCannotBeKeptAreRefused)
 {
     const StandardInput input(file("a.txt", "words"));

@@ -216,6 +216,8 @@ TEST_F(BurntSheet, IsBornWhenItFitsIntoMemory)
     for (const printing::Paper &size :
          {printing::Paper{595, 28'346'457}, {0, 842}, {-595, -842}, {1e300, 1e300}, {std::nan(""), 842}})
         EXPECT_FALSE(SheetDots({size, {}}, kResolution).isBearable()) << size.width << " x " << size.height;
+    for (const QSizeF page : {QSizeF(210, -2e12), QSizeF(-2e12, 210), QSizeF(std::nan(""), 210), QSizeF(0.001, 1e12)})
+        EXPECT_FALSE(m_dots.areBearable(page)) << page.width() << " x " << page.height();
 }
 
 } // namespace

@@ -243,6 +243,20 @@ TEST_F(ImagePages, ThatWouldTakeTooMuchMemoryAreRefused)
     EXPECT_EQ(refusal(png(8192, 8192), "wall.png"), "wall.png: the image is damaged"); // it has no pixels
 }
 
+TEST_F(ImagePages, OfMorePixelsThanAnyHeadBurnsKeepTheirSizeOnPaper)
+{
+    QImage large(8000, 6000, QImage::Format_Mono);
+    large.fill(Qt::color0);
+    large.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    large.setDotsPerMeterX(qRound(1200 * kDotsPerMetre));
+    large.setDotsPerMeterY(qRound(1200 * kDotsPerMetre));
+    const PDF result = pdf(file(large), kSheet);
+    expectNear(result.ink(), inTheMiddle(480, 360));
+    const QSize kept = result.image().size();
+    EXPECT_LE(kept.width() * kept.height(), 36'000'000);
+    EXPECT_GE(kept.width() * kept.height(), 35'000'000);
+}
+
 TEST_F(ImagePages, OfFilesThatAreTooLargeAreRefused)
 {
     document(png(10, 10), "vast.png");

@@ -172,6 +172,24 @@ TEST_F(Reading, TakesTenThousandPages)
     EXPECT_TRUE(draw(10000)) << sentence(draw(10000)).toStdString();
 }
 
+TEST_F(Reading, TakesADocumentThatIsLargerThanTheMemoryOfItsPrograms)
+{
+    constexpr qsizetype kSize = 600 << 20;
+    const QString large = support::fileOf("%PDF-1.4\n", "pdf");
+    QByteArray text = PDFText().page({300, 400}).text();
+    for (qsizetype place = text.indexOf(" 00000 n"); place >= 0; place = text.indexOf(" 00000 n", place + 1))
+        text.replace(place - 10, 10,
+                     QByteArray::number(text.mid(place - 10, 10).toLongLong() + kSize).rightJustified(10, '0'));
+    const auto start = text.indexOf("startxref\n") + 10;
+    const auto end = text.indexOf('\n', start);
+    text.replace(start, end - start, QByteArray::number(text.mid(start, end - start).toLongLong() + kSize));
+    QFile file(large);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(kSize) && file.write(text) == text.size() && file.flush());
+    m_document = value(Document::open(large));
+    EXPECT_EQ(value(sizes()), (std::vector<QSizeF>{{300, 400}}));
+    EXPECT_TRUE(draw()) << sentence(draw()).toStdString();
+}
+
 TEST_F(Reading, DrawsAMetreOfPaper)
 {
     open(PDFText().page({595, 2835}, "0 g 0 0 20 20 re f"));
@@ -196,34 +214,16 @@ TEST_F(Reading, SaysThatAPageIsTooLarge)
     }
 }
 
-/// Ten times ten times ten ... forms within forms.
-PDFText endless()
-{
-    PDFText document;
-    QByteArray content = "/G gs 0 0 300 400 re f ";
-    QByteArray forms;
-    for (int level = 0; level < 12; ++level) {
-        const int form =
-            document.stream(content.repeated(level == 0 ? 10 : 1),
-                            "/Type /XObject /Subtype /Form /BBox [0 0 300 400] /Group << /S /Transparency >> "
-                            "/Resources << /ExtGState << /G << /ca 0.5 >> >> /XObject << " +
-                                forms + " >> >>");
-        forms = "/F " + QByteArray::number(form) + " 0 R";
-        content = QByteArray("/F Do ").repeated(10);
-    }
-    return document.page({300, 400}, content, "/Resources << /XObject << " + forms + " >> >>");
-}
-
 TEST_F(Reading, EndsWithAPageThatIsNeverDone)
 {
     m_patience = 1s;
-    open(endless());
+    open(support::endlessPage());
     EXPECT_EQ(saidOf(draw()), kTakesTooLong);
 }
 
 TEST_F(Reading, EndsWhenNobodyWantsThePageAnyMore)
 {
-    open(endless());
+    open(support::endlessPage());
     const std::jthread impatient([this] {
         std::this_thread::sleep_for(200ms);
         m_stop.request_stop();

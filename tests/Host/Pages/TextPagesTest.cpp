@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <random>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 
 using host::laidOut;
 using host::Sheet;
@@ -277,6 +280,31 @@ TEST_F(TextPages, AreNotMadeWhenNobodyWantsThemAnyMore)
     std::stop_source stop;
     stop.request_stop();
     EXPECT_EQ(support::sentence(laidOut(document("a"), kLetter, stop.get_token())), "cancelled");
+}
+
+TEST_F(TextPages, AreGivenUpInTheMiddleWhenNobodyWantsThemAnyMore)
+{
+    const auto text = document(QByteArray("words of a text without end\n").repeated(300'000));
+    std::stop_source stop;
+    const std::jthread impatient([&stop] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        stop.request_stop();
+    });
+    EXPECT_EQ(support::sentence(laidOut(text, kLetter, stop.get_token())), "cancelled");
+}
+
+TEST_F(TextPages, ThatCannotBeKeptAreToldOf)
+{
+    const auto text = document(QByteArray("words\n").repeated(10'000));
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit small{10'000, limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const QString told = support::sentence(laidOut(text, kLetter));
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, before);
+    EXPECT_EQ(told, "a.txt: its pages can't be kept: File too large");
 }
 
 TEST_F(TextPages, CanBeMadeOfTheSameTextAgain)

@@ -159,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
         SizeRow{"turned", {297, 210}, "", nullptr, nullptr}, SizeRow{"shorter", {210, 250}, "", nullptr, nullptr},
         SizeRow{"turned by its shape",
                 {200, 100},
-                "The document is 100 mm wide, the paper 210.",
+                "The document is 200 × 100 mm, the paper 210 × 297.",
                 "Use 200 × 100 mm",
                 "customsize"},
         SizeRow{"a receipt", {80, 150}, "The document is 80 mm wide, the paper 210.", "Use 80 × 150 mm", "customsize"},

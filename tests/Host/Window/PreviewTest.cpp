@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QScrollBar>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -250,6 +251,29 @@ TEST_F(Preview, ShowsADotAPixelAndScrollsThere)
     EXPECT_EQ(preview().picture().size(), preview().dots());
 }
 
+TEST_F(Preview, ShowsTheNextPageCoarselyWhereItsDotsTakeTheirTime)
+{
+    m_dialog->chooseDocuments({documentOf(3)});
+    unfold();
+    press(tool("Each dot of the printer as a pixel of the screen"));
+    settle();
+    const QByteArray before = qgetenv("PATH");
+    const QDir programs(m_directory.path());
+    QFile painter(programs.filePath("pdftoppm")); // which is never done at the head's resolution
+    ASSERT_TRUE(painter.open(QIODevice::WriteOnly));
+    painter.write("#!/bin/sh\ncase \"$*\" in *'-scale-to-x 1678'*) exec /bin/sleep 1000 ;; esac\nexec " +
+                  QStandardPaths::findExecutable("pdftoppm").toUtf8() + " \"$@\"\n");
+    painter.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    painter.close();
+    qputenv("PATH", programs.path().toUtf8() + ':' + before);
+    press(tool("Next page"));
+    const bool came = QTest::qWaitFor([this] { return black() > 0.15; }, 20000);
+    qputenv("PATH", before);
+    EXPECT_TRUE(came);
+    EXPECT_NEAR(black(), 0.2, 0.01);
+    EXPECT_TRUE(preview().isBusy());
+}
+
 TEST_F(Preview, ShowsTheFeedBelowTheSheetAsLongAsItCounts)
 {
     unfold();
@@ -305,6 +329,25 @@ TEST_F(Preview, ShowsNothingOfADocumentThatWentInTheMiddleOfItsWork)
     settle();
     EXPECT_TRUE(preview().picture().isNull());
     EXPECT_EQ(preview().problem(), "The document's pages will show here.");
+}
+
+TEST_F(Preview, OfAPrinterWithoutADriverIsGreyOnItsPaper)
+{
+    Queue queue;
+    queue.name = "Plain";
+    queue.papers = {{"iso_a6_105x148mm", "A6", {297.64, 419.53}}};
+    m_dialog->use(support::value(targetOfQueue({}, OpenedQueue{queue, nullptr})));
+    unfold();
+    EXPECT_EQ(preview().problem(), "The size of the paper is not known.");
+    m_dialog->choosePaper({"iso_a6_105x148mm", std::nullopt});
+    settle();
+    EXPECT_EQ(preview().problem(), "");
+    EXPECT_EQ(preview().dots(), QSize(839, 1183)); // at 203 dots an inch
+    EXPECT_GT(black(), 0.005);
+    EXPECT_FALSE(pane()->findChild<QCheckBox *>()->isEnabled());
+    press(tool("Each dot of the printer as a pixel of the screen"));
+    settle();
+    EXPECT_EQ(preview().picture().format(), QImage::Format_Grayscale8);
 }
 
 TEST_F(Preview, GoesWithTheWindowInTheMiddleOfItsWork)
