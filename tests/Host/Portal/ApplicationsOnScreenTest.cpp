@@ -69,6 +69,12 @@ protected:
     {
         return wait([&](const Seen &each) { return each.label == label && each.name == value; }).has_value();
     }
+    bool choosePaper(const QString &paper) const
+    {
+        m_desktop.screen().press("alt+e");
+        m_desktop.screen().type(paper);
+        return shows("Paper:", paper);
+    }
     /// Into the field that the keys lead to, in place of what it says.
     void fill(const QString &keys, const QString &text) const
     {
@@ -76,6 +82,15 @@ protected:
         m_desktop.screen().press("ctrl+a");
         m_desktop.screen().type(text);
     }
+    /// A printing application whose window shows.
+    std::unique_ptr<PrintingApplication> application(const QJsonObject &wish, Place place = Place::open) const
+    {
+        auto made = std::make_unique<PrintingApplication>(m_desktop);
+        if (const auto notThere = made->start(wish, place))
+            throw std::runtime_error(notThere->toStdString());
+        return made;
+    }
+    QStringList wordsOf(int job) { return support::wordsOf(m_desktop.server().documentOf(job)); }
     /// Ends a process of ours as a crash would.
     void kill(const QByteArray &word) const
     {
@@ -113,31 +128,27 @@ protected:
 
 TEST_P(FromApplication, PrintsOnThePaperThatAPersonChoseWithItsOptions)
 {
-    PrintingApplication application(m_desktop);
-    const auto notThere = application.start({{"gtk", GetParam().gtk}}, GetParam().place);
-    ASSERT_FALSE(notThere) << notThere->toStdString();
-    application.print();
+    const auto application = this->application({{"gtk", GetParam().gtk}}, GetParam().place);
+    application->print();
     ASSERT_TRUE(canPress("Print"));
-    m_desktop.screen().press("alt+e");
-    m_desktop.screen().type("A5");
-    ASSERT_TRUE(shows("Paper:", "A5"));
+    ASSERT_TRUE(choosePaper("A5"));
     ASSERT_TRUE(m_desktop.screen().choose(
         "qnprint", [](const Seen &each) { return each.role == "combo box" && each.name == "Thermal Paper"; },
         "Thermal Copy Paper"));
     fill("alt+c", "2");
     m_desktop.screen().press("alt+p");
 
-    const QJsonObject paper = application.told("begin");
+    const QJsonObject paper = application->told("begin");
     EXPECT_EQ(paper["paper"].toString(), "iso_a5");
     EXPECT_NEAR(paper["width"].toDouble(), 148, 0.5);
     EXPECT_NEAR(paper["height"].toDouble(), 210, 0.5);
-    EXPECT_EQ(application.told("done")["result"].toString(), "apply");
+    EXPECT_EQ(application->told("done")["result"].toString(), "apply");
     const auto job = m_desktop.server().record(1);
     EXPECT_EQ(job["PRINTER"], "counter");
     EXPECT_EQ(job["PageSize"], "A5");
     EXPECT_EQ(job["QnMedia"], "ThermalCopy");
     EXPECT_EQ(job["copies"], "2");
-    EXPECT_EQ(support::wordsOf(m_desktop.server().documentOf(1)), QStringList({"page 1", "page 2"})); // not four
+    EXPECT_EQ(wordsOf(1), QStringList({"page 1", "page 2"})); // not four
     for (const QSizeF &size : support::sizesOf(m_desktop.server().documentOf(1))) {
         EXPECT_NEAR(size.width(), 420, 1);
         EXPECT_NEAR(size.height(), 595, 1);
@@ -150,5 +161,300 @@ INSTANTIATE_TEST_SUITE_P(Of, FromApplication,
                                          ApplicationRow{"SandboxedGtk3", 3, Place::sandbox},
                                          ApplicationRow{"SandboxedGtk4", 4, Place::sandbox}),
                          [](const auto &row) { return row.param.name; });
+
+class WithGtk : public FromApplication
+{};
+
+INSTANTIATE_TEST_SUITE_P(Of, WithGtk,
+                         testing::Values(ApplicationRow{"Gtk3", 3, Place::open}, ApplicationRow{"Gtk4", 4, Place::open}),
+                         [](const auto &row) { return row.param.name; });
+
+TEST_P(WithGtk, TheDialogBelongsToTheWindowAndCancellingItIsTold)
+{
+    const auto application = this->application({{"gtk", GetParam().gtk}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    const auto dialog = m_desktop.window();
+    ASSERT_TRUE(dialog);
+    const QByteArray properties = m_desktop.properties(*dialog);
+    const QByteArray owner = QByteArray::number(application->window(), 16);
+    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n')) << properties.toStdString();
+    EXPECT_TRUE(properties.contains("_NET_WM_STATE_MODAL")) << properties.toStdString();
+    EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\"")) << properties.toStdString();
+    m_desktop.screen().press("Escape");
+    EXPECT_EQ(application->told("done")["result"].toString(), "cancel");
+    EXPECT_TRUE(application->close());
+    EXPECT_EQ(m_desktop.server().openJobs(), "");
+    EXPECT_EQ(m_desktop.server().recordCount(), 0);
+}
+
+TEST_P(WithGtk, AJobIsPrintedWhoseApplicationEndsAtOnce)
+{
+    const auto application = this->application({{"gtk", GetParam().gtk}, {"endsAtOnce", true}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    fill("alt+a", "2");
+    m_desktop.screen().press("alt+p");
+    ASSERT_TRUE(application->hasEnded());
+    EXPECT_EQ(m_desktop.server().record(1)["PRINTER"], "counter");
+    EXPECT_EQ(wordsOf(1), QStringList("page 2"));
+}
+
+TEST_P(WithGtk, ALandscapePageStaysOne)
+{
+    const auto application = this->application({{"gtk", GetParam().gtk}, {"landscape", true}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    ASSERT_TRUE(choosePaper("A5"));
+    m_desktop.screen().press("alt+p");
+    const QJsonObject paper = application->told("begin");
+    EXPECT_EQ(paper["orientation"].toString(), "landscape");
+    EXPECT_EQ(paper["paper"].toString(), "iso_a5");
+    EXPECT_EQ(m_desktop.server().record(1)["PageSize"], "A5");
+    std::cerr << support::sizesOf(m_desktop.server().documentOf(1)).at(0).width() << " SIZE\n";
+}
+
+TEST_F(OnDesktop, WhatAnApplicationHasKeptComesInAndGoesOutAgain)
+{
+    // With this driver, the server chooses the pages.
+    ASSERT_TRUE(m_desktop.server().addQueue(
+        "store", "usb://Qn/Thermal?serial=store",
+        {{"*cupsFilter2:", "*cupsFilter2: \"application/vnd.cups-pdf application/vnd.qn-pdf 0 qnfilter\""}}));
+    const auto application = this->application({{"gtk", 3},
+                                                {"settings", QJsonObject{{"n-copies", "3"},
+                                                                         {"printer", "store"},
+                                                                         {"print-pages", "ranges"},
+                                                                         {"page-ranges", "1"},
+                                                                         {"cups-QnDensity", "D3"},
+                                                                         {"own-key", "own value"}}}});
+    application->print();
+    ASSERT_TRUE(shows("Printer:", "store"));
+    ASSERT_TRUE(canPress("Print"));
+    m_desktop.screen().press("alt+p");
+    const QJsonObject kept = application->told("done")["settings"].toObject();
+    EXPECT_EQ(kept["printer"].toString(), "store");
+    EXPECT_EQ(kept["cups-QnDensity"].toString(), "D3");
+    EXPECT_EQ(kept["own-key"].toString(), "own value");
+    EXPECT_EQ(kept["n-copies"].toString(), "1"); // they are made already
+    const auto job = m_desktop.server().record(1);
+    EXPECT_EQ(job["PRINTER"], "store");
+    EXPECT_EQ(job["QnDensity"], "D3");
+    EXPECT_EQ(job["copies"], "3");
+    EXPECT_TRUE(job["options"].contains("page-ranges=2")) << job["options"].toStdString();
+
+    application->print(); // with what it has kept now
+    ASSERT_TRUE(shows("Printer:", "store"));
+    ASSERT_TRUE(canPress("Print"));
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(m_desktop.server().record(2)["QnDensity"], "D3");
+}
+
+TEST_F(OnDesktop, APersonLooksAtThePagesBeforeTheyArePrinted)
+{
+    const auto application = this->application({{"gtk", 4}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    ASSERT_TRUE(choosePaper("A5"));
+    fill("alt+c", "2");
+    m_desktop.screen().press("alt+l");
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(application->told("done")["result"].toString(), "apply");
+    ASSERT_TRUE(wait([](const Seen &each) { return each.role == "label" && each.name == "Page 1 of 2"; }));
+    EXPECT_TRUE(shows("Paper:", "A5"));
+    EXPECT_EQ(m_desktop.server().openJobs(), "");
+    ASSERT_TRUE(canPress("Print"));
+    m_desktop.screen().press("alt+p");
+    const auto job = m_desktop.server().record(1);
+    EXPECT_EQ(job["PageSize"], "A5");
+    EXPECT_EQ(job["copies"], "2");
+    EXPECT_EQ(wordsOf(1), QStringList({"page 1", "page 2"}));
+}
+
+TEST_F(OnDesktop, ADialogThatDiesTakesNobodyWithIt)
+{
+    const auto application = this->application({{"gtk", 3}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    const auto service = m_desktop.processes("portal");
+    ASSERT_EQ(service.size(), 1U);
+    kill("prepare-for-application");
+    EXPECT_EQ(application->told("done")["result"].toString(), "cancel");
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(m_desktop.server().record(1)["PRINTER"], "counter");
+    EXPECT_EQ(m_desktop.processes("portal"), service);
+}
+
+TEST_F(OnDesktop, AServiceThatDiesTakesItsDialogWithItAndTheNextOneServes)
+{
+    const auto application = this->application({{"gtk", 3}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    kill("portal");
+    EXPECT_EQ(application->told("done")["result"].toString(), "cancel");
+    EXPECT_TRUE(isAlone("portal"));
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(m_desktop.server().record(1)["PRINTER"], "counter");
+}
+
+TEST_F(OnDesktop, TwoApplicationsAtOnceEachGetTheirOwn)
+{
+    const auto first = application({{"gtk", 3}});
+    first->print();
+    ASSERT_TRUE(canPress("Print"));
+    const auto firstDialog = m_desktop.window();
+    ASSERT_TRUE(choosePaper("A5"));
+    const auto second = application({{"gtk", 4}});
+    second->print();
+    ASSERT_TRUE(becomes([&] { return m_desktop.window() != firstDialog; }));
+    ASSERT_TRUE(becomes([this] { return m_desktop.processes("prepare-for-application").size() == 2; }));
+    QThread::msleep(1000);
+    fill("alt+c", "2");
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(second->told("begin")["paper"].toString(), "iso_a4");
+    EXPECT_EQ(m_desktop.server().record(1)["copies"], "2");
+    m_desktop.screen().ask("xdotool", {"windowactivate", "--sync", QString::number(*firstDialog)});
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(first->told("begin")["paper"].toString(), "iso_a5");
+    EXPECT_EQ(m_desktop.server().record(2)["copies"], "1");
+    EXPECT_EQ(m_desktop.server().record(2)["PageSize"], "A5");
+}
+
+TEST_F(OnDesktop, ADocumentComesThroughAPipeByAnotherConnection)
+{
+    const auto application = this->application({{"gtk", 3}, {"document", QN_SOURCE_DIR "/examples/documents/ticket.pdf"}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    const auto dialog = m_desktop.window();
+    ASSERT_TRUE(dialog);
+    const QByteArray properties = m_desktop.properties(*dialog);
+    EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\"")) << properties.toStdString(); // no mnemonic
+    const QByteArray owner = QByteArray::number(application->window(), 16);
+    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n')) << properties.toStdString();
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(application->told("begin")["page-setup"].toObject()["PPDName"].toString(), "A4");
+    EXPECT_EQ(application->told("done")["response"].toInt(-1), 0);
+    const auto job = m_desktop.server().record(1);
+    EXPECT_EQ(job["title"], "A ticket");
+    EXPECT_EQ(support::wordsOf(m_desktop.server().documentOf(1)),
+              support::wordsOf(QN_SOURCE_DIR "/examples/documents/ticket.pdf"));
+}
+
+class WithOthers : public OnDesktop
+{
+protected:
+    static constexpr auto kOthers = "xdg-desktop-portal-gtk";
+
+    void SetUp() override { setUp(Desktop::Backends::oursAndGtks); }
+};
+
+TEST_F(WithOthers, APersonGetsTheDialogOfTheDesktop)
+{
+    const auto application = this->application({{"gtk", 3}});
+    application->print();
+    ASSERT_TRUE(canPress("Print"));
+    m_desktop.screen().press("alt+o");
+    EXPECT_TRUE(m_desktop.window(kOthers));
+    EXPECT_TRUE(isAlone("portal"));
+    m_desktop.screen().press("Escape");
+    EXPECT_EQ(application->told("done")["result"].toString(), "cancel");
+}
+
+TEST_F(WithOthers, APrinterWithoutPanelsOfOursHasTheDialogOfTheDesktopAtOnce)
+{
+    ASSERT_TRUE(m_desktop.server().addPlainQueue("laser", "usb://Qn/Thermal?serial=laser"));
+    ASSERT_EQ(m_desktop.server().run("lpadmin", {"-d", "laser"}), 0);
+    const auto application = this->application({{"gtk", 3}});
+    application->print();
+    EXPECT_TRUE(m_desktop.window(kOthers));
+    EXPECT_TRUE(isAlone("portal"));
+    EXPECT_EQ(m_desktop.screen().ask("xdotool", {"search", "--class", "qnprint"}), ""); // shown or not
+    m_desktop.screen().press("Escape");
+    EXPECT_EQ(application->told("done")["result"].toString(), "cancel");
+}
+
+/// Between the dialog and the document the printer has become unable to take it.
+class NotPrinted : public OnDesktop
+{
+protected:
+    void SetUp() override
+    {
+        OnDesktop::SetUp();
+        m_application = application({{"gtk", 3}, {"waits", true}});
+        m_application->print();
+        ASSERT_TRUE(canPress("Print"));
+        fill("alt+c", "2");
+        m_desktop.screen().press("alt+p");
+        ASSERT_FALSE(m_application->told("begin").isEmpty());
+    }
+    void TearDown() override
+    {
+        m_application.reset();
+        OnDesktop::TearDown();
+    }
+    void sendTheDocument() const
+    {
+        m_application->print();
+        ASSERT_EQ(m_application->told("done")["result"].toString(), "apply");
+        ASSERT_TRUE(canPress("Try Again"));
+        const auto box = m_desktop.window();
+        ASSERT_TRUE(box);
+        const QByteArray properties = m_desktop.properties(*box);
+        EXPECT_TRUE(properties.contains(" Was Not Printed\"")) << properties.toStdString();
+    }
+    /// The sentence in the box.
+    bool says(const QString &words) const
+    {
+        return wait([&](const Seen &each) { return each.role == "label" && each.name.contains(words); }).has_value();
+    }
+
+    std::unique_ptr<PrintingApplication> m_application;
+};
+
+TEST_F(NotPrinted, AJobIsTriedAgain)
+{
+    m_desktop.server().stop();
+    sendTheDocument();
+    EXPECT_TRUE(says("no CUPS server answers"));
+    m_desktop.screen().press("alt+a");
+    ASSERT_TRUE(canPress("Try Again")) << "nothing has changed";
+    const auto notThere = m_desktop.server().restart();
+    ASSERT_FALSE(notThere) << notThere->toStdString();
+    m_desktop.screen().press("alt+a");
+    EXPECT_EQ(m_desktop.server().record(1)["copies"], "2");
+    EXPECT_EQ(wordsOf(1), QStringList({"page 1", "page 2"}));
+}
+
+TEST_F(NotPrinted, AJobIsPrintedOnAnotherPrinter)
+{
+    ASSERT_EQ(m_desktop.server().run("cupsreject", {"counter"}), 0);
+    sendTheDocument();
+    EXPECT_TRUE(says("counter"));
+    m_desktop.screen().press("alt+p");
+    ASSERT_TRUE(shows("Printer:", "counter (takes no jobs)"));
+    m_desktop.screen().press("alt+r");
+    m_desktop.screen().press("Down");
+    ASSERT_TRUE(shows("Printer:", "office"));
+    ASSERT_TRUE(canPress("Print"));
+    m_desktop.screen().press("alt+p");
+    EXPECT_EQ(m_desktop.server().record(1)["PRINTER"], "office");
+    EXPECT_EQ(wordsOf(1), QStringList({"page 1", "page 2"}));
+}
+
+TEST_F(NotPrinted, AJobIsSavedAsAPDF)
+{
+    m_desktop.server().kill();
+    sendTheDocument();
+    m_desktop.screen().press("alt+s");
+    ASSERT_TRUE(wait([](const Seen &each) { return each.role == "text" && each.isFocused; }));
+    m_desktop.screen().press("ctrl+a");
+    const QString path = m_desktop.server().path("saved.pdf");
+    m_desktop.screen().type(path);
+    m_desktop.screen().press("Return");
+    EXPECT_TRUE(becomes([&] { return support::wordsOf(path) == QStringList({"page 1", "page 2"}); }));
+}
 
 } // namespace
