@@ -1,17 +1,43 @@
-// The border between the print dialog (the host) and a plug-in bundle: pure interfaces, nothing behind them.
+// The border between the print dialog (the host) and a plug-in bundle: pure interfaces, nothing behind them. This is
+// the contract between the two; what it does not say is not promised.
 //
-// Order of calls, all on the host's main thread:
-//   1. The host loads the bundle's code, takes its PDEPlugInEntry and asks it for the principal object.
-//   2. `initWithBundle`; false refuses the plug-in, and nothing more is asked of it.
-//   3. `PDEPanelsForType` makes the panels, which reach the host through the callback object from then on.
-//   4. Each panel answers `panelName`, `panelKind`, `supportedPPDOptionKeys`, then `restoreValuesAndReturnError`.
-//   5. Before every display `panelView`, then `willShow`; before leaving it `saveValuesAndReturnError`, `shouldHide`.
-//   6. Before printing `shouldPrint` of each panel in order, up to the first false.
-//   7. When the dialog goes away the host destroys the principal object, and with it the panels and their views.
-// Nothing here throws, and nothing reports an error by other means than its answer.
+// Order of calls. A bundle may rely on it, a host keeps it:
+//   1. The host reads the bundle's Info.json and the description in its code. What does not fit is refused here, in one
+//      sentence; nothing of the bundle has run.
+//   2. The code is loaded, and its root object asked for the principal object: `PDEPlugInEntry::principalObject`.
+//   3. `initWithBundle`, once. False refuses the plug-in, and nothing more is asked of it.
+//   4. `PDEPanelsForType` makes the panels, which reach the host through the callback object from then on.
+//   5. Of each panel, in order: `panelName`, `panelKind`, `supportedPPDOptionKeys`. Then of each, in order:
+//      `restoreValuesAndReturnError`.
+//   6. Each panel is prepared: `panelView`, `willShow`, `shouldHide`, unseen. What its first display marks is so marked
+//      before a person can choose anything. The first panel at once, the others soon after.
+//   7. On display: `panelView`, `willShow`. Off it: `saveValuesAndReturnError`, `shouldHide`. As often as a
+//      person turns from one panel to another.
+//   8. Whenever an option is marked otherwise than before, `PPDOptionKeyValueDidChange` of every panel in order, also
+//      while a panel waits in the call that asked for it. Whenever another paper is chosen,
+//      `restoreValuesAndReturnError` of the prepared panels that are not on display, then
+//      printing::kPaperDidChangeNotification.
+//   9. `summaryInfo`, `printEffect` and `inspection` at any time after 5.
+//  10. Before printing, `shouldPrint` of each panel in order, up to the first false; when all agree,
+//      `saveValuesAndReturnError` of the one on display. The dialog may stay open and all of it come again.
+//  11. When the dialog goes away the host destroys the principal object, and with it the panels and their views. What a
+//      panel still marks then is reported to nobody. The code stays loaded; a later dialog begins with 2.
 //
-// Types of Qt and of the standard library cross this border: host and bundle must come from compilers of one family and
-// use the same major version of Qt. Qt refuses code of another major version; nothing checks the compiler.
+// For every function, unless it says otherwise:
+//   Thread      the host's main thread, the only one on which a bundle may call the host.
+//   Before      the step of the order above has come. Arguments are what their types say, references are to what lives.
+//   After       it answers soon, as people wait; it throws nothing, and reports nothing but by its answer. Boxes are
+//               allowed in actions of controls and in `shouldPrint` only.
+//   Owner       of what is handed out by pointer or reference: who hands it out. Of a unique_ptr: who gets it.
+//   Left out    nothing that is pure; what has a body may be left out, and the body says what that means.
+//
+// What code must have in common. Types of Qt and of the standard library cross this border, so bundle and host need the
+// same C++ standard library with the same binary interface (compilers that follow one C++ ABI may differ), the same
+// major version of Qt, the bundle's not newer than the host's, and the same version of this interface. Within one
+// interface version a declaration here never changes. All is checked in step 1: the interface version and the build tag
+// stand in the Info.json, where qn_add_bundle writes both; Qt's version and the identifier of the root object in what
+// Qt lays into the code. The libraries of the platform keep their interface within the major version that their names
+// end in.
 #pragma once
 
 #include "Printing/PrintSettings.h"
@@ -40,7 +66,9 @@ inline constexpr int kPDEInterfaceVersion = QN_PDE_INTERFACE_VERSION;
 /// The panel type that stands for printing options.
 inline constexpr auto kPDEPrintingOptionsType = "BDB091F4-E57F-11D3-B5CC-0050E4603277";
 
-/// What a panel may ask of the host. The host owns it and all that it hands out, for the whole life of the panels.
+/// What a panel may ask of the host, from `PDEPanelsForType` until the panel's end, its destructor included. The host
+/// owns it and all that it hands out; pointers stay the same for the whole life of the panels, what they point to
+/// changes with the dialog.
 class PDEPluginCallback_v100_
 {
 public:
@@ -50,11 +78,13 @@ public:
     virtual const printing::Settings *printSettings() const = 0; // null before the host has supplied them
     virtual const printing::PageFormat *pageFormat() const = 0;  // null before the host has supplied it
     virtual const printing::Printer *PMPrinter() const = 0;
-    virtual ppd_file_t *ppdFile() const = 0; // open; panels neither close it nor mark choices in it
+    virtual ppd_file_t *ppdFile() const = 0; // open, never null; panels neither close it nor mark choices in it
 
-    /// Marks a choice: the only way for a panel to change one. `choice` is a choice's keyword, or a number for an
-    /// option with a custom option. False when nothing could be marked. Every option whose marked choice is then
-    /// another than before is reported to all panels before this returns.
+    /// Marks a choice: the only way for a panel to change one. `choice` is a choice's keyword, or a number (digits, a
+    /// sign, a full stop) for an option with a custom option, within the range of its first parameter. False when
+    /// nothing could be marked; nothing has changed then. Else the choice is marked, the PPD's constraints have moved
+    /// what stood against it, and every option whose marked choice is another than before has been reported to all
+    /// panels. A choice that is marked already is reported to nobody.
     virtual bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) = 0;
 };
 
@@ -108,34 +138,40 @@ public:
     virtual std::optional<QString> paperName() const = 0;
 };
 
+/// A panel. It owns its view; the host may give that a parent, and takes it back before the panel's end.
 class PDEPanel
 {
 public:
     virtual ~PDEPanel() = default;
 
-    /// A short fixed name, unlike every other panel's of the bundle.
+    /// A short fixed name, unlike every other panel's of the bundle. By it `--panel` and scripts find the panel.
     virtual QString identifier() const = 0;
 
-    /// The panel's view, made on first use; null when the bundle has no readable interface file for it. The panel owns
-    /// it; the host may give it a parent.
+    /// The panel's view, made on first use, the same from then on; null when the bundle has no readable interface file
+    /// for it, and the panel is then not shown. 520 x 336 points where a PPD may place controls; else what it takes.
     virtual QWidget *panelView() = 0;
-    /// Localized.
+    /// Localized, one line; what the tab of the panel says.
     virtual QString panelName() = 0;
     /// What sort of panel it is, in reverse domain notation; panels of a bundle may share it.
     virtual QString panelKind() = 0;
-    /// Keywords of the options that the panel takes care of; nil when it does not say.
+    /// Keywords of the options that the panel takes care of, those that this PPD lacks included; nil when it does not
+    /// say. Only these are shown in the host's summary, and told of when a paper moves them.
     virtual std::optional<QStringList> supportedPPDOptionKeys() = 0;
 
-    /// Fills the view for display. The first call also marks the choices that the controls then show.
+    /// Fills the view for display; `panelView` has been asked for before. The first call may also mark the choices that
+    /// the controls then show; later ones mark nothing.
     virtual void willShow() = 0;
     /// The panel leaves the display, and says whether it agrees. This host takes it off whatever the answer is.
     virtual bool shouldHide() = 0;
 
-    /// Marks what the controls show, and reads back what is marked. `error` is left alone; the answer is always true.
+    /// Marks what the controls show; after it, nothing that a person has entered is in the controls only. `error` may
+    /// be null and is left alone; the answer is always true.
     virtual bool saveValuesAndReturnError(QString *error) = 0;
+    /// Reads back what is marked: the panel and, where it is loaded, its view show that. May mark what the panel's
+    /// rules decide otherwise. `error` and the answer as above.
     virtual bool restoreValuesAndReturnError(QString *error) = 0;
 
-    /// nil when the panel gives none. Changes nothing.
+    /// Titles and values as this panel tells them, localized; nil when the panel gives none. Changes nothing.
     virtual std::optional<PDESummary> summaryInfo() = 0;
 
     /// What the choices marked now do to a printed page; nil when the panel does not say. A host shows the plain page
@@ -151,22 +187,25 @@ public:
     /// Whether the panel has help to offer. Part of the protocol; this host never calls it.
     virtual bool shouldShowHelp() = 0;
 
-    /// The host's report that `key` is now marked with `choice`, whoever asked for it.
+    /// The host's report that `key` is now marked with `choice`, whoever asked for it. The panel takes note, and marks
+    /// nothing: the host is in the middle of marking. `choice` is "Custom" for a number, which the PPD then has.
     virtual void PPDOptionKeyValueDidChange(const std::optional<QString> &key,
                                             const std::optional<QString> &choice) = 0;
 
+    /// The panel itself, as a rule. One that has nothing to lay open answers empty lists there.
     virtual const PDEPanelInspection &inspection() const = 0;
 };
 
 using PDEPanels = std::vector<std::unique_ptr<PDEPanel>>;
 
-/// The principal object of a bundle.
+/// The principal object of a bundle, one for each dialog.
 class PDEPlugIn
 {
 public:
     virtual ~PDEPlugIn() = default;
 
-    /// False when the plug-in can't serve on this system. The bundle is the host's and outlives the principal object.
+    /// False when the plug-in can't serve on this system. The bundle is the host's and outlives the principal object:
+    /// it has the texts, in the language of the dialog, and the files.
     virtual bool initWithBundle(const foundation::Bundle &bundle) = 0;
 
     /// The panels for a panel type, in the order to show them; empty for a type that the plug-in does not serve, null
@@ -181,16 +220,20 @@ struct PDERemembered
     std::optional<QString> value; // nil while nothing is remembered
 };
 
-/// The root object of the bundle's shared object. It stays loaded until the process ends.
+/// The root object of the bundle's shared object: one class of it derives from QObject and this, with
+/// Q_PLUGIN_METADATA(IID PDEPlugInEntry_iid) and Q_INTERFACES(PDEPlugInEntry). Its constructor and those of static
+/// objects do nothing that takes time. It stays loaded until the process ends.
 class PDEPlugInEntry
 {
 public:
     virtual ~PDEPlugInEntry() = default;
 
-    /// A new principal object; null when the class is not this bundle's.
+    /// A new principal object of the class that the Info.json names; null when the class is not this bundle's. The host
+    /// owns it, and ends it before it asks for another one.
     virtual std::unique_ptr<PDEPlugIn> principalObject(const QString &className) = 0;
 
-    /// All that can be remembered, whether or not a dialog is open; for scripts, tests and diagnosis.
+    /// All that can be remembered, whether or not a dialog is open; for scripts, tests and diagnosis. Empty for a
+    /// bundle whose panels remember nothing.
     virtual std::vector<PDERemembered> remembered() const = 0;
 };
 

@@ -170,7 +170,7 @@ inline constexpr std::array kExampleRows{
     TermRow{"qnprint -d counter/express ticket.pdf", "Opens it for a queue with one of its presets."},
     TermRow{"qnprint --no-dialog -d counter -n 2 -P 1-3,5 -o PageSize=A4 ticket.pdf", "Prints without a window."},
     TermRow{"qnprint --ppd printer.ppd --output out ticket.pdf", "Prints into a folder, without any CUPS server."},
-    TermRow{"qnprint preview -d counter -o QnHalftonePattern=Dither --page 2 invoice.pdf page.png",
+    TermRow{"qnprint preview -d counter -o PageSize=A5 --page 2 invoice.pdf page.png",
             "Shows what page 2 will look like."},
     TermRow{"qnprint shot --ppd printer.ppd --panel advanced panel.png", "Takes a picture of a panel."},
     TermRow{"qnprint script --expect panel.replies <panel.jsonl", "Tells whether panels still do what they did."},
