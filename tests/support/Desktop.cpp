@@ -66,8 +66,8 @@ std::optional<QString> Desktop::start(Backends backends)
     lay(backends);
     const QString temporaries = m_server.path(kOurTemporaries);
     QMap<QString, QString> services{
-        {"org.freedesktop.impl.portal.desktop.qnprint", QString("/usr/bin/env %1=%2 TMPDIR=%2 %3 portal --language en")
-                                                            .arg(kMark, temporaries, QN_PROGRAM)}};
+        {"org.freedesktop.impl.portal.desktop.qnprint",
+         QString("/usr/bin/env %1=%2 TMPDIR=%2 %3 portal --language en").arg(kMark, temporaries, QN_PROGRAM)}};
     for (const ServiceRow &row : kServiceRows)
         if (!row.isGtks || backends == Backends::oursAndGtks)
             services[row.name] = row.command;
@@ -169,7 +169,7 @@ std::optional<QString> PrintingApplication::start(const QJsonObject &wish, Place
     if (place == Place::sandbox) {
         environment.insert("XDG_RUNTIME_DIR", m_desktop.server().path(kSandboxRuntime));
     } else {
-        environment.insert("GTK_USE_PORTAL", "1"); // version 3
+        environment.insert("GTK_USE_PORTAL", "1");  // version 3
         environment.insert("GDK_DEBUG", "portals"); // version 4
     }
     QStringList command = place == Place::sandbox ? QStringList("bwrap") + sandbox() : QStringList();

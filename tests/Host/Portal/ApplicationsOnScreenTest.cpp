@@ -160,6 +160,7 @@ TEST_P(FromApplication, PrintsOnThePaperThatAPersonChoseWithItsOptions)
     EXPECT_NEAR(paper["height"].toDouble(), 210, 0.5);
     EXPECT_EQ(application->told("done")["result"].toString(), "apply");
     const auto job = m_desktop.server().record(1);
+    EXPECT_EQ(job["title"], GetParam().place == Place::sandbox ? "org.qnprint.Ticket" : "Document"); // GTK tells none
     EXPECT_EQ(job["PRINTER"], "counter");
     EXPECT_EQ(job["PageSize"], "A5");
     EXPECT_EQ(job["QnMedia"], "ThermalCopy");
@@ -182,7 +183,8 @@ class WithGtk : public FromApplication
 {};
 
 INSTANTIATE_TEST_SUITE_P(Of, WithGtk,
-                         testing::Values(ApplicationRow{"Gtk3", 3, Place::open}, ApplicationRow{"Gtk4", 4, Place::open}),
+                         testing::Values(ApplicationRow{"Gtk3", 3, Place::open},
+                                         ApplicationRow{"Gtk4", 4, Place::open}),
                          [](const auto &row) { return row.param.name; });
 
 TEST_P(WithGtk, TheDialogBelongsToTheWindowAndCancellingItIsTold)
@@ -194,7 +196,8 @@ TEST_P(WithGtk, TheDialogBelongsToTheWindowAndCancellingItIsTold)
     ASSERT_TRUE(dialog);
     const QByteArray properties = m_desktop.properties(*dialog);
     const QByteArray owner = QByteArray::number(application->window(), 16);
-    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n')) << properties.toStdString();
+    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n'))
+        << properties.toStdString();
     EXPECT_TRUE(properties.contains("_NET_WM_STATE_MODAL")) << properties.toStdString();
     EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\"")) << properties.toStdString();
     m_desktop.screen().press("Escape");
@@ -351,15 +354,18 @@ TEST_F(OnDesktop, TwoApplicationsAtOnceEachGetTheirOwn)
 
 TEST_F(OnDesktop, ADocumentComesThroughAPipeByAnotherConnection)
 {
-    const auto application = this->application({{"gtk", 3}, {"document", QN_SOURCE_DIR "/examples/documents/ticket.pdf"}});
+    const auto application =
+        this->application({{"gtk", 3}, {"document", QN_SOURCE_DIR "/examples/documents/ticket.pdf"}});
     application->print();
     ASSERT_TRUE(canPress("Print"));
     const auto dialog = m_desktop.window();
     ASSERT_TRUE(dialog);
     const QByteArray properties = m_desktop.properties(*dialog);
-    EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\"")) << properties.toStdString(); // no mnemonic
+    EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\""))
+        << properties.toStdString(); // no mnemonic
     const QByteArray owner = QByteArray::number(application->window(), 16);
-    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n')) << properties.toStdString();
+    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n'))
+        << properties.toStdString();
     m_desktop.screen().press("alt+p");
     EXPECT_EQ(application->told("begin")["page-setup"].toObject()["PPDName"].toString(), "A4");
     EXPECT_EQ(application->told("done")["response"].toInt(-1), 0);
