@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <iostream>
 
@@ -20,6 +21,17 @@ using Place = PrintingApplication::Place;
 namespace {
 
 constexpr int kMilliseconds = 20000;
+
+/// Where a page is not white.
+QRect inkOf(const QImage &page)
+{
+    QRect ink;
+    for (int y = 0; y < page.height(); ++y)
+        for (int x = 0; x < page.width(); ++x)
+            if (qGray(page.pixel(x, y)) < 128)
+                ink |= QRect(x, y, 1, 1);
+    return ink;
+}
 
 class OnDesktop : public testing::Test
 {
@@ -64,6 +76,10 @@ protected:
     {
         return wait([&](const Seen &each) { return each.role == "button" && each.name == button && each.isEnabled; })
             .has_value();
+    }
+    void activate(qulonglong window) const
+    {
+        m_desktop.screen().ask("xdotool", {"windowactivate", "--sync", QString::number(window)});
     }
     bool shows(const QString &label, const QString &value) const
     {
@@ -144,6 +160,7 @@ TEST_P(FromApplication, PrintsOnThePaperThatAPersonChoseWithItsOptions)
     EXPECT_NEAR(paper["height"].toDouble(), 210, 0.5);
     EXPECT_EQ(application->told("done")["result"].toString(), "apply");
     const auto job = m_desktop.server().record(1);
+    EXPECT_EQ(job["title"], GetParam().place == Place::sandbox ? "org.qnprint.Ticket" : "Document"); // GTK tells none
     EXPECT_EQ(job["PRINTER"], "counter");
     EXPECT_EQ(job["PageSize"], "A5");
     EXPECT_EQ(job["QnMedia"], "ThermalCopy");
@@ -166,7 +183,8 @@ class WithGtk : public FromApplication
 {};
 
 INSTANTIATE_TEST_SUITE_P(Of, WithGtk,
-                         testing::Values(ApplicationRow{"Gtk3", 3, Place::open}, ApplicationRow{"Gtk4", 4, Place::open}),
+                         testing::Values(ApplicationRow{"Gtk3", 3, Place::open},
+                                         ApplicationRow{"Gtk4", 4, Place::open}),
                          [](const auto &row) { return row.param.name; });
 
 TEST_P(WithGtk, TheDialogBelongsToTheWindowAndCancellingItIsTold)
@@ -178,7 +196,8 @@ TEST_P(WithGtk, TheDialogBelongsToTheWindowAndCancellingItIsTold)
     ASSERT_TRUE(dialog);
     const QByteArray properties = m_desktop.properties(*dialog);
     const QByteArray owner = QByteArray::number(application->window(), 16);
-    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n')) << properties.toStdString();
+    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n'))
+        << properties.toStdString();
     EXPECT_TRUE(properties.contains("_NET_WM_STATE_MODAL")) << properties.toStdString();
     EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\"")) << properties.toStdString();
     m_desktop.screen().press("Escape");
@@ -211,7 +230,11 @@ TEST_P(WithGtk, ALandscapePageStaysOne)
     EXPECT_EQ(paper["orientation"].toString(), "landscape");
     EXPECT_EQ(paper["paper"].toString(), "iso_a5");
     EXPECT_EQ(m_desktop.server().record(1)["PageSize"], "A5");
-    std::cerr << support::sizesOf(m_desktop.server().documentOf(1)).at(0).width() << " SIZE\n";
+    const auto sizes = support::sizesOf(m_desktop.server().documentOf(1));
+    ASSERT_EQ(sizes.size(), 2U);
+    EXPECT_NEAR(sizes[0].width(), 420, 1); // of the paper
+    const QRect words = inkOf(support::pictureOf(m_desktop.server().documentOf(1), 1, 72));
+    EXPECT_GT(words.height(), 2 * words.width()) << "they don't stand along the longer side";
 }
 
 TEST_F(OnDesktop, WhatAnApplicationHasKeptComesInAndGoesOutAgain)
@@ -300,6 +323,8 @@ TEST_F(OnDesktop, AServiceThatDiesTakesItsDialogWithItAndTheNextOneServes)
     EXPECT_EQ(m_desktop.server().record(1)["PRINTER"], "counter");
 }
 
+bool isPrintButton(const Seen &each) { return each.role == "button" && each.name == "Print" && each.isEnabled; }
+
 TEST_F(OnDesktop, TwoApplicationsAtOnceEachGetTheirOwn)
 {
     const auto first = application({{"gtk", 3}});
@@ -309,14 +334,18 @@ TEST_F(OnDesktop, TwoApplicationsAtOnceEachGetTheirOwn)
     ASSERT_TRUE(choosePaper("A5"));
     const auto second = application({{"gtk", 4}});
     second->print();
-    ASSERT_TRUE(becomes([&] { return m_desktop.window() != firstDialog; }));
-    ASSERT_TRUE(becomes([this] { return m_desktop.processes("prepare-for-application").size() == 2; }));
-    QThread::msleep(1000);
+    ASSERT_TRUE(becomes([this] {
+        const auto seen = m_desktop.screen().look("qnprint");
+        return std::ranges::count_if(seen, isPrintButton) == 2;
+    }));
+    const auto secondDialog = m_desktop.window();
+    ASSERT_NE(secondDialog, firstDialog);
+    activate(*secondDialog);
     fill("alt+c", "2");
     m_desktop.screen().press("alt+p");
     EXPECT_EQ(second->told("begin")["paper"].toString(), "iso_a4");
     EXPECT_EQ(m_desktop.server().record(1)["copies"], "2");
-    m_desktop.screen().ask("xdotool", {"windowactivate", "--sync", QString::number(*firstDialog)});
+    activate(*firstDialog);
     m_desktop.screen().press("alt+p");
     EXPECT_EQ(first->told("begin")["paper"].toString(), "iso_a5");
     EXPECT_EQ(m_desktop.server().record(2)["copies"], "1");
@@ -325,15 +354,18 @@ TEST_F(OnDesktop, TwoApplicationsAtOnceEachGetTheirOwn)
 
 TEST_F(OnDesktop, ADocumentComesThroughAPipeByAnotherConnection)
 {
-    const auto application = this->application({{"gtk", 3}, {"document", QN_SOURCE_DIR "/examples/documents/ticket.pdf"}});
+    const auto application =
+        this->application({{"gtk", 3}, {"document", QN_SOURCE_DIR "/examples/documents/ticket.pdf"}});
     application->print();
     ASSERT_TRUE(canPress("Print"));
     const auto dialog = m_desktop.window();
     ASSERT_TRUE(dialog);
     const QByteArray properties = m_desktop.properties(*dialog);
-    EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\"")) << properties.toStdString(); // no mnemonic
+    EXPECT_TRUE(properties.contains("_NET_WM_NAME(UTF8_STRING) = \"Print\""))
+        << properties.toStdString(); // no mnemonic
     const QByteArray owner = QByteArray::number(application->window(), 16);
-    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n')) << properties.toStdString();
+    EXPECT_TRUE(properties.contains("WM_TRANSIENT_FOR(WINDOW): window id # 0x" + owner + '\n'))
+        << properties.toStdString();
     m_desktop.screen().press("alt+p");
     EXPECT_EQ(application->told("begin")["page-setup"].toObject()["PPDName"].toString(), "A4");
     EXPECT_EQ(application->told("done")["response"].toInt(-1), 0);
@@ -374,6 +406,39 @@ TEST_F(WithOthers, APrinterWithoutPanelsOfOursHasTheDialogOfTheDesktopAtOnce)
     EXPECT_EQ(m_desktop.screen().ask("xdotool", {"search", "--class", "qnprint"}), ""); // shown or not
     m_desktop.screen().press("Escape");
     EXPECT_EQ(application->told("done")["result"].toString(), "cancel");
+}
+
+/// It asks by one process and prints by another. It asks only where the portal has a file chooser, too.
+TEST_F(WithOthers, ABrowserPrintsOnThePaperThatAPersonChose)
+{
+    if (QStandardPaths::findExecutable("chromium").isEmpty())
+        GTEST_SKIP() << "chromium is not installed";
+    const QString page = m_desktop.server().path("page.html");
+    QFile file(page);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("<title>A fare</title><p>Two zones") > 0);
+    file.close();
+    support::Helper browser;
+    browser.setProcessEnvironment(m_desktop.environment());
+    browser.start("chromium", {"--no-sandbox", "--disable-gpu", "--no-first-run", "--disable-print-preview",
+                               "--user-data-dir=" + m_desktop.server().path("browser"), page});
+    ASSERT_TRUE(becomes([this] {
+        return !m_desktop.screen().ask("xdotool", {"search", "--onlyvisible", "--name", "A fare"}).isEmpty();
+    }));
+    m_desktop.screen().press("ctrl+p");
+    ASSERT_TRUE(canPress("Print"));
+    ASSERT_TRUE(choosePaper("A5"));
+    fill("alt+c", "2");
+    m_desktop.screen().press("alt+p");
+    const auto job = m_desktop.server().record(1);
+    EXPECT_EQ(job["title"], "A fare");
+    EXPECT_EQ(job["PageSize"], "A5");
+    EXPECT_EQ(job["copies"], "2");
+    EXPECT_TRUE(wordsOf(1).join(' ').contains("Two zones"));
+    const auto sizes = support::sizesOf(m_desktop.server().documentOf(1));
+    ASSERT_EQ(sizes.size(), 1U);
+    EXPECT_NEAR(sizes[0].width(), 420, 1);
+    browser.terminate();
+    browser.waitForFinished(kMilliseconds);
 }
 
 /// Between the dialog and the document the printer has become unable to take it.
