@@ -28,12 +28,15 @@ public:
             for (const QString &sentence : sentences)
                 complain(sentence);
         });
-        QObject::connect(&dialog, &PrintDialog::refused, &m_loop, [this] { end(Problem()); });
-        QObject::connect(&dialog, &PrintDialog::failed, &m_loop, [this](const Problem &problem) { end(problem); });
+        QObject::connect(&dialog, &PrintDialog::refused, &m_loop, [this] { fail(Problem()); });
+        QObject::connect(&dialog, &PrintDialog::failed, &m_loop, [this](const Problem &problem) { fail(problem); });
         QObject::connect(&dialog, &PrintDialog::printed, &m_loop, [](const QString &where, const QString &fate) {
             report(fate.isEmpty() ? where : where + ' ' + foundation::plainLine(fate));
         });
-        QObject::connect(&dialog, &PrintDialog::finished, &m_loop, [this] { end({}); });
+        QObject::connect(&dialog, &PrintDialog::finished, &m_loop, [this] {
+            m_hasPrinted = true;
+            m_loop.exit();
+        });
     }
 
     Or<void> run()
@@ -45,19 +48,19 @@ public:
             QMetaObject::invokeMethod(&m_loop, [this] { go(); }, Qt::QueuedConnection);
         const Interrupts interrupts([this] { interrupt(); });
         m_loop.exec();
-        return m_end;
+        return m_hasPrinted ? Or<void>() : Or<void>(m_problem);
     }
 
 private:
-    void end(Or<void> how)
+    void fail(const Problem &problem)
     {
-        m_end = std::move(how);
+        m_problem = problem;
         m_loop.exit();
     }
     void go()
     {
         if (m_dialog.state() == PrintDialog::State::noPrinter)
-            return end(m_dialog.problem());
+            return fail(m_dialog.problem());
         if (!m_dialog.target()->note().isEmpty())
             complain(m_dialog.target()->note());
         for (const QString &doubt : m_dialog.target()->doubts())
@@ -69,12 +72,13 @@ private:
         if (m_dialog.state() == PrintDialog::State::sending)
             m_dialog.stop(); // the program would leave half a job behind
         else
-            end(Problem{"cancelled; nothing was printed"});
+            fail(Problem{"cancelled; nothing was printed"});
     }
 
     PrintDialog &m_dialog;
     QEventLoop m_loop;
-    Or<void> m_end;
+    bool m_hasPrinted = false;
+    Problem m_problem;
 };
 
 } // namespace
