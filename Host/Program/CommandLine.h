@@ -4,6 +4,7 @@
 #include "Usage.h"
 
 #include "Dialog/PrintRequest.h"
+#include "Lint/Lint.h"
 #include "Session/Environment.h"
 
 #include "Foundation/Or.h"
@@ -23,6 +24,7 @@ struct CommandLine
     QString panel;      // to show first; empty: the first one
     int page = 1;       // of a preview
     bool plain = false; // a preview in grey
+    LintRequest lint;
     Environment environment;
 };
 

@@ -11,7 +11,7 @@ inline constexpr int kRefused = 1; // or cancelled, or failed
 inline constexpr int kWrongUse = 2;
 
 /// What the program becomes. Only the window needs a display.
-enum class Face { window, batch, script, shot, preview, help, version };
+enum class Face { window, batch, script, shot, preview, lint, help, version };
 
 /// What a shell offers for a value.
 enum class Completion { nothing, ppdFile, folder, queue };
@@ -60,6 +60,12 @@ inline constexpr std::array kOptionRows{
               "Goes with preview only."},
     OptionRow{nullptr, "plain", nullptr, nullptr, "A preview in grey, as it is before the head burns it.",
               "Before halftone, reversal and mirroring. Goes with preview only."},
+    OptionRow{nullptr, "json", nullptr, nullptr, "Findings as objects of JSON, a line each.", "Goes with lint only."},
+    OptionRow{nullptr, "strict", nullptr, nullptr, "Warnings count as errors do.", "Goes with lint only."},
+    OptionRow{nullptr, "bundle", "folder", nullptr, "Bundle whose checks and panels a PPD is looked over with.",
+              "Else the one that the PPD names. Goes with lint only.", Completion::folder},
+    OptionRow{nullptr, "explain", "check", nullptr, "Say what a check looks for and why, with examples.",
+              "The name stands in brackets behind each finding; all shows every check. Goes with lint only."},
     OptionRow{nullptr, "panel", "panel", nullptr, "Panel to show first, by its identifier.",
               "Does not go together with --no-dialog."},
     OptionRow{nullptr, "language", "language", nullptr, "Language of the panels.",
@@ -92,6 +98,10 @@ inline constexpr std::array kFaceRows{
             "Takes a picture of a page as it comes out of the printer, without a display.",
             "A dot of the thermal head is a pixel of the picture, a PNG of the whole sheet in black and white that has "
             "the head's resolution. Nothing is printed. Pages are drawn by pdfinfo and pdftoppm of poppler-utils."},
+    FaceRow{Face::lint, "lint", "lint [options] ppd...",
+            "Looks PPDs over as the library and the panels read them, without a display.",
+            "A finding is a line: file:line: severity: what is wrong and what it leads to [check]. The panels are run "
+            "through every paper. Where cupstestppd of CUPS is installed, its findings are among them."},
 };
 
 struct ExitRow
@@ -101,7 +111,8 @@ struct ExitRow
 };
 inline constexpr std::array kExitRows{
     ExitRow{kDone, "Done: every job was sent, or its document and ticket are in the folder."},
-    ExitRow{kRefused, "Refused, cancelled or failed. Of several documents, those before may have been printed."},
+    ExitRow{kRefused, "Refused, cancelled or failed. Of several documents, those before may have been printed. With lint: "
+                      "a PPD has errors."},
     ExitRow{kWrongUse, "Wrong use: the command line can't be read, or qnprint script met a line that was no known "
                        "request."},
 };
@@ -144,6 +155,7 @@ inline constexpr std::array kExampleRows{
     TermRow{"qnprint --ppd printer.ppd --output out ticket.pdf", "Prints into a folder, without any CUPS server."},
     TermRow{"qnprint preview -d counter -o QnHalftonePattern=Dither --page 2 invoice.pdf page.png",
             "Shows what page 2 will look like."},
+    TermRow{"qnprint lint --strict printer.ppd", "Says what is wrong with a PPD."},
     TermRow{"qnprint shot --ppd printer.ppd --panel advanced panel.png", "Takes a picture of a panel."},
 };
 

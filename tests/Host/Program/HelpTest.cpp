@@ -42,7 +42,8 @@ TEST_F(TheCommand, SaysOfEveryOptionWhatItTakesAndWhatItIsFor)
     EXPECT_EQ(options,
               QStringList({"-h, --help", "--version", "-d, --destination <queue>", "--ppd <file>", "--output <folder>",
                            "-o <keyword=choice>", "-n <number>", "-P <pages>", "-t, --title <title>", "--raw",
-                           "--no-dialog", "--page <number>", "--plain", "--panel <panel>", "--language <language>",
+                           "--no-dialog", "--page <number>", "--plain", "--json", "--strict", "--bundle <folder>",
+                           "--explain <check>", "--panel <panel>", "--language <language>",
                            "--locale <locale>", "--system-version <version>"}))
         << m_output.toStdString();
     EXPECT_FALSE(purposes.contains(QString())) << m_output.toStdString();
