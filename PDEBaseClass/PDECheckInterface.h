@@ -48,8 +48,8 @@ struct PDEFinding
     QString option = {};  // keyword of the option that it is about; empty when it is about none
 };
 
-/// A control that shows the choice of an option by its position: a menu by its item, radio buttons by their row, a box by
-/// its state.
+/// A control that shows the choice of an option by its position: a menu by its item, radio buttons by their row, a box
+/// by its state.
 struct PDEOptionControl
 {
     QString panel; // identifier

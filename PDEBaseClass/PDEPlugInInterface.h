@@ -194,8 +194,8 @@ public:
     /// All that can be remembered, whether or not a dialog is open; for scripts, tests and diagnosis.
     virtual std::vector<PDERemembered> remembered() const = 0;
 
-    /// What the bundle looks for in PPDs that are made for it; the bundle's, and there until the process ends. Null when
-    /// it brings none. Optional; a dialog never asks.
+    /// What the bundle looks for in PPDs that are made for it; the bundle's, and there until the process ends. Null
+    /// when it brings none. Optional; a dialog never asks.
     virtual const PDEChecks *checks() const { return nullptr; }
 };
 

@@ -20,11 +20,12 @@ struct CheckRow
 };
 
 constexpr std::array kRows{
-    CheckRow{kHiddenFlag, PDESeverity::warning,
-             "For each option its hidden flag, with the value \"False\", letter for letter; QnRollPrinterCaseHidden has no "
-             "\"Obj\" in its name.",
-             "The control stays grey, whatever the option offers.", "*QnMediaObjHidden: \"False\"",
-             "*QnMediaObjHidden: \"false\"", findHiddenFlags},
+    CheckRow{
+        kHiddenFlag, PDESeverity::warning,
+        "For each option its hidden flag, with the value \"False\", letter for letter; QnRollPrinterCaseHidden has no "
+        "\"Obj\" in its name.",
+        "The control stays grey, whatever the option offers.", "*QnMediaObjHidden: \"False\"",
+        "*QnMediaObjHidden: \"false\"", findHiddenFlags},
     CheckRow{kOffFirst, PDESeverity::error,
              "For each check box two choices, off first and on second; a default that is on is called ON.",
              "The box goes by position: checked it marks what means off, or shows off while on is the default.",
@@ -38,40 +39,44 @@ constexpr std::array kRows{
              "case.",
              "Rules and rows go by position: without a place there a choice can't be picked, or means another one.",
              "*QnFormFeedMode FF3/Retract Paper: \"<</QnFormFeedMode(FF3)>>setpagedevice\"\n", "", findChoiceCounts},
-    CheckRow{kChoiceOrder, PDESeverity::error,
-             "Form feed: none, fixed page length, end of page, retract. Halftone: binary, dither, error diffusion. Numbers "
-             "at the end of keywords of form feed, density and speed that count upward.",
-             "The panels know these choices by their position: the paper allows another one than it says, and the fixed "
-             "titles are another's.",
-             "*QnHalftonePattern Binary/Binary: \"<</QnHalftonePattern(Binary)>>setpagedevice\"\n"
-             "*QnHalftonePattern Dither/Dither: \"<</QnHalftonePattern(Dither)>>setpagedevice\"",
-             "*QnHalftonePattern Dither/Dither: \"<</QnHalftonePattern(Dither)>>setpagedevice\"\n"
-             "*QnHalftonePattern Binary/Binary: \"<</QnHalftonePattern(Binary)>>setpagedevice\"",
-             findChoiceOrder},
-    CheckRow{kFixedItems, PDESeverity::warning,
-             "As many choices as a menu has items of its own: 12 of density, 5 of speed, 4 of the roll printer case, 2 of "
-             "media and of perforation.",
-             "The menu keeps its own items behind the choices, and picking one of these does nothing.",
-             "*QnRollPrinterCase OnNoAntiCurl/Used, without Anti-Curl: "
-             "\"<</QnRollPrinterCase(OnNoAntiCurl)>>setpagedevice\"\n",
-             "", findFixedItems},
-    CheckRow{kSizeType, PDESeverity::error,
-             "The option QnPaperSizeType with the choices QnCutSize, QnPerforatedSize, QnRollSize, QnInfiniteSize, "
-             "QnPerforatedRetractSize and QnCustomSize.",
-             "The kind of paper is marked by these names: without one the printer is told the kind of the paper before.",
-             "*QnPaperSizeType QnRollSize/Roll: \"<</QnPaperSizeType(QnRollSize)>>setpagedevice\"",
-             "*QnPaperSizeType RollSize/Roll: \"<</QnPaperSizeType(RollSize)>>setpagedevice\"", findSizeTypes},
-    CheckRow{kPaperName, PDESeverity::warning, "Page sizes that are called nearly as one that the panels know.",
-             "Every name that they do not know counts as an own size: form feed, perforation and QnPaperSizeType are those "
-             "of an own size.",
-             "*PageSize RollA4/A4, Roll: \"<</PageSize[595 842]/ImagingBBox null>>setpagedevice\"",
-             "*PageSize rollA4/A4, Roll: \"<</PageSize[595 842]/ImagingBBox null>>setpagedevice\"", findPaperNames},
+    CheckRow{
+        kChoiceOrder, PDESeverity::error,
+        "Form feed: none, fixed page length, end of page, retract. Halftone: binary, dither, error diffusion. Numbers "
+        "at the end of keywords of form feed, density and speed that count upward.",
+        "The panels know these choices by their position: the paper allows another one than it says, and the fixed "
+        "titles are another's.",
+        "*QnHalftonePattern Binary/Binary: \"<</QnHalftonePattern(Binary)>>setpagedevice\"\n"
+        "*QnHalftonePattern Dither/Dither: \"<</QnHalftonePattern(Dither)>>setpagedevice\"",
+        "*QnHalftonePattern Dither/Dither: \"<</QnHalftonePattern(Dither)>>setpagedevice\"\n"
+        "*QnHalftonePattern Binary/Binary: \"<</QnHalftonePattern(Binary)>>setpagedevice\"",
+        findChoiceOrder},
+    CheckRow{
+        kFixedItems, PDESeverity::warning,
+        "As many choices as a menu has items of its own: 12 of density, 5 of speed, 4 of the roll printer case, 2 of "
+        "media and of perforation.",
+        "The menu keeps its own items behind the choices, and picking one of these does nothing.",
+        "*QnRollPrinterCase OnNoAntiCurl/Used, without Anti-Curl: "
+        "\"<</QnRollPrinterCase(OnNoAntiCurl)>>setpagedevice\"\n",
+        "", findFixedItems},
+    CheckRow{
+        kSizeType, PDESeverity::error,
+        "The option QnPaperSizeType with the choices QnCutSize, QnPerforatedSize, QnRollSize, QnInfiniteSize, "
+        "QnPerforatedRetractSize and QnCustomSize.",
+        "The kind of paper is marked by these names: without one the printer is told the kind of the paper before.",
+        "*QnPaperSizeType QnRollSize/Roll: \"<</QnPaperSizeType(QnRollSize)>>setpagedevice\"",
+        "*QnPaperSizeType RollSize/Roll: \"<</QnPaperSizeType(RollSize)>>setpagedevice\"", findSizeTypes},
+    CheckRow{
+        kPaperName, PDESeverity::warning, "Page sizes that are called nearly as one that the panels know.",
+        "Every name that they do not know counts as an own size: form feed, perforation and QnPaperSizeType are those "
+        "of an own size.",
+        "*PageSize RollA4/A4, Roll: \"<</PageSize[595 842]/ImagingBBox null>>setpagedevice\"",
+        "*PageSize rollA4/A4, Roll: \"<</PageSize[595 842]/ImagingBBox null>>setpagedevice\"", findPaperNames},
     CheckRow{kFeedCustom, PDESeverity::error,
              "For QnPaperFeed a custom option with the real parameters QnPaperFeed (inches, first in the file) and mm, "
              "whose ranges agree within 1 mm and hold 26 mm, 1 inch.",
              "The amount can't be typed, is refused, or is marked as another one.",
-             "*ParamCustomQnPaperFeed mm/Millimetres: 2 real 1 51", "*ParamCustomQnPaperFeed mm/Millimetres: 2 int 1 51",
-             findFeedCustom},
+             "*ParamCustomQnPaperFeed mm/Millimetres: 2 real 1 51",
+             "*ParamCustomQnPaperFeed mm/Millimetres: 2 int 1 51", findFeedCustom},
     CheckRow{kCustomSize, PDESeverity::error,
              "VariablePaperSize and the limits of own sizes, which hold each page size of the PPD and agree with "
              "MaxMediaWidth and MaxMediaHeight.",
@@ -83,8 +88,8 @@ constexpr std::array kRows{
              "Without one the control stands in the lower left corner; else over another one, or out of sight.",
              "*QnPerforatedPopBtnOrigin: \"{216, 164}\"", "*QnPerforatedPopBtnOrigin: \"{216, 120}\"", findOrigins},
     CheckRow{kOriginUnused, PDESeverity::note, "Places that are known and deliberately not applied.",
-             "Nothing: the control stays where the interface file has it.", "",
-             "*QnDensityStrOrigin: \"{16, 296}\"", findUnusedOrigins},
+             "Nothing: the control stays where the interface file has it.", "", "*QnDensityStrOrigin: \"{16, 296}\"",
+             findUnusedOrigins},
     CheckRow{kUnknownOption, PDESeverity::warning, "Qn keywords that no panel reads, and keywords that are nearly one.",
              "No control shows the option, and the attribute does nothing.", "*QnSpeedObjHidden: \"False\"",
              "*QnSpedeObjHidden: \"False\"", findUnknownOptions},
@@ -93,8 +98,8 @@ constexpr std::array kRows{
              findVersion},
     CheckRow{kNeverShown, PDESeverity::note,
              "Options that some people never see: mirror on systems from 10.6 on, bi-directional print without USB.",
-             "Nothing, as long as the printer serves without them.", "",
-             "*OpenUI *QnMirror/Mirror Image: PickOne", findNeverShown},
+             "Nothing, as long as the printer serves without them.", "", "*OpenUI *QnMirror/Mirror Image: PickOne",
+             findNeverShown},
 };
 
 /// What the panels show by position. Speed and the halftone rows stand on one panel only.

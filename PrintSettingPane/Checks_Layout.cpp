@@ -114,7 +114,8 @@ void findUnusedOrigins(File &file)
     const PDEStatement *first = nullptr;
     int count = 0;
     for (const PDEStatement &each : file.statements())
-        if (std::ranges::any_of(kOriginRows, [&](const auto &row) { return !row.isApplied && each.keyword == row.attribute; })) {
+        if (std::ranges::any_of(kOriginRows,
+                                [&](const auto &row) { return !row.isApplied && each.keyword == row.attribute; })) {
             first = first ? first : &each;
             ++count;
         }

@@ -47,7 +47,8 @@ QByteArray nearest(QByteArrayView name, const QByteArrayList &known)
     const QString wanted = QString::fromUtf8(name).toLower();
     for (const QByteArray &each : known)
         if (qAbs(each.size() - name.size()) < least)
-            if (const auto letters = foundation::editDistance(wanted, QString::fromLatin1(each).toLower()); letters < least) {
+            if (const auto letters = foundation::editDistance(wanted, QString::fromLatin1(each).toLower());
+                letters < least) {
                 found = each;
                 least = letters;
             }
@@ -81,8 +82,9 @@ void findUnknownOptions(File &file)
         const QByteArray near = nearest(name, known);
         const bool isOurs = name.startsWith(kPrefix);
         if (!near.isEmpty())
-            file.add(kUnknownOption, each.line,
-                     QString("no panel reads %1; is %2 meant?").arg(QString::fromUtf8(name), QString::fromLatin1(near)));
+            file.add(
+                kUnknownOption, each.line,
+                QString("no panel reads %1; is %2 meant?").arg(QString::fromUtf8(name), QString::fromLatin1(near)));
         else if (isOurs)
             file.add(kUnknownOption, each.line,
                      QString("no panel reads %1: nobody can choose it").arg(QString::fromUtf8(name)));

@@ -42,8 +42,8 @@ void findHiddenFlags(File &file)
         const auto value = PDEUtilsMethod::ppdAttrValStr(file.ppd(), row.flag);
         const QString wrong =
             value ? QString("is \"%1\" and not \"False\"").arg(value->left(40)) : QString("is missing");
-        file.add(kHiddenFlag, file.lineOf(row.flag, row.option), QString("%1 %2: %3").arg(row.flag, wrong, row.consequence),
-                 row.option);
+        file.add(kHiddenFlag, file.lineOf(row.flag, row.option),
+                 QString("%1 %2: %3").arg(row.flag, wrong, row.consequence), row.option);
     }
     if (const PDEStatement *const wrong = file.first(kWrongCaseFlag))
         file.add(kHiddenFlag, wrong->line,

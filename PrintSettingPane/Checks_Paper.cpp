@@ -50,8 +50,8 @@ void findPaperNames(File &file)
         if (each.keyword != "PageSize" || name.isEmpty() || name.size() > PPD_MAX_NAME || isKnown(name))
             continue;
         const QString like = knownLike(name);
-        const bool isOfAKind =
-            std::ranges::any_of(kKindWords, [&](const char *word) { return name.startsWith(word, Qt::CaseInsensitive); });
+        const bool isOfAKind = std::ranges::any_of(
+            kKindWords, [&](const char *word) { return name.startsWith(word, Qt::CaseInsensitive); });
         if (like.isEmpty() && !isOfAKind)
             continue;
         const QString meant = like.isEmpty() ? QString() : QString(" (%1 is)").arg(like);

@@ -26,8 +26,8 @@ constexpr std::array kRows{
     CheckRow{check::kConformance, PDESeverity::error,
              "What cupstestppd of CUPS fails on, where it is installed; filters and colour profiles are left out, as "
              "they need not be on this machine.",
-             "The CUPS server may refuse the PPD, or the printer what is made by it.",
-             "*LanguageVersion: English\n", ""},
+             "The CUPS server may refuse the PPD, or the printer what is made by it.", "*LanguageVersion: English\n",
+             ""},
     CheckRow{check::kStructure, PDESeverity::error,
              "Options that begin and end, choices and defaults that stand once, statements with their colon, values "
              "with both quotation marks.",
@@ -50,29 +50,26 @@ constexpr std::array kRows{
              "*OpenUI *Resolution/Resolution: PickOne", "*OpenUI *Resolution: PickOne"},
     CheckRow{check::kEncoding, PDESeverity::error,
              "LanguageEncoding, and texts that are in it and hold no control characters.",
-             "Such texts come out as others, or not at all.", "*LanguageEncoding: UTF-8",
-             "*LanguageEncoding: UTF-9"},
+             "Such texts come out as others, or not at all.", "*LanguageEncoding: UTF-8", "*LanguageEncoding: UTF-9"},
     CheckRow{check::kTranslation, PDESeverity::warning,
              "Languages that translate an option in part, and translations of what the PPD does not have.",
              "A list in two languages at once.", "*de.PageSize A5/A5: \"\"\n", ""},
     CheckRow{check::kExtension, PDESeverity::warning, "APDialogExtension, and a bundle of that name.",
              "The dialog takes the first bundle that it finds, whatever printers that one is for.",
              "*APDialogExtension: \"Installed.plugin\"", "*APDialogExtension: \"Another.plugin\""},
-    CheckRow{check::kConflict, PDESeverity::error,
-             "Settings in which the panels show one choice and another one is marked, or which never settle: the real "
-             "panels are run through every paper and every choice of the menus that decide, as a person would pick "
-             "them, and save after each.",
-             "What is printed is not what the person saw. Mostly the PPD's constraints forbid what the panels' own rules "
-             "settle on.",
-             "", "*UIConstraints: *PageSize A5 *Resolution 203dpi"},
+    CheckRow{
+        check::kConflict, PDESeverity::error,
+        "Settings in which the panels show one choice and another one is marked, or which never settle: the real "
+        "panels are run through every paper and every choice of the menus that decide, as a person would pick "
+        "them, and save after each.",
+        "What is printed is not what the person saw. Mostly the PPD's constraints forbid what the panels' own rules "
+        "settle on.",
+        "", "*UIConstraints: *PageSize A5 *Resolution 203dpi"},
     CheckRow{check::kUnchecked, PDESeverity::note, "Nothing: it tells what could not be checked, and why.",
              "The PPD may have findings that are not shown.", "", ""},
 };
 
-PDECheck described(const CheckRow &row)
-{
-    return {row.name, row.severity, row.looksFor, row.why, row.good, row.bad};
-}
+PDECheck described(const CheckRow &row) { return {row.name, row.severity, row.looksFor, row.why, row.good, row.bad}; }
 
 QByteArrayView view(const char *text) { return {text}; }
 

@@ -57,8 +57,9 @@ QString withoutPath(const Problem &problem, const QString &path)
 void findExtension(const CheckedText &text, const Chosen &chosen, Findings &findings)
 {
     const PDEStatement *const named = text.index.first("APDialogExtension");
-    const QString serves =
-        chosen.path.isEmpty() ? "no panels serve" : QFileInfo(chosen.path).fileName() + " serves, because it is found first";
+    const QString serves = chosen.path.isEmpty()
+                               ? "no panels serve"
+                               : QFileInfo(chosen.path).fileName() + " serves, because it is found first";
     if (!named)
         findings.add(check::kExtension, 1, "*APDialogExtension is missing: " + serves);
     else if (QFileInfo(QString::fromUtf8(named->value)).fileName() != QFileInfo(chosen.path).fileName())

@@ -28,8 +28,8 @@ struct Linted
     std::vector<PDEFinding> findings; // sorted by line
 };
 
-/// Needs an application with widgets, and a store for user defaults that is nobody's. A problem when the bundle that was
-/// asked for can't serve; everything that is wrong with the file is a finding.
+/// Needs an application with widgets, and a store for user defaults that is nobody's. A problem when the bundle that
+/// was asked for can't serve; everything that is wrong with the file is a finding.
 foundation::Or<Linted> lint(const QString &file, const LintRequest &request);
 
 } // namespace host

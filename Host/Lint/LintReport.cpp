@@ -65,8 +65,8 @@ QString asLines(const QString &file, const Linted &linted)
     QString lines;
     for (const PDEFinding &each : linted.findings)
         lines += QString("%1:%2: %3: %4 [%5]\n")
-                     .arg(foundation::plainLine(file), QString::number(each.line), nameOf(severityOf(each, linted)),
-                          foundation::withoutControls(each.message), each.check);
+                     .arg(foundation::withoutControls(file), QString::number(each.line),
+                          nameOf(severityOf(each, linted)), foundation::withoutControls(each.message), each.check);
     return lines;
 }
 
@@ -114,7 +114,7 @@ QString document(const std::vector<PDECheck> &checks)
     const std::size_t common = commonChecks().size();
     QString text = QString(kDocumentHead).arg(common < checks.size() ? checks[common].name : QString());
     for (const PDECheck &check : checks) {
-        text += QString("\n## `%1`\n\n%2. %3\n\nOtherwise: %4\n")
+        text += QString("\n## `%1`\n\n- severity: %2\n- looks for: %3\n- otherwise: %4\n")
                     .arg(check.name, nameOf(check.severity), check.looksFor, check.why);
         if (hasExamples(check))
             text += "\nGood:\n\n" + example(check.good, "    ") + "\nBad:\n\n" + example(check.bad, "    ");

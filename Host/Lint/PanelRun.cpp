@@ -46,8 +46,9 @@ public:
         , m_findings(findings)
         , m_end(std::clock() + kProcessorTime)
     {
-        m_session.setListener({.panelMarks = [this](const QString &key, const QString &choice) { m_asked[key] = choice; },
-                               .changed = {}});
+        m_session.setListener(
+            {.panelMarks = [this](const QString &key, const QString &choice) { m_asked[key] = choice; },
+             .changed = {}});
     }
     ~PanelRun() { m_session.setListener({}); }
     PanelRun(const PanelRun &) = delete;
@@ -283,8 +284,8 @@ void PanelRun::add(const QString &option, const QString &message)
 
 } // namespace
 
-void runThroughPanels(DialogSession &session, const std::vector<PDEOptionControl> &controls, const StatementIndex &index,
-                      Findings &findings)
+void runThroughPanels(DialogSession &session, const std::vector<PDEOptionControl> &controls,
+                      const StatementIndex &index, Findings &findings)
 {
     PanelRun(session, controls, index, findings).run();
 }

@@ -10,7 +10,7 @@ namespace host {
 
 /// Finds states in which a panel shows one choice and another one is marked, and such as never settle. The session is
 /// left in some state.
-void runThroughPanels(DialogSession &session, const std::vector<PDEOptionControl> &controls, const StatementIndex &index,
-                      Findings &findings);
+void runThroughPanels(DialogSession &session, const std::vector<PDEOptionControl> &controls,
+                      const StatementIndex &index, Findings &findings);
 
 } // namespace host

@@ -84,10 +84,7 @@ PDEStatement readStatement(Scanner &scanner)
     return statement;
 }
 
-QByteArrayView withoutAsterisk(QByteArrayView keyword)
-{
-    return keyword.startsWith('*') ? keyword.sliced(1) : keyword;
-}
+QByteArrayView withoutAsterisk(QByteArrayView keyword) { return keyword.startsWith('*') ? keyword.sliced(1) : keyword; }
 
 } // namespace
 

@@ -64,10 +64,10 @@ void findStray(const Opened &opened, const PDEStatement &each, const CheckedText
 {
     const bool isChoice = !each.option.isEmpty() && text.ppd.hasOption(QString::fromUtf8(each.keyword));
     if (isChoice && each.keyword != opened.keyword)
-        findings.add(check::kStructure, each.line,
-                     QString("a choice of %1 stands outside of its option: it is left out")
-                         .arg(QString::fromUtf8(each.keyword)),
-                     each.keyword);
+        findings.add(
+            check::kStructure, each.line,
+            QString("a choice of %1 stands outside of its option: it is left out").arg(QString::fromUtf8(each.keyword)),
+            each.keyword);
 }
 
 void findUnpaired(const CheckedText &text, Findings &findings)
@@ -182,10 +182,10 @@ void findInTable(const SizeTable &table, const QSet<QByteArrayView> &sizes, cons
     }
     for (const PDEStatement *each : text.index.of("PageSize"))
         if (!each->option.isEmpty() && !listed.contains(each->option))
-            findings.add(check::kPageSize, each->line,
-                         QString("the page size %1 is not in *%2: %3")
-                             .arg(quoted(each->option), table.keyword, table.without),
-                         "PageSize");
+            findings.add(
+                check::kPageSize, each->line,
+                QString("the page size %1 is not in *%2: %3").arg(quoted(each->option), table.keyword, table.without),
+                "PageSize");
 }
 
 } // namespace
@@ -221,10 +221,11 @@ void findUnknownInConstraint(const PDEStatement &statement, const CheckedText &t
                          QString("the constraint is about %1, an option that the PPD does not have: it never holds")
                              .arg(quoted(keyword.toUtf8())));
         else if (!choice.isEmpty() && !isCustom && !text.index.first(option->keyword, choice.toUtf8()))
-            findings.add(check::kConstraint, statement.line,
-                         QString("the constraint is about %1 of %2, a choice that the PPD does not have: it never holds")
-                             .arg(quoted(choice.toUtf8()), keyword),
-                         QByteArrayView(option->keyword));
+            findings.add(
+                check::kConstraint, statement.line,
+                QString("the constraint is about %1 of %2, a choice that the PPD does not have: it never holds")
+                    .arg(quoted(choice.toUtf8()), keyword),
+                QByteArrayView(option->keyword));
     }
     if (options < 2)
         findings.add(check::kConstraint, statement.line, "the constraint is not about two options: it never holds");

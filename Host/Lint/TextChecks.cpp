@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-constexpr std::array<const char *, 7> kEncodings{"UTF-8",     "ISOLatin1",    "ISOLatin2",  "ISOLatin5",
+constexpr std::array<const char *, 7> kEncodings{"UTF-8",      "ISOLatin1",   "ISOLatin2",  "ISOLatin5",
                                                  "JIS83-RKSJ", "MacStandard", "WindowsANSI"};
 
 bool isUtf8(QByteArrayView bytes)
@@ -62,8 +62,7 @@ void findEncoding(const CheckedText &text, Findings &findings)
     const bool isInUtf8 = !isKnown || named->value == "UTF-8";
     for (const PDEStatement &each : text.index.all())
         if (const auto wrong = wrongBytes(each, isInUtf8))
-            findings.add(check::kEncoding, each.line,
-                         QString("*%1 %2").arg(quoted(each.keyword).remove('"'), *wrong));
+            findings.add(check::kEncoding, each.line, QString("*%1 %2").arg(quoted(each.keyword).remove('"'), *wrong));
 }
 
 namespace {

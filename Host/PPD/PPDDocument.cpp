@@ -63,9 +63,6 @@ bool isListed(const ppd_option_t &option, const QByteArray &keyword)
 
 Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path, int *line)
 {
-    int end = 0;
-    int &reached = line ? *line : end;
-    reached = 0;
     const auto content = foundation::openRegularFile(path);
     if (!content)
         return content.problem();
@@ -75,7 +72,10 @@ Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path, int *lin
         return Problem{tr("%1: not opened (%2)").arg(path, within.problem().sentence)};
     printing::PPDFile file(ppdOpenFd(::dup((*content)->handle()))); // closes the descriptor that it is given
     if (!file) {
+        int reached = 0;
         const ppd_status_t status = ppdLastError(&reached);
+        if (line)
+            *line = reached;
         return Problem{
             tr("%1: not a PPD file (line %2: %3)").arg(path, QString::number(reached), ppdProblemText(status))};
     }

@@ -35,8 +35,8 @@ class PPDDocument
     Q_DECLARE_TR_FUNCTIONS(host::PPDDocument)
 
 public:
-    /// A problem when the file can't be read or is no PPD. `line` then receives the line up to which the library came,
-    /// 0 when it did not even begin.
+    /// A problem when the file can't be read or is no PPD. `line` receives the line up to which the library came; it
+    /// is left alone when the library did not even begin.
     static foundation::Or<std::unique_ptr<PPDDocument>> open(const QString &path, int *line = nullptr);
 
     PPDDocument(const PPDDocument &) = delete;

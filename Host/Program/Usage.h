@@ -111,8 +111,9 @@ struct ExitRow
 };
 inline constexpr std::array kExitRows{
     ExitRow{kDone, "Done: every job was sent, or its document and ticket are in the folder."},
-    ExitRow{kRefused, "Refused, cancelled or failed. Of several documents, those before may have been printed. With lint: "
-                      "a PPD has errors."},
+    ExitRow{kRefused,
+            "Refused, cancelled or failed. Of several documents, those before may have been printed. With lint: "
+            "a PPD has errors."},
     ExitRow{kWrongUse, "Wrong use: the command line can't be read, or qnprint script met a line that was no known "
                        "request."},
 };

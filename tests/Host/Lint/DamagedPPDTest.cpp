@@ -50,7 +50,8 @@ bool Damager::isForPeople(const QByteArray &line, qsizetype at)
     static const QByteArrayList kNames{"FileVersion", "Manufacturer",  "Product",    "ModelName",
                                        "NickName",    "ShortNickName", "PCFileName", "PSVersion"};
     const auto holds = [&](QByteArrayView part) {
-        return !part.isEmpty() && at >= part.data() - line.constData() && at < part.data() + part.size() - line.constData();
+        return !part.isEmpty() && at >= part.data() - line.constData() &&
+               at < part.data() + part.size() - line.constData();
     };
     return holds(each.text) || (kNames.contains(each.keyword.toByteArray()) && holds(each.value));
 }
@@ -63,7 +64,7 @@ QByteArray Damager::damagedByte(const QByteArray &line, QString &what)
     const qsizetype kind = isForPeople(line, at) ? 3 : below(4);
     const qsizetype code = line.indexOf(": \"<<");
     what = QString("%1 byte %2 %3")
-               .arg(code > 0 && at > code + 2 ? "in code:" : "a")
+               .arg(code > 0 && at > code ? "in code:" : "a")
                .arg(at)
                .arg(QStringList{"lost", "doubled", "another", "no text"}[kind]);
     switch (kind) {
@@ -80,9 +81,18 @@ Damage Damager::damage(const QByteArray &whole)
     const qsizetype at = below(lines.size() - 1); // behind the last one there is nothing
     Damage result{.content = {}, .line = lines[at], .what = {}};
     switch (below(5)) {
-    case 0: result.what = "line lost"; lines.removeAt(at); break;
-    case 1: result.what = "line doubled"; lines.insert(at, lines[at]); break;
-    case 2: result.what = "line cut"; lines[at].truncate(below(lines[at].size())); break;
+    case 0:
+        result.what = "line lost";
+        lines.removeAt(at);
+        break;
+    case 1:
+        result.what = "line doubled";
+        lines.insert(at, lines[at]);
+        break;
+    case 2:
+        result.what = "line cut";
+        lines[at].truncate(below(lines[at].size()));
+        break;
     default: lines[at] = damagedByte(lines[at], result.what); break;
     }
     result.content = lines.join('\n');
@@ -92,7 +102,7 @@ Damage Damager::damage(const QByteArray &whole)
 /// What damage does that neither lint finds nor a person sees.
 struct Unseen
 {
-    const char *what; // has happened
+    const char *what;      // has happened
     const char *beginning; // of the line
     const char *why;
 };
@@ -100,12 +110,15 @@ struct Unseen
 constexpr std::array kUnseen{
     Unseen{"line doubled", "", "the line says the same again"},
     Unseen{"in code", "", "the code is the driver's, and no panel reads it"},
+    Unseen{"", "*%", "it is a comment"},
+    Unseen{"", "*ImageableArea", "within the paper one margin is as good as another, and no control shows it"},
     Unseen{"", "*OrderDependency:", "the order is that in which the driver sends its code"},
     Unseen{"", "*MaxMediaHeight:", "the limit stands in ParamCustomPageSize as well"},
     Unseen{"", "*ParamCustomPageSize Orientation:", "own sizes are never turned"},
     Unseen{"", "*HWMargins:", "the margins of own sizes are none, with the line or without"},
     Unseen{"", "*LeadingEdge", "the edge is the printer's matter"},
-    Unseen{"", "*LandscapeOrientation:", "the panels have nothing that turns, and the preview turns as it does without"},
+    Unseen{"",
+           "*LandscapeOrientation:", "the panels have nothing that turns, and the preview turns as it does without"},
     Unseen{"", "*ColorDevice:", "the head is black in any case"},
     Unseen{"", "*DefaultColorSpace:", "the head is black in any case"},
     Unseen{"", "*cupsModelNumber:", "the number is the driver's"},
@@ -151,7 +164,8 @@ TEST_P(DamagedPPDs, AreFoundOrLookAsBefore)
         const Damage damage = Damager(static_cast<unsigned>(i)).damage(whole);
         const auto findings = lint(damage.content).findings;
         const bool isFound = std::ranges::any_of(findings, [&](const PDEFinding &each) {
-            return std::ranges::none_of(ofWhole, [&](const PDEFinding &other) { return each.message == other.message; });
+            return std::ranges::none_of(ofWhole,
+                                        [&](const PDEFinding &other) { return each.message == other.message; });
         });
         if (isFound)
             continue;

@@ -3,6 +3,7 @@
 
 #include "Foundation/Shadow.h"
 
+#include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -105,7 +106,8 @@ TEST_F(LintCommand, ExplainsEveryCheck)
     for (const PDECheck &check : checks) {
         EXPECT_EQ(run({"--explain", check.name}), 0);
         EXPECT_EQ(m_output, host::explained(check));
-        EXPECT_TRUE(m_output.startsWith(check.name + " (") && m_output.contains(check.looksFor)) << m_output.toStdString();
+        EXPECT_TRUE(m_output.startsWith(check.name + " (") && m_output.contains(check.looksFor))
+            << m_output.toStdString();
         EXPECT_FALSE(check.looksFor.isEmpty() || check.why.isEmpty()) << check.name.toStdString();
     }
     EXPECT_EQ(run({"--json", "--explain", "origin"}), 0);
@@ -127,11 +129,10 @@ struct Misuse
 
 TEST_F(LintCommand, IsUsedWronglyWithoutAPPDWithAnUnknownCheckAndWithABundleThatIsNone)
 {
-    for (const Misuse &row :
-         {Misuse{{}, "lint: needs a PPD"}, Misuse{{"--json"}, "lint: needs a PPD"},
-          Misuse{{"--explain", "off-last"}, "--explain off-last: no such check; all shows them"},
-          Misuse{{"--bundle", "/nowhere", kFull}, "/nowhere: no such plug-in bundle"},
-          Misuse{{"--frills", kFull}, "Unknown option 'frills'."}}) {
+    for (const Misuse &row : {Misuse{{}, "lint: needs a PPD"}, Misuse{{"--json"}, "lint: needs a PPD"},
+                              Misuse{{"--explain", "off-last"}, "--explain off-last: no such check; all shows them"},
+                              Misuse{{"--bundle", "/nowhere", kFull}, "/nowhere: no such plug-in bundle"},
+                              Misuse{{"--frills", kFull}, "Unknown option 'frills'."}}) {
         EXPECT_EQ(run(row.arguments), 2) << row.said;
         EXPECT_EQ(m_said, QString("qnprint: %1\n").arg(row.said));
         EXPECT_EQ(m_output, "");
@@ -158,10 +159,32 @@ TEST_F(LintCommand, TakesTheBundleThatIsAskedFor)
     EXPECT_FALSE(m_output.contains("[extension]")); // nobody asked which one the PPD names
 }
 
+TEST_F(LintCommand, GoesWithoutTheChecksThatABundleDoesNotBring)
+{
+    const QString bundle = m_directory.filePath("LastWords.plugin");
+    ASSERT_TRUE(QDir().mkdir(bundle) && QFile::copy(QN_LAST_WORDS, bundle + "/LastWords.so"));
+    QFile info(bundle + "/Info.json");
+    ASSERT_TRUE(info.open(QIODevice::WriteOnly));
+    info.write(
+        QJsonDocument(
+            {{"executable", "LastWords.so"}, {"principalClass", "LastWords"}, {"abiVersion", kPDEInterfaceVersion}})
+            .toJson());
+    info.close();
+    const QString file = fileOf(edited(fullPPD(), "*DefaultQnMedia: Thermal", "*DefaultQnMedia: None"));
+    EXPECT_EQ(run({"--bundle", bundle, file}), 1);
+    EXPECT_TRUE(m_output.contains(":1: note: LastWords.plugin brings no checks of its own [unchecked]"));
+    EXPECT_TRUE(m_output.contains("[default-choice]"));
+    EXPECT_FALSE(m_output.contains("[never-shown]")) << m_output.toStdString();
+    EXPECT_EQ(run({"--bundle", bundle, "--explain", "never-shown"}), 2);
+}
+
 TEST_F(LintCommand, RefusesWhatIsNoPPDInOneLineEach)
 {
     const QByteArray head = "*PPD-Adobe: \"4.3\"\n";
-    const QByteArray binary = QByteArray("\x7f""ELF\0\1\2\xff", 8).repeated(4096);
+    const QByteArray binary = QByteArray("\x7f"
+                                         "ELF\0\1\2\xff",
+                                         8)
+                                  .repeated(4096);
     for (const QByteArray &content :
          {QByteArray(), QByteArray("Dear reader,\n"), binary, head + binary, head.repeated(100'000)}) {
         const QString file = fileOf(content);
@@ -174,7 +197,8 @@ TEST_F(LintCommand, RefusesWhatIsNoPPDInOneLineEach)
     ASSERT_TRUE(QFile::resize(huge, qint64{1} << 30));
     for (const QString &path : {huge, m_directory.path(), QString("/dev/zero"), QString("/nowhere/printer.ppd")}) {
         EXPECT_EQ(run({path}), 1);
-        EXPECT_TRUE(m_output.startsWith(path + ":1: error: ") && m_output.endsWith(" [open]\n")) << m_output.toStdString();
+        EXPECT_TRUE(m_output.startsWith(path + ":1: error: ") && m_output.endsWith(" [open]\n"))
+            << m_output.toStdString();
     }
     EXPECT_LT(memoryUsed(), kMostMemory);
 }

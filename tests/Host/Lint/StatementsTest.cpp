@@ -42,12 +42,14 @@ INSTANTIATE_TEST_SUITE_P(
     Of, StatementLine,
     testing::Values(Line{"*FileVersion: \"1.5\"", "FileVersion|-|-|1.5"},
                     Line{"*OpenUI *PageSize/Media Size: PickOne", "OpenUI|*PageSize|Media Size|PickOne"},
-                    Line{"*PageSize A4/A4, Roll: \"<</PageSize[595 842]>>\"", "PageSize|A4|A4, Roll|<</PageSize[595 842]>>"},
+                    Line{"*PageSize A4/A4, Roll: \"<</PageSize[595 842]>>\"",
+                         "PageSize|A4|A4, Roll|<</PageSize[595 842]>>"},
                     Line{"*QnPaperFeed Feed1/1/2 inch: \"x\"", "QnPaperFeed|Feed1|1/2 inch|x"},
                     Line{"*QnMedia A/: \"x\"", "QnMedia|A||x"}, Line{"*QnMedia A: \"\"", "QnMedia|A|-|"},
                     Line{"*DefaultQnMedia:A  \r\n", "DefaultQnMedia|-|-|A"}, Line{"*End", "End|-|-|-"},
                     Line{"*Flag \"False\"", "Flag|\"False\"|-|-"}, Line{"*", "|-|-|-"}, Line{"*:", "|-|-|"},
-                    Line{"*Code: \"one\ntwo\" behind", "Code|-|-|one\ntwo"}, Line{"*Open: \"no end", "Open|-|-|no end"}));
+                    Line{"*Code: \"one\ntwo\" behind", "Code|-|-|one\ntwo"},
+                    Line{"*Open: \"no end", "Open|-|-|no end"}));
 
 TEST(Statements, AreCountedByTheirLinesHoweverThoseEnd)
 {

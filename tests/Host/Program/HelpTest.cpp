@@ -39,12 +39,27 @@ TEST_F(TheCommand, SaysOfEveryOptionWhatItTakesAndWhatItIsFor)
         options.append(match.captured(1));
         purposes.append(match.captured(2));
     }
-    EXPECT_EQ(options,
-              QStringList({"-h, --help", "--version", "-d, --destination <queue>", "--ppd <file>", "--output <folder>",
-                           "-o <keyword=choice>", "-n <number>", "-P <pages>", "-t, --title <title>", "--raw",
-                           "--no-dialog", "--page <number>", "--plain", "--json", "--strict", "--bundle <folder>",
-                           "--explain <check>", "--panel <panel>", "--language <language>",
-                           "--locale <locale>", "--system-version <version>"}))
+    EXPECT_EQ(options, QStringList({"-h, --help",
+                                    "--version",
+                                    "-d, --destination <queue>",
+                                    "--ppd <file>",
+                                    "--output <folder>",
+                                    "-o <keyword=choice>",
+                                    "-n <number>",
+                                    "-P <pages>",
+                                    "-t, --title <title>",
+                                    "--raw",
+                                    "--no-dialog",
+                                    "--page <number>",
+                                    "--plain",
+                                    "--json",
+                                    "--strict",
+                                    "--bundle <folder>",
+                                    "--explain <check>",
+                                    "--panel <panel>",
+                                    "--language <language>",
+                                    "--locale <locale>",
+                                    "--system-version <version>"}))
         << m_output.toStdString();
     EXPECT_FALSE(purposes.contains(QString())) << m_output.toStdString();
     EXPECT_EQ(purposes.removeDuplicates(), 0) << m_output.toStdString();
