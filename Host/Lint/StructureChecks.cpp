@@ -32,6 +32,10 @@ void findLostMarks(const CheckedText &text, Findings &findings)
             findings.add(check::kStructure, each.line,
                          QString("*%1 has no colon and so no value: it counts for nothing")
                              .arg(QString::fromUtf8(each.keyword).left(40)));
+        if (each.value.startsWith(':'))
+            findings.add(check::kStructure, each.line,
+                         QString("*%1 has two colons: the second one is read as part of the value")
+                             .arg(QString::fromUtf8(each.keyword).left(40)));
         if (swallowsStatements(each.value) || hasOneMark(each.value))
             findings.add(check::kStructure, each.line,
                          QString("the value of *%1 has one quotation mark: the lines below it are read as part of it")
