@@ -52,6 +52,7 @@
 #include <optional>
 #include <vector>
 
+class PDEChecks; // PDECheckInterface.h, for those who bring checks or ask for them
 class QWidget;
 
 namespace foundation {
@@ -60,7 +61,7 @@ class Bundle;
 
 /// Raised whenever a declaration of this file changes; a bundle names the one it was built with in its Info.json. The
 /// number stands here only: the build reads this line for the Info.json, the preprocessor for the identifier below.
-#define QN_PDE_INTERFACE_VERSION 102
+#define QN_PDE_INTERFACE_VERSION 103
 inline constexpr int kPDEInterfaceVersion = QN_PDE_INTERFACE_VERSION;
 
 /// The panel type that stands for printing options.
@@ -235,6 +236,10 @@ public:
     /// All that can be remembered, whether or not a dialog is open; for scripts, tests and diagnosis. Empty for a
     /// bundle whose panels remember nothing.
     virtual std::vector<PDERemembered> remembered() const = 0;
+
+    /// What the bundle looks for in PPDs that are made for it; the bundle's, and there until the process ends. Null
+    /// when it brings none. Optional; a dialog never asks.
+    virtual const PDEChecks *checks() const { return nullptr; }
 };
 
 #define PDEPlugInEntry_iid "org.qnprint.PDEPlugInEntry/" QT_STRINGIFY(QN_PDE_INTERFACE_VERSION)

@@ -1,5 +1,6 @@
 // The root object of the bundle's shared object: where the host comes in.
 #include "BasePDEPlugIn.h"
+#include "Checks.h"
 #include "PerforatedMemo.h"
 #include "PrintSettingAdvancedPDE.h"
 #include "PrintSettingPDE.h"
@@ -34,6 +35,7 @@ public:
             return nullptr;
         return std::make_unique<QNKVPageSettings15PlugIn_v100_>(kPanels);
     }
+    const PDEChecks *checks() const override { return &bundleChecks(); }
     std::vector<PDERemembered> remembered() const override { return {{perforatedMemo::kKey, perforatedMemo::value()}}; }
 };
 

@@ -1,9 +1,10 @@
 // Options of a job by name.
 #include "OptionValues.h"
 
+#include "Foundation/Text.h"
+
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -123,22 +124,6 @@ bool isAmong(const auto &words, const QString &keyword)
         words, [&keyword](const char *word) { return keyword.compare(QLatin1String(word), Qt::CaseInsensitive) == 0; });
 }
 
-/// How many letters have to be put in, taken out or replaced to make one word of the other.
-qsizetype distance(const QString &one, const QString &other)
-{
-    std::vector<qsizetype> row(static_cast<std::size_t>(other.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (qsizetype i = 0; i < one.size(); ++i) {
-        qsizetype diagonal = std::exchange(row[0], i + 1);
-        for (std::size_t j = 1; j < row.size(); ++j) {
-            const bool isSame = one[i] == other[static_cast<qsizetype>(j) - 1];
-            const qsizetype best = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (isSame ? 0 : 1)});
-            diagonal = std::exchange(row[j], best);
-        }
-    }
-    return row.back();
-}
-
 bool isWord(const QString &text)
 {
     const auto isOfWords = [](QChar each) {
@@ -167,7 +152,7 @@ QString similarOption(const QString &keyword, const QStringList &known)
     QString nearest;
     qsizetype least = keyword.size() / 3 + 1; // more is another word
     for (const QString &word : words)
-        if (const qsizetype letters = distance(keyword.toLower(), word.toLower()); letters < least) {
+        if (const qsizetype letters = foundation::editDistance(keyword.toLower(), word.toLower()); letters < least) {
             nearest = word;
             least = letters;
         }

@@ -61,20 +61,23 @@ bool isListed(const ppd_option_t &option, const QByteArray &keyword)
 
 } // namespace
 
-Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path)
+Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path, int *line)
 {
     const auto content = foundation::openRegularFile(path);
     if (!content)
         return content.problem();
     if ((*content)->size() == 0)
         return Problem{tr("%1: not a PPD file (the file is empty)").arg(path)};
-    if (const auto within = checkPPDLimits(**content); !within)
+    if (const auto within = ppdContent(**content); !within)
         return Problem{tr("%1: not opened (%2)").arg(path, within.problem().sentence)};
     printing::PPDFile file(ppdOpenFd(::dup((*content)->handle()))); // closes the descriptor that it is given
     if (!file) {
-        int line = 0;
-        const ppd_status_t status = ppdLastError(&line);
-        return Problem{tr("%1: not a PPD file (line %2: %3)").arg(path, QString::number(line), ppdProblemText(status))};
+        int reached = 0;
+        const ppd_status_t status = ppdLastError(&reached);
+        if (line)
+            *line = reached;
+        return Problem{
+            tr("%1: not a PPD file (line %2: %3)").arg(path, QString::number(reached), ppdProblemText(status))};
     }
     return std::unique_ptr<PPDDocument>(new PPDDocument(std::move(file)));
 }

@@ -35,8 +35,9 @@ class PPDDocument
     Q_DECLARE_TR_FUNCTIONS(host::PPDDocument)
 
 public:
-    /// A problem when the file can't be read or is no PPD.
-    static foundation::Or<std::unique_ptr<PPDDocument>> open(const QString &path);
+    /// A problem when the file can't be read or is no PPD. `line` receives the line up to which the library came; it
+    /// is left alone when the library did not even begin.
+    static foundation::Or<std::unique_ptr<PPDDocument>> open(const QString &path, int *line = nullptr);
 
     PPDDocument(const PPDDocument &) = delete;
     PPDDocument &operator=(const PPDDocument &) = delete;

@@ -53,19 +53,20 @@ QByteArray contentOf(const QFile &file)
     return content;
 }
 
+/// Lines end as on any system.
 qsizetype countLines(const QByteArray &content, QByteArrayView beginning)
 {
-    qsizetype count = content.startsWith(beginning) ? 1 : 0;
-    for (qsizetype at = content.indexOf('\n'); at >= 0; at = content.indexOf('\n', at + 1))
-        count += QByteArrayView(content).sliced(at + 1).startsWith(beginning) ? 1 : 0;
+    qsizetype count = 0;
+    for (qsizetype at = content.indexOf(beginning); at >= 0; at = content.indexOf(beginning, at + 1))
+        count += at == 0 || content[at - 1] == '\n' || content[at - 1] == '\r' ? 1 : 0;
     return count;
 }
 
 } // namespace
 
-Or<void> checkPPDLimits(QFile &file)
+Or<QByteArray> ppdContent(QFile &file)
 {
-    const QByteArray content = contentOf(file);
+    QByteArray content = contentOf(file);
     ::lseek(file.handle(), 0, SEEK_SET);
     if (content.size() > kMostBytes)
         return Problem{QCoreApplication::translate("host::PPDLimits", "the file is too large")};
@@ -74,7 +75,7 @@ Or<void> checkPPDLimits(QFile &file)
             return Problem{
                 QCoreApplication::translate("host::PPDLimits", "more than %1 %2")
                     .arg(QString::number(limit.most), QCoreApplication::translate("host::PPDLimits", limit.what))};
-    return {};
+    return content;
 }
 
 } // namespace host

@@ -3,12 +3,14 @@
 
 #include "Foundation/Or.h"
 
+#include <QByteArray>
+
 class QFile;
 
 namespace host {
 
-/// A problem when the file holds so much that the library would be busy with it for longer than half a second. The
-/// file stands at its beginning afterwards.
-foundation::Or<void> checkPPDLimits(QFile &file);
+/// What the file holds, as the library reads it; a problem when that is so much that the library would be busy with it
+/// for longer than half a second. The file stands at its beginning afterwards.
+foundation::Or<QByteArray> ppdContent(QFile &file);
 
 } // namespace host

@@ -176,6 +176,22 @@ Or<void> readPortal(const QCommandLineParser &parser, CommandLine &line)
     return {};
 }
 
+/// What a PPD is looked over with.
+Or<void> readLint(const QCommandLineParser &parser, CommandLine &line)
+{
+    for (const char *option : {"json", "strict", "bundle", "explain"})
+        if (parser.isSet(option) && line.face != Face::lint)
+            return Problem{QString("--%1 goes with lint only").arg(option)};
+    line.lint = {.files = parser.positionalArguments(),
+                 .bundle = parser.value("bundle"),
+                 .explain = parser.value("explain"),
+                 .asJson = parser.isSet("json"),
+                 .isStrict = parser.isSet("strict")};
+    if (line.face == Face::lint && line.lint.files.isEmpty() && line.lint.explain.isEmpty())
+        return Problem{"lint: needs a PPD"};
+    return {};
+}
+
 const FaceRow *namedFace(const QStringList &arguments)
 {
     const auto *const row =
@@ -245,6 +261,8 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
     line.printSettings = parser.value("print-settings");
     if (const auto settings = readSettingsFile(line.printSettings, *request); !settings)
         return settings.problem();
+    if (const auto lint = readLint(parser, line); !lint)
+        return lint.problem();
     line.files = parser.positionalArguments();
     line.panel = parser.value("panel");
     line.compared = parser.value("compare");

@@ -4,6 +4,7 @@
 #include "Usage.h"
 
 #include "Dialog/PrintRequest.h"
+#include "Lint/Lint.h"
 #include "Script/Script.h"
 #include "Session/Environment.h"
 
@@ -31,6 +32,7 @@ struct CommandLine
     QString printSettings; // a file; empty: none
     QString compared;      // an earlier picture of the window; empty: none
     ScriptFiles script;
+    LintRequest lint;
     Environment environment;
 };
 

@@ -22,5 +22,7 @@ int printWithoutWindow(const CommandLine &line);
 int takeShot(const CommandLine &line);
 /// `qnprint preview DOCUMENT PICTURE`: a page as it will come out.
 int previewPage(const CommandLine &line);
+/// `qnprint lint PPD...`: PPDs looked over.
+int checkPPDs(const CommandLine &line);
 
 } // namespace host

@@ -11,7 +11,7 @@ inline constexpr int kRefused = 1; // or cancelled, or failed
 inline constexpr int kWrongUse = 2;
 
 /// What the program becomes. Only the window needs a display.
-enum class Face { window, batch, script, shot, preview, portal, help, version };
+enum class Face { window, batch, script, shot, preview, portal, lint, help, version };
 
 /// What a shell offers for a value.
 enum class Completion { nothing, file, ppdFile, folder, queue };
@@ -80,6 +80,12 @@ inline constexpr std::array kOptionRows{
               "Where they differ, the dots that do are red in another picture beside the new one: for panel.png it is "
               "panel-differences.png. Fonts and styles of another machine differ as well. Goes with shot only.",
               Completion::file},
+    OptionRow{nullptr, "json", nullptr, nullptr, "Findings as objects of JSON, a line each.", "Goes with lint only."},
+    OptionRow{nullptr, "strict", nullptr, nullptr, "Warnings count as errors do.", "Goes with lint only."},
+    OptionRow{nullptr, "bundle", "folder", nullptr, "Bundle whose checks and panels a PPD is looked over with.",
+              "Else the one that the PPD names. Goes with lint only.", Completion::folder},
+    OptionRow{nullptr, "explain", "check", nullptr, "Say what a check looks for and why, with examples.",
+              "The name stands in brackets behind each finding; all shows every check. Goes with lint only."},
     OptionRow{nullptr, "panel", "panel", nullptr, "Panel to show first, by its identifier.",
               "Does not go together with --no-dialog."},
     OptionRow{nullptr, "language", "language", nullptr, "Language of the panels.",
@@ -116,6 +122,10 @@ inline constexpr std::array kFaceRows{
             "Serves the desktop's portal, by which applications print.",
             "The session bus starts the service when an application wants to print, and it ends when nobody has for a "
             "minute. With --ppd and --output its dialogs print into a folder."},
+    FaceRow{Face::lint, "lint", "lint [options] ppd...",
+            "Looks PPDs over as the library and the panels read them, without a display.",
+            "A finding is a line: file:line: severity: what is wrong and what it leads to [check]. The panels are run "
+            "through every paper. Where cupstestppd of CUPS is installed, its findings are among them."},
 };
 
 struct ExitRow
@@ -127,7 +137,7 @@ inline constexpr std::array kExitRows{
     ExitRow{kDone, "Done: every job was sent, or its document and ticket are in the folder."},
     ExitRow{kRefused,
             "Refused, cancelled or failed. Of several documents, those before may have been printed. What was "
-            "to be compared differs."},
+            "to be compared differs. With lint: a PPD has errors."},
     ExitRow{kWrongUse, "Wrong use: the command line can't be read, or qnprint script met a line that was no known "
                        "request."},
 };
@@ -172,6 +182,7 @@ inline constexpr std::array kExampleRows{
     TermRow{"qnprint --ppd printer.ppd --output out ticket.pdf", "Prints into a folder, without any CUPS server."},
     TermRow{"qnprint preview -d counter -o PageSize=A5 --page 2 invoice.pdf page.png",
             "Shows what page 2 will look like."},
+    TermRow{"qnprint lint --strict printer.ppd", "Says what is wrong with a PPD."},
     TermRow{"qnprint shot --ppd printer.ppd --panel advanced panel.png", "Takes a picture of a panel."},
     TermRow{"qnprint script --expect panel.replies <panel.jsonl", "Tells whether panels still do what they did."},
 };

@@ -55,13 +55,14 @@ int run(Face face, const host::Arguments &arguments, int argc, char *argv[])
     }
     if (face == Face::script)
         return driveByScript(*line, arguments.ofQt);
-    if (face != Face::shot && line->request.ppd.isEmpty())
+    if (face != Face::shot && face != Face::lint && line->request.ppd.isEmpty())
         host::prepareConversation(); // starts while the application does
     const host::Application application(face, arguments.ofQt);
     line->environment.apply();
     switch (face) {
     case Face::shot: return host::takeShot(*line);
     case Face::preview: return host::previewPage(*line);
+    case Face::lint: return host::checkPPDs(*line);
     case Face::batch: return host::printWithoutWindow(*line);
     default: return host::openDialog(*line);
     }

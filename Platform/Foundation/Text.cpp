@@ -9,7 +9,10 @@
 #include <clocale>
 #include <cstdlib>
 #include <limits>
+#include <numeric>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace foundation {
 
@@ -97,6 +100,21 @@ QPointF pointFromString(const QString &text)
     if (sides.size() != 2 || !std::ranges::all_of(sides, isSide))
         return {};
     return {doubleValue(sides[0].trimmed()), doubleValue(sides[1].trimmed())};
+}
+
+qsizetype editDistance(QStringView one, QStringView other)
+{
+    std::vector<qsizetype> row(static_cast<std::size_t>(other.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 0; i < one.size(); ++i) {
+        qsizetype diagonal = std::exchange(row[0], i + 1);
+        for (std::size_t j = 1; j < row.size(); ++j) {
+            const bool isSame = one[i] == other[static_cast<qsizetype>(j) - 1];
+            const qsizetype best = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (isSame ? 0 : 1)});
+            diagonal = std::exchange(row[j], best);
+        }
+    }
+    return row.back();
 }
 
 } // namespace foundation

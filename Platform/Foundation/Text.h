@@ -27,4 +27,7 @@ QString stringFromDouble(double value);
 /// "{12, 34}"; the zero point when the text is anything else.
 QPointF pointFromString(const QString &text);
 
+/// How many letters have to be put in, taken out or replaced to make one word of the other.
+qsizetype editDistance(QStringView one, QStringView other);
+
 } // namespace foundation

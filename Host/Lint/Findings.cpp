@@ -1,0 +1,35 @@
+// What was found in one PPD.
+#include "Findings.h"
+
+#include "Foundation/PlainText.h"
+
+#include <algorithm>
+
+namespace host {
+
+QString quoted(QByteArrayView bytes)
+{
+    constexpr qsizetype kLongest = 60;
+    const QString text = foundation::plainLine(QString::fromUtf8(bytes.first(qMin(bytes.size(), 4 * kLongest))));
+    return QString("\"%1\"").arg(text.size() > kLongest ? text.left(kLongest) + QChar(0x2026) : text);
+}
+
+void Findings::add(const char *check, int line, const QString &message, QByteArrayView option)
+{
+    add({.line = line, .check = check, .message = message, .option = QString::fromUtf8(option)});
+}
+
+/// A bundle is trusted to find, not to number.
+void Findings::add(PDEFinding finding)
+{
+    finding.line = qMax(finding.line, 1);
+    m_all.push_back(std::move(finding));
+}
+
+std::vector<PDEFinding> Findings::sorted() &&
+{
+    std::ranges::stable_sort(m_all, {}, &PDEFinding::line);
+    return std::move(m_all);
+}
+
+} // namespace host
