@@ -288,19 +288,6 @@ TEST_F(GroupPanel, SpeaksTheLanguageOfThePPDThenOfTheBundle)
     EXPECT_EQ(titles("MediaType"), QStringList({"Normalpapier", "Own"}));
 }
 
-TEST_F(GroupPanel, ScrollsWhereAGroupIsLong)
-{
-    PPDText ppd;
-    ppd.line("*OpenGroup: Long/Long");
-    for (char letter = 'A'; letter <= 'Z'; ++letter)
-        ppd.option(QByteArray("Xx") + letter, QByteArray("Option ") + letter, "A", {{"A", "a"}, {"B", "b"}});
-    open(ppd.line("*CloseGroup: Long"));
-    show("Long");
-    EXPECT_EQ(keys("Long").size(), 26);
-    pick("XxZ", 1);
-    EXPECT_EQ(marked("XxZ"), "B");
-}
-
 TEST_F(GroupPanel, DoesNotTakeTheOneForAnother)
 {
     open(office());

@@ -73,6 +73,23 @@ TEST_F(OfficePrinter, TellsWhatAConstraintHasMoved)
     EXPECT_EQ(find<QComboBox>("Tray")->currentText(), "Upper Tray");
 }
 
+TEST_F(OfficePrinter, ScrollsWhereAGroupIsLong)
+{
+    PPDText ppd;
+    ppd.line("*OpenGroup: Long/Long");
+    for (char letter = 'A'; letter <= 'Z'; ++letter)
+        ppd.option(QByteArray("Xx") + letter, QByteArray("Option ") + letter, "A", {{"A", "a"}, {"B", "b"}});
+    open(ppd.line("*CloseGroup: Long"));
+    auto *const last = m_window->findChild<QComboBox *>("XxZ");
+    const auto isSeen = [last] { return !last->visibleRegion().isEmpty(); };
+    EXPECT_FALSE(isSeen());
+    QWidget *const before = last->previousInFocusChain();
+    before->setFocus();
+    QTest::keyClick(before, Qt::Key_Tab);
+    EXPECT_TRUE(last->hasFocus());
+    EXPECT_TRUE(isSeen());
+}
+
 TEST_F(OfficePrinter, WithNothingToChooseSaysSo)
 {
     open(PPDText());
