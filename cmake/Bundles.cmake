@@ -1,11 +1,12 @@
 # How a bundle is built: by makers of drivers with the installed package, and here.
 #
 #   qn_add_bundle(NAME name PRINCIPAL class SOURCES file... [LIBRARIES target...] [IDENTIFIER identifier]
-#                 [VERSION version] [INTERFACES file.ui...] [TEXTS Localizable_language.ts...] [PICTURES file.png...])
+#                 [VERSION version] [INTERFACES file.ui...] [TEXTS Localizable_language.ts...] [PICTURES file.png...]
+#                 [FOLDER name])
 #
 # The target `name` is the bundle's code, linked with the protocol and the libraries of the platform. Built, the bundle
 # is the folder `plugins/name.plugin` of the project's build folder; installed, one of the plug-in folder of qnprint
-# below the prefix.
+# below the prefix. FOLDER: a folder within that, as bundles have that serve whatever printer.
 
 include_guard(GLOBAL)
 set(QN_BUNDLES_DIR ${CMAKE_CURRENT_LIST_DIR})
@@ -81,7 +82,7 @@ function(qn_add_bundle_resources name folder)
 endfunction()
 
 function(qn_add_bundle)
-    cmake_parse_arguments(PARSE_ARGV 0 bundle "" "NAME;PRINCIPAL;IDENTIFIER;VERSION"
+    cmake_parse_arguments(PARSE_ARGV 0 bundle "" "NAME;PRINCIPAL;IDENTIFIER;VERSION;FOLDER"
         "SOURCES;LIBRARIES;INTERFACES;TEXTS;PICTURES")
     foreach(needed NAME PRINCIPAL SOURCES)
         if(NOT bundle_${needed})
@@ -97,7 +98,8 @@ function(qn_add_bundle)
     if(NOT bundle_VERSION)
         set(bundle_VERSION ${PROJECT_VERSION})
     endif()
-    set(folder ${PROJECT_BINARY_DIR}/plugins/${bundle_NAME}.plugin)
+    cmake_path(APPEND place "${bundle_FOLDER}" ${bundle_NAME}.plugin)
+    set(folder ${PROJECT_BINARY_DIR}/plugins/${place})
     qn_interface_version(bundle_INTERFACE)
     qn_build_tag(bundle_BUILD)
     configure_file(${QN_BUNDLES_DIR}/Info.json.in ${folder}/Info.json @ONLY)
@@ -108,11 +110,11 @@ function(qn_add_bundle)
     # Its calls of itself are bound when it is linked, not each time it is loaded.
     target_link_options(${bundle_NAME} PRIVATE -Wl,-Bsymbolic-functions)
     set_target_properties(${bundle_NAME} PROPERTIES PREFIX "" AUTOMOC ON LIBRARY_OUTPUT_DIRECTORY ${folder}
-        INSTALL_RPATH "$ORIGIN/../..")
+        INSTALL_RPATH "$ORIGIN/../..$<$<BOOL:${bundle_FOLDER}>:/..>")
     qn_add_bundle_resources(${bundle_NAME} ${folder} INTERFACES ${bundle_INTERFACES} TEXTS ${bundle_TEXTS}
         PICTURES ${bundle_PICTURES})
 
-    set(installed ${QN_PLUGIN_DIR}/${bundle_NAME}.plugin)
+    set(installed ${QN_PLUGIN_DIR}/${place})
     install(TARGETS ${bundle_NAME} LIBRARY DESTINATION ${installed})
     install(FILES ${folder}/Info.json DESTINATION ${installed})
     install(DIRECTORY ${folder}/Resources DESTINATION ${installed})

@@ -149,6 +149,7 @@ Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues 
                                 DialogSession::Parameters parameters, std::unique_ptr<PPDDocument> ppd)
 {
     parameters.localization = request.language;
+    parameters.choosesByClaims = true;
     parameters.defaults = withMediaAsPageSize(startingWith(parameters.defaults, request, m_name));
     parameters.defaults.insert(withMediaAsPageSize(request.options));
     parameters.defaults.insert(carried);
@@ -208,6 +209,7 @@ void PPDTarget::start(std::function<void()> changed)
     m_session->setListener(
         {.panelMarks = {}, .changed = [changed = std::move(changed)](const QString &, const QString &) { changed(); }});
     m_session->start(DialogSession::Prepare::firstPanel);
+    m_doubts += m_session->bundleProblems();
 }
 
 OptionValues PPDTarget::restore(const QString &preset)

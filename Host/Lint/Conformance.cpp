@@ -63,8 +63,8 @@ Conformance::Conformance(const QByteArray &content)
         (*file)->write(content) != content.size() || !(*file)->flush())
         return;
     m_file = *std::move(file);
-    m_program =
-        std::make_unique<ConfinedProgram>(environment, kArguments, pathOfDescriptor(m_file->handle()), kAllowance);
+    m_program = std::make_unique<ConfinedProgram>(environment, kArguments, Streams{pathOfDescriptor(m_file->handle())},
+                                                  kAllowance);
 }
 
 Conformance::~Conformance() = default;

@@ -147,20 +147,37 @@ OptionValues PPDDocument::unknownAmong(const OptionValues &options) const
     return result;
 }
 
-QString PPDDocument::optionText(const QString &keyword) const
+bool PPDDocument::takesPoints(const QString &keyword) const
 {
+    ppd_coption_t *const custom = ppdFindCustomOption(m_file.get(), keyword.toUtf8().constData());
+    const ppd_cparam_t *const parameter = custom ? ppdFirstCustomParam(custom) : nullptr;
+    return parameter && parameter->type == PPD_CUSTOM_POINTS;
+}
+
+/// Of a language with its region, else of the language.
+std::optional<QString> PPDDocument::translation(const QString &language, const QString &table, const QString &of) const
+{
+    for (const QString &name : {language, language.section('_', 0, 0)}) {
+        const ppd_attr_t *const translated =
+            ppdFindAttr(m_file.get(), (name + '.' + table).toUtf8().constData(), of.toUtf8().constData());
+        if (translated && *translated->text)
+            return text(translated->text);
+    }
+    return std::nullopt;
+}
+
+QString PPDDocument::optionText(const QString &keyword, const QString &language) const
+{
+    if (const auto translated = translation(language, "Translation", keyword))
+        return *translated;
     const ppd_option_t *const found = option(keyword);
     return found && *found->text ? text(found->text) : keyword;
 }
 
 QString PPDDocument::choiceText(const QString &keyword, const QString &choice, const QString &language) const
 {
-    for (const QString &name : {language, language.section('_', 0, 0)}) {
-        const QByteArray table = (name + '.' + keyword).toUtf8();
-        const ppd_attr_t *const translated = ppdFindAttr(m_file.get(), table.constData(), choice.toUtf8().constData());
-        if (translated && *translated->text)
-            return text(translated->text);
-    }
+    if (const auto translated = translation(language, keyword, choice))
+        return *translated;
     ppd_option_t *const owner = option(keyword);
     const ppd_choice_t *const found = owner ? ppdFindChoice(owner, choice.toUtf8().constData()) : nullptr;
     return found && *found->text ? text(found->text) : choice;

@@ -64,9 +64,12 @@ public:
     /// Those that the PPD does not know or can't mean: they concern the server and not the panels.
     OptionValues unknownAmong(const OptionValues &options) const;
 
-    /// The PPD's own words for an option and for one of its choices; for a choice in a language ("de", "zh_CN") where
-    /// the PPD has it. Looked up aside: the record's texts are keys to the panels.
-    QString optionText(const QString &keyword) const;
+    /// Whether the custom choice of an option is a length in points.
+    bool takesPoints(const QString &keyword) const;
+
+    /// The PPD's own words for an option and for one of its choices; in a language ("de", "zh_CN") where the PPD has
+    /// it. Looked up aside: the record's texts are keys to the panels.
+    QString optionText(const QString &keyword, const QString &language = {}) const;
     QString choiceText(const QString &keyword, const QString &choice, const QString &language = {}) const;
 
     /// The size of a paper by name; nil when the PPD has none of that name.
@@ -90,6 +93,7 @@ private:
     explicit PPDDocument(printing::PPDFile file);
 
     bool isPageSize(const ppd_option_t &option) const;
+    std::optional<QString> translation(const QString &language, const QString &table, const QString &of) const;
     const ppd_size_t *listedSize(const QString &name) const;
 
     printing::PPDFile m_file;

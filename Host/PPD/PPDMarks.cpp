@@ -3,6 +3,7 @@
 #include "PPDMarks.h"
 
 #include <cstring>
+#include <utility>
 
 namespace host {
 
@@ -83,7 +84,10 @@ void PPDMarks::markOne(ppd_option_t &option, const ChoiceValue &choice)
 {
     if (choice.custom)
         m_customValues.insert(&option, *choice.custom);
+    // One choice an option is all that a job can say: of many, the library would leave the earlier ones marked.
+    const ppd_ui_t kind = std::exchange(option.ui, PPD_UI_PICKONE);
     ppdMarkOption(m_document.file(), option.keyword, choice.text().toUtf8().constData());
+    option.ui = kind;
 }
 
 /// Without an option asked for, every choice may be moved.
@@ -197,6 +201,12 @@ OptionValues PPDMarks::forJob() const
             values.insert(text(option.keyword), choice.text());
     }
     return values;
+}
+
+QString PPDMarks::valueOf(const QString &keyword) const
+{
+    const ppd_option_t *const option = m_document.option(keyword);
+    return option ? marked(*option).text() : QString();
 }
 
 QString PPDMarks::choiceOf(const QString &keyword) const

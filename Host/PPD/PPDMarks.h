@@ -51,6 +51,8 @@ public:
     OptionValues all() const;
     /// What a job has to say: every choice that is not the default which the file declares, and the page size.
     OptionValues forJob() const;
+    /// What an option is marked with, custom values as they were asked for; empty when nothing is.
+    QString valueOf(const QString &keyword) const;
     /// Keyword of the marked choice; empty when none is.
     QString choiceOf(const QString &keyword) const;
     QString pageSizeName() const { return choiceOf(kPageSize); }

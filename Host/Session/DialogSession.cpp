@@ -4,8 +4,6 @@
 #include "Foundation/Bundle.h"
 #include "Foundation/NotificationCenter.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <utility>
 
@@ -60,20 +58,40 @@ Or<std::unique_ptr<DialogSession>> DialogSession::open(const Parameters &paramet
     return open(parameters, *std::move(ppd));
 }
 
-Or<std::unique_ptr<DialogSession>> DialogSession::open(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd)
+namespace {
+
+Or<BundleChoice> bundlesFor(const DialogSession::Parameters &parameters, const PPDDocument &ppd)
 {
-    const auto bundle = parameters.bundlePath ? parameters.bundlePath : findBundle(ppd->attribute("APDialogExtension"));
-    if (!bundle)
-        return Problem{tr("no plug-in bundle in %1").arg(plugInDirectories().join(", "))};
-    auto plugIn = PlugIn::load(*bundle, parameters.localization);
-    if (!plugIn)
-        return plugIn.problem();
-    return std::unique_ptr<DialogSession>(new DialogSession(parameters, std::move(ppd), *std::move(plugIn)));
+    const auto extension = ppd.attribute("APDialogExtension");
+    if (!parameters.bundlePath && parameters.choosesByClaims)
+        return BundleChoice::forPPD(extension);
+    const auto path = parameters.bundlePath ? parameters.bundlePath : findBundle(extension);
+    if (!path)
+        return Problem{DialogSession::tr("no plug-in bundle in %1").arg(plugInDirectories().join(", "))};
+    return BundleChoice::only(*path);
 }
 
-DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, PlugIn plugIn)
+} // namespace
+
+Or<std::unique_ptr<DialogSession>> DialogSession::open(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd)
+{
+    auto bundles = bundlesFor(parameters, *ppd);
+    if (!bundles)
+        return bundles.problem();
+    auto plugIn = bundles->next(parameters.localization);
+    if (!plugIn && bundles->problems().isEmpty())
+        return Problem{tr("no plug-in bundle in %1").arg(plugInDirectories().join(", "))};
+    if (!plugIn)
+        return Problem{bundles->problems().first()};
+    return std::unique_ptr<DialogSession>(
+        new DialogSession(parameters, std::move(ppd), *std::move(bundles), *std::move(plugIn)));
+}
+
+DialogSession::DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, BundleChoice bundles,
+                             PlugIn plugIn)
     : m_ppd(std::move(ppd))
     , m_marks(*m_ppd)
+    , m_bundles(std::move(bundles))
     , m_plugIn(std::move(plugIn))
     , m_panelType(parameters.panelType)
     , m_language(parameters.localization)
@@ -98,6 +116,26 @@ DialogSession::~DialogSession()
 void DialogSession::start(Prepare what)
 {
     Q_ASSERT(startedSessions == 0);
+    makePanels();
+    while (!isServed()) {
+        auto next = m_bundles.next(m_language);
+        if (!next)
+            break;
+        dropPanels();
+        m_plugIn = *std::move(next);
+        m_words.use(*m_plugIn.bundle);
+        makePanels();
+    }
+    for (const auto &panel : *m_panels)
+        panel->restoreValuesAndReturnError(nullptr);
+    if (what == Prepare::firstPanel && !m_panels->empty())
+        prepare(*m_panels->front());
+    if (what == Prepare::everyPanel)
+        prepareAll();
+}
+
+void DialogSession::makePanels()
+{
     m_principal = m_plugIn.entry->principalObject(m_plugIn.bundle->info().principalClass);
     if (!m_principal)
         return;
@@ -112,12 +150,22 @@ void DialogSession::start(Prepare what)
         panel->panelKind();
         m_claimed += panel->supportedPPDOptionKeys().value_or(QStringList());
     }
-    for (const auto &panel : *m_panels)
-        panel->restoreValuesAndReturnError(nullptr);
-    if (what == Prepare::firstPanel && !m_panels->empty())
-        prepare(*m_panels->front());
-    if (what == Prepare::everyPanel)
-        prepareAll();
+}
+
+void DialogSession::dropPanels()
+{
+    m_panels = &kNoPanels;
+    m_claimed.clear();
+    m_accepted = false;
+    if (m_principal)
+        --startedSessions;
+    m_principal.reset();
+}
+
+bool DialogSession::isServed() const
+{
+    return m_bundles.isSettled() ||
+           std::ranges::any_of(m_claimed, [this](const QString &keyword) { return m_ppd->hasOption(keyword); });
 }
 
 void DialogSession::prepareAll()
@@ -194,12 +242,7 @@ void DialogSession::markPageSize()
         report(m_marks.markCustomPageSize(*m_paper.size));
 }
 
-bool DialogSession::isBundlesOwnPrinter() const
-{
-    const auto named = m_ppd->attribute("APDialogExtension");
-    const QString name = QFileInfo(m_plugIn.bundle->path()).fileName();
-    return !m_claimed.isEmpty() || (named && QFileInfo(*named).fileName() == name);
-}
+bool DialogSession::isBundlesOwnPrinter() const { return !m_bundles.isGeneral() && isServed(); }
 
 /// Those that a panel takes care of; the paper has a place of its own.
 OptionValues DialogSession::claimedAmong(OptionValues values) const
@@ -274,8 +317,12 @@ void DialogSession::restore(const OptionValues &values)
 
 bool DialogSession::mark(const QString &key, const QString &choice)
 {
+    const QString before = m_marks.valueOf(key);
     const auto effect = m_marks.mark(key, choice);
     report(effect);
+    // Another amount is the same choice to the panels, and another setting to the dialog.
+    if (effect && effect->changed.empty() && m_listener.changed && m_marks.valueOf(key) != before)
+        m_listener.changed(key, m_marks.choiceOf(key));
     return effect.has_value();
 }
 

@@ -39,7 +39,8 @@ public:
         std::optional<printing::Paper> paperSize; // nil: the PPD's size of that name
         OptionValues defaults;                    // the user's own
         std::optional<QString> bundlePath;        // nil: the bundle that the PPD names, or the first one there is
-        QString localization = "en";              // of the bundle
+        bool choosesByClaims = false; // nor the first, but one that takes care of an option, or of whatever printer
+        QString localization = "en";  // of the bundle
         QString panelType = kPDEPrintingOptionsType;
     };
 
@@ -64,10 +65,13 @@ public:
     DialogSession &operator=(const DialogSession &) = delete;
 
     void setListener(Listener listener) { m_listener = std::move(listener); }
-    /// Creates the principal object and its panels. Only one session may be started at a time: panels of two would
+    /// Creates the principal object and its panels, and where they claim none of the printer's options, those of the
+    /// next bundle that may serve. Only one session may be started at a time: panels of two would
     /// answer the same notifications.
     void start(Prepare prepare);
 
+    /// Why bundles that might have served could not, one sentence each.
+    const QStringList &bundleProblems() const { return m_bundles.problems(); }
     /// Whether the plug-in serves on this system; without it there are no panels.
     bool isAccepted() const { return m_accepted; }
     /// Empty when there are none, be it that the plug-in has none of this type or that it could make none.
@@ -124,8 +128,11 @@ public:
 private:
     class Callback;
 
-    DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, PlugIn plugIn);
+    DialogSession(const Parameters &parameters, std::unique_ptr<PPDDocument> ppd, BundleChoice bundles, PlugIn plugIn);
 
+    void makePanels();
+    void dropPanels();
+    bool isServed() const;
     OptionValues claimedAmong(OptionValues values) const;
     void putPaper(const ChosenPaper &paper);
     void setPaper(const ChosenPaper &paper);
@@ -137,6 +144,7 @@ private:
 
     std::unique_ptr<PPDDocument> m_ppd; // outlives the panels, which borrow its choices
     PPDMarks m_marks;
+    BundleChoice m_bundles;
     PlugIn m_plugIn;
     QString m_panelType;
     QString m_language;

@@ -9,6 +9,7 @@ namespace host {
 namespace {
 
 constexpr double kMillimetresPerInch = 25.4;
+constexpr double kPointsPerInch = 72;
 constexpr int kDigitsOfMillimetres = 3; // 26.4
 constexpr int kDigitsOfInches = 4;      // 1.025
 
@@ -16,13 +17,15 @@ constexpr int kDigitsOfInches = 4;      // 1.025
 
 OptionWords::OptionWords(const PPDDocument &ppd, const foundation::Bundle &bundle, QString language)
     : m_ppd(ppd)
-    , m_bundle(bundle)
+    , m_bundle(&bundle)
     , m_language(std::move(language))
 {}
 
 QString OptionWords::option(const QString &keyword) const
 {
-    return m_bundle.localizedString(m_ppd.optionText(keyword));
+    const QString key = m_ppd.optionText(keyword);
+    const QString text = m_bundle->localizedString(key);
+    return text == key ? m_ppd.optionText(keyword, m_language) : text;
 }
 
 QString OptionWords::choice(const QString &keyword, const ChoiceValue &choice) const
@@ -30,7 +33,7 @@ QString OptionWords::choice(const QString &keyword, const ChoiceValue &choice) c
     if (choice.custom)
         return amount(keyword, *choice.custom).value_or(choice.custom->shortText());
     const QString key = m_ppd.choiceText(keyword, choice.keyword);
-    const QString text = m_bundle.localizedString(key);
+    const QString text = m_bundle->localizedString(key);
     return text == key ? m_ppd.choiceText(keyword, choice.keyword, m_language) : text;
 }
 
@@ -42,9 +45,12 @@ QString OptionWords::both(const QString &keyword, const ChoiceValue &choice) con
 /// A driver that takes an amount in millimetres too says so by a parameter of that name; its first is in inches.
 std::optional<QString> OptionWords::amount(const QString &keyword, const CustomValue &value) const
 {
-    const auto inches = value.number();
-    if (!inches || !m_ppd.hasCustomParameter(keyword, "mm"))
+    const bool isInPoints = m_ppd.takesPoints(keyword);
+    auto inches = value.number();
+    if (!inches || !(isInPoints || m_ppd.hasCustomParameter(keyword, "mm")))
         return std::nullopt;
+    if (isInPoints)
+        *inches /= kPointsPerInch;
     const QLocale &locale = foundation::Locale::current().locale();
     return foundation::IsMetric() ? locale.toString(*inches * kMillimetresPerInch, 'g', kDigitsOfMillimetres) + " mm"
                                   : locale.toString(*inches, 'g', kDigitsOfInches) + " in";

@@ -15,6 +15,9 @@ public:
     /// All is borrowed.
     OptionWords(const PPDDocument &ppd, const foundation::Bundle &bundle, QString language);
 
+    /// From now on the words of this one.
+    void use(const foundation::Bundle &bundle) { m_bundle = &bundle; }
+
     /// "Form Feed"
     QString option(const QString &keyword) const;
     /// "End of Page"; an amount with its unit, "26 mm", where the PPD tells which.
@@ -26,7 +29,7 @@ private:
     std::optional<QString> amount(const QString &keyword, const CustomValue &value) const;
 
     const PPDDocument &m_ppd;
-    const foundation::Bundle &m_bundle;
+    const foundation::Bundle *m_bundle;
     QString m_language;
 };
 

@@ -20,6 +20,35 @@ namespace {
 
 constexpr auto kPathVariable = "QNPRINT_PLUGIN_PATH";
 constexpr auto kBundlePattern = "*.plugin";
+constexpr auto kGeneralFolder = "/general"; // within a plug-in directory
+
+QStringList bundlesIn(const QString &folder)
+{
+    QStringList paths;
+    const QDir directory(folder);
+    for (const QString &name : directory.entryList({kBundlePattern}, QDir::Dirs, QDir::Name))
+        paths.append(directory.filePath(name));
+    return paths;
+}
+
+/// Nil when no directory has it. The directories behind the one that has are not looked into.
+std::optional<QString> namedBundle(const std::optional<QString> &dialogExtension)
+{
+    const QString name = QFileInfo(dialogExtension.value_or(QString())).fileName();
+    for (const QString &directory : plugInDirectories())
+        for (const QString &path : bundlesIn(directory))
+            if (QFileInfo(path).fileName() == name)
+                return path;
+    return std::nullopt;
+}
+
+QStringList bundlesWithin(const QString &folder)
+{
+    QStringList paths;
+    for (const QString &directory : plugInDirectories())
+        paths += bundlesIn(directory + folder);
+    return paths;
+}
 
 bool isForThisHost(const foundation::Bundle::Info &info)
 {
@@ -46,16 +75,9 @@ QStringList plugInDirectories()
 
 std::optional<QString> findBundle(const std::optional<QString> &dialogExtension)
 {
-    const QString name = QFileInfo(dialogExtension.value_or(QString())).fileName();
-    QStringList all;
-    for (const QString &path : plugInDirectories()) {
-        const QDir directory(path);
-        const QStringList bundles = directory.entryList({kBundlePattern}, QDir::Dirs, QDir::Name);
-        if (bundles.contains(name))
-            return directory.filePath(name);
-        for (const QString &bundle : bundles)
-            all.append(directory.filePath(bundle));
-    }
+    if (auto named = namedBundle(dialogExtension))
+        return named;
+    const QStringList all = bundlesWithin({});
     if (const auto fitting = std::ranges::find_if(all, isBundleForThisHost); fitting != all.end())
         return *fitting;
     return all.isEmpty() ? std::nullopt : std::optional(all.first()); // which then says what is wrong with it
@@ -85,6 +107,49 @@ Or<PDEPlugInEntry *> PlugIn::loadCode(const foundation::Bundle &bundle)
     if (auto *const entry = qobject_cast<PDEPlugInEntry *>(root))
         return entry;
     return notOurs;
+}
+
+BundleChoice BundleChoice::only(const QString &path)
+{
+    BundleChoice choice;
+    choice.m_named = path;
+    choice.m_waiting.append(path);
+    return choice;
+}
+
+BundleChoice BundleChoice::forPPD(const std::optional<QString> &dialogExtension)
+{
+    const auto named = namedBundle(dialogExtension);
+    BundleChoice choice = named ? only(*named) : BundleChoice();
+    choice.m_further = Further::others;
+    return choice;
+}
+
+bool BundleChoice::lookFurther()
+{
+    if (m_further == Further::none)
+        return false;
+    m_isGeneral = m_further == Further::general;
+    m_further = m_isGeneral ? Further::none : Further::general;
+    m_waiting = bundlesWithin(m_isGeneral ? kGeneralFolder : QString());
+    m_waiting.removeAll(m_named);
+    return true;
+}
+
+std::optional<PlugIn> BundleChoice::next(const QString &localization)
+{
+    while (!m_waiting.isEmpty() || lookFurther()) {
+        if (m_waiting.isEmpty())
+            continue;
+        const QString path = m_waiting.takeFirst();
+        auto plugIn = PlugIn::load(path, localization);
+        if (plugIn) {
+            m_isSettled = m_isGeneral || path == m_named;
+            return *std::move(plugIn);
+        }
+        m_problems.append(plugIn.problem().sentence);
+    }
+    return std::nullopt;
 }
 
 Or<PlugIn> PlugIn::load(const QString &path, const QString &localization)

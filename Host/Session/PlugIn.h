@@ -39,4 +39,36 @@ QStringList plugInDirectories();
 /// must not be able to have code loaded from elsewhere.
 std::optional<QString> findBundle(const std::optional<QString> &dialogExtension);
 
+/// The bundles that may serve a printer, tried one after the other.
+class BundleChoice
+{
+public:
+    /// This one and no other.
+    static BundleChoice only(const QString &path);
+    /// The one that a PPD names, by its name alone, then the others, and last those for whatever printer: they stand in
+    /// folders of their own, which nobody looks into before.
+    static BundleChoice forPPD(const std::optional<QString> &dialogExtension);
+
+    /// Loads the next one that can be; nil when none is left. `localization`: the language of its texts.
+    std::optional<PlugIn> next(const QString &localization);
+    /// Whether the one that `next` has answered serves whatever its panels claim.
+    bool isSettled() const { return m_isSettled; }
+    /// Whether it is one for whatever printer.
+    bool isGeneral() const { return m_isGeneral; }
+    /// Why those that were passed over could not be loaded, one sentence each.
+    const QStringList &problems() const { return m_problems; }
+
+private:
+    enum class Further { none, others, general };
+
+    bool lookFurther();
+
+    QString m_named; // serves whatever it claims; empty: none
+    QStringList m_waiting;
+    Further m_further = Further::none; // where to look when none is waiting any more
+    bool m_isGeneral = false;          // those waiting
+    bool m_isSettled = false;
+    QStringList m_problems;
+};
+
 } // namespace host

@@ -48,6 +48,7 @@ Or<std::unique_ptr<Bundle>> Bundle::open(const QString &path, const QString &loc
     if (!info)
         return info.problem();
     std::unique_ptr<Bundle> bundle(new Bundle(QFileInfo(path).absoluteFilePath(), *std::move(info)));
+    bundle->m_requested = localization;
     if (localization != kNoLocalization)
         bundle->loadTable(localization);
     return bundle;

@@ -47,6 +47,8 @@ public:
     /// The text of `key` in the table; without one `value`, and when that is empty too, the key itself.
     QString localizedString(const QString &key, const QString &value = {}) const;
 
+    /// The localization that it was opened for, whether or not it has a table for it.
+    const QString &requestedLocalization() const { return m_requested; }
     /// The localization in use, as the only entry; empty when no table is loaded.
     QStringList preferredLocalizations() const;
 
@@ -61,6 +63,7 @@ private:
 
     QString m_path;
     Info m_info;
+    QString m_requested;
     QString m_localization;
     std::unique_ptr<QTranslator> m_table;
 };

@@ -139,7 +139,8 @@ void RadioControl::setRows(const QStringList &titles)
     qDeleteAll(m_group->buttons());
     m_rows.clear();
     for (const QString &title : titles) {
-        auto *button = new QRadioButton(this);
+        auto *button = new FittingRadioButton(this);
+        button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // or the text would be the least
         layout()->addWidget(button);
         m_group->addButton(button, static_cast<int>(m_rows.size()));
         m_rows.append(QString());

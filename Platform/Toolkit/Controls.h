@@ -4,8 +4,6 @@
 
 #include "TextControls.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QStringList>
 
 #include <functional>
@@ -57,14 +55,14 @@ private:
     Validator m_validator;
 };
 
-class CheckControl : public QCheckBox
+class CheckControl : public FittingCheckBox
 {
     Q_OBJECT
     Q_PROPERTY(QString text READ title WRITE setTitle)
 
 public:
     explicit CheckControl(QWidget *parent = nullptr)
-        : QCheckBox(parent)
+        : FittingCheckBox(parent)
     {}
 
     QString title() const { return m_title; }

@@ -10,6 +10,8 @@
 #include <QToolTip>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace toolkit {
 
 namespace {
@@ -55,6 +57,80 @@ bool tellWhole(const QWidget &control, const QHelpEvent &event, const FittingTex
         return false;
     QToolTip::showText(event.globalPos(), foundation::asHtml(whole));
     return true;
+}
+
+namespace {
+
+QString withMnemonic(QString text) { return text.replace('&', "&&"); }
+QString withoutIt(QString text) { return text.replace("&&", "&"); }
+
+FittingText fittingText(const QAbstractButton &button, const QStyleOptionButton &option, QStyle::SubElement contents)
+{
+    return {withoutIt(button.text()), button.font(),
+            button.style()->subElementRect(contents, &option, &button).width()};
+}
+
+void paintFitting(QAbstractButton &button, QStyleOptionButton &option, QStyle::SubElement contents,
+                  QStyle::ControlElement element)
+{
+    const FittingText fitting = fittingText(button, option, contents);
+    QStylePainter painter(&button);
+    painter.setFont(fitting.font);
+    option.text = withMnemonic(fitting.text);
+    painter.drawControl(element, option);
+}
+
+/// Wide enough for a few letters.
+QSize narrow(const QAbstractButton &button, const QSize &whole)
+{
+    constexpr int kLetters = 8;
+    return {std::min(whole.width(), whole.height() + kLetters * button.fontMetrics().averageCharWidth()),
+            whole.height()};
+}
+
+bool tellWholeOf(const QAbstractButton &button, const QStyleOptionButton &option, QStyle::SubElement contents,
+                 QEvent &event)
+{
+    return tellWhole(button, static_cast<QHelpEvent &>(event), fittingText(button, option, contents),
+                     withoutIt(button.text()));
+}
+
+} // namespace
+
+QSize FittingCheckBox::minimumSizeHint() const { return narrow(*this, sizeHint()); }
+
+void FittingCheckBox::paintEvent(QPaintEvent *)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    paintFitting(*this, option, QStyle::SE_CheckBoxContents, QStyle::CE_CheckBox);
+}
+
+bool FittingCheckBox::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QCheckBox::event(event);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    return tellWholeOf(*this, option, QStyle::SE_CheckBoxContents, *event) || QCheckBox::event(event);
+}
+
+QSize FittingRadioButton::minimumSizeHint() const { return narrow(*this, sizeHint()); }
+
+void FittingRadioButton::paintEvent(QPaintEvent *)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    paintFitting(*this, option, QStyle::SE_RadioButtonContents, QStyle::CE_RadioButton);
+}
+
+bool FittingRadioButton::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QRadioButton::event(event);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    return tellWholeOf(*this, option, QStyle::SE_RadioButtonContents, *event) || QRadioButton::event(event);
 }
 
 FittingText FittingMenu::fittingText() const

@@ -2,8 +2,10 @@
 // fonts.
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFont>
+#include <QRadioButton>
 #include <QString>
 
 class QHelpEvent;
@@ -37,6 +39,29 @@ protected:
 
 private:
     FittingText fittingText() const;
+};
+
+/// Buttons that show their text as it fits, and may be narrower than it.
+class FittingCheckBox : public QCheckBox
+{
+public:
+    using QCheckBox::QCheckBox;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+};
+
+class FittingRadioButton : public QRadioButton
+{
+public:
+    using QRadioButton::QRadioButton;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
 };
 
 } // namespace toolkit

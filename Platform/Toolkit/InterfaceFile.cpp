@@ -92,8 +92,11 @@ void localize(QWidget *widget, const foundation::Bundle &bundle)
             radio->setRowTitle(i, bundle.localizedString(radio->rows()[i]));
 }
 
-void connectTarget(QWidget *widget, InterfaceOwner &owner)
+} // namespace
+
+void connectControl(QWidget &control, InterfaceOwner &owner)
 {
+    QWidget *const widget = &control;
     const auto send = [&owner, widget] { owner.performAction(widget->property("action").toString(), widget); };
     if (auto *menu = qobject_cast<PopUpControl *>(widget)) {
         menu->setValidator([&owner, menu](int index) { return owner.validateMenuItem(MenuItem(menu, index)); });
@@ -112,6 +115,8 @@ void connectTarget(QWidget *widget, InterfaceOwner &owner)
     }
 }
 
+namespace {
+
 /// Controls are the named widgets of our own classes, and whatever else the owner has a field for; the parts that a
 /// control is made of have no names.
 void connectForm(QWidget *form, const foundation::Bundle &bundle, InterfaceOwner &owner)
@@ -122,7 +127,7 @@ void connectForm(QWidget *form, const foundation::Bundle &bundle, InterfaceOwner
         if (widget->objectName().isEmpty() || widget->objectName().startsWith("qt_"))
             continue;
         localize(widget, bundle);
-        connectTarget(widget, owner);
+        connectControl(*widget, owner);
         owner.connectField(widget->objectName(), widget);
     }
     for (auto *tabs : form->findChildren<TabControl *>())

@@ -29,6 +29,10 @@ public:
     virtual void controlTextDidEndEditing(QWidget *field) = 0;
 };
 
+/// Reports to the owner what a person does with a control that no interface file has. Its property `action`, where it
+/// has one, is the action's name.
+void connectControl(QWidget &control, InterfaceOwner &owner);
+
 /// Loads `name`.ui of the bundle with its texts localized, connects it and wakes the owner. Nil, with one sentence in
 /// the system log, when the file is missing or unreadable; the owner is then left alone.
 std::unique_ptr<QWidget> loadInterfaceFile(const foundation::Bundle &bundle, const QString &name,

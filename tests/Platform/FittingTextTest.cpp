@@ -125,4 +125,31 @@ TEST_F(NarrowControl, AMenuTellsTheWholeOfACutText)
     EXPECT_EQ(menu.currentText(), kText);
 }
 
+TEST_F(NarrowControl, ACheckBoxDrawsItsWholeTextSmallerThenTellsIt)
+{
+    CheckControl box;
+    box.setTitle(kText + " & more");
+    fit(box, 150);
+    EXPECT_EQ(toldBy(box), "");
+    box.resize(widthOf(kText, usualFont()) * 120 / 100, box.height());
+    EXPECT_EQ(toldBy(box), "");
+    EXPECT_LT(inkOf(box), box.width());
+    EXPECT_GT(inkOf(box), box.width() * 9 / 10);
+    box.resize(widthOf(kText, usualFont()) / 2, box.height());
+    EXPECT_TRUE(toldBy(box).contains("Druckers: &amp; more")) << toldBy(box).toStdString();
+    EXPECT_LT(box.minimumSizeHint().width(), box.sizeHint().width());
+}
+
+TEST_F(NarrowControl, AListTellsTheWholeOfACutRow)
+{
+    RadioControl list;
+    list.setRows({kText, "short"});
+    fit(list, 150);
+    auto &row = *list.findChildren<QRadioButton *>().first();
+    EXPECT_EQ(toldBy(row), "");
+    list.resize(widthOf(kText, usualFont()) / 2, list.height());
+    EXPECT_LE(row.width(), list.width());
+    EXPECT_TRUE(toldBy(row).contains("Rollenpapier")) << toldBy(row).toStdString();
+}
+
 } // namespace

@@ -66,8 +66,9 @@ TEST_P(Keywords, AreWordsOfPlainCharacters) { EXPECT_EQ(canBeDriverOption(GetPar
 
 INSTANTIATE_TEST_SUITE_P(Of, Keywords,
                          testing::Values(Keyword{"QnMedia", true}, Keyword{"!", true}, Keyword{"~", true},
-                                         Keyword{"a-b.c:d/e", true}, Keyword{"", false}, Keyword{"a b", false},
-                                         Keyword{" ", false}, Keyword{"a\tb", false}, Keyword{"a\nb", false},
+                                         Keyword{"a-b.c:d/e", true}, Keyword{"", false}, Keyword{"Resolution", true},
+                                         Keyword{"resolution", false}, Keyword{"a b", false}, Keyword{" ", false},
+                                         Keyword{"a\tb", false}, Keyword{"a\nb", false},
                                          Keyword{QString("a") + QChar(0x7f), false}, Keyword{"ä", false},
                                          Keyword{"a\"b", false}, Keyword{"a'b", false}, Keyword{"a\\b", false},
                                          Keyword{"a=b", false}, Keyword{"a{b", false}, Keyword{"a}b", false}));

@@ -1,0 +1,187 @@
+// Choices are marked as they are made: nothing is left to be saved.
+#include "GroupPDE.h"
+
+#include "Foundation/Bundle.h"
+#include "Toolkit/Alert.h"
+
+#include <QFormLayout>
+#include <QScrollArea>
+
+#include <algorithm>
+
+namespace {
+
+constexpr auto kPanelKind = "org.qnprint.general.pde.GroupPDEKind";
+constexpr QMargins kMargins(16, 12, 16, 12);
+constexpr auto kCustom = "Custom";
+
+} // namespace
+
+QString GroupPDE::panelKind() { return kPanelKind; }
+
+std::optional<QStringList> GroupPDE::supportedPPDOptionKeys()
+{
+    QStringList keys;
+    for (const ShownOption &option : m_group.options)
+        keys.append(option.keyword);
+    return keys;
+}
+
+QWidget *GroupPDE::panelView()
+{
+    if (!kPDEView)
+        kPDEView = makeView();
+    return kPDEView;
+}
+
+QWidget *GroupPDE::makeView()
+{
+    auto *const view = new QScrollArea;
+    view->setFrameShape(QFrame::NoFrame);
+    view->setWidgetResizable(true);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setFocusPolicy(Qt::NoFocus);
+    auto *const content = new QWidget;
+    auto *const form = new QFormLayout(content);
+    form->setContentsMargins(kMargins);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    toolkit::InterfaceOwner &owner = *this;
+    m_rows.clear();
+    m_rows.reserve(m_group.options.size());
+    for (const ShownOption &option : m_group.options) {
+        if (!option.heading.isEmpty())
+            addHeading(option.heading, *form);
+        m_rows.push_back(OptionRow(option, *form, owner, rangeOf(option)));
+    }
+    view->setWidget(content);
+    setPDEItems();
+    return view;
+}
+
+void GroupPDE::addHeading(const QString &text, QFormLayout &form)
+{
+    auto *const heading = new toolkit::LabelControl(form.parentWidget());
+    heading->setStringValue(text);
+    QFont font = heading->font();
+    font.setBold(true);
+    heading->setFont(font);
+    form.addRow(heading);
+}
+
+QString GroupPDE::limitsOf(const CustomAmount &amount) const
+{
+    return localized("%1 to %2").arg(amount.smallest(), amount.largest());
+}
+
+/// "mm (5 to 210)"
+QString GroupPDE::rangeOf(const ShownOption &option) const
+{
+    if (!option.amount)
+        return {};
+    return QString("%1 (%2)").arg(option.amount->unit(), limitsOf(*option.amount)).trimmed();
+}
+
+void GroupPDE::setPDEItems()
+{
+    for (OptionRow &row : m_rows)
+        refresh(row);
+}
+
+void GroupPDE::refresh(OptionRow &row) const { row.show(marked(row.option().keyword)); }
+
+QString GroupPDE::marked(const QString &keyword) const
+{
+    const ppd_choice_t *const choice = ppd ? ppdFindMarkedChoice(ppd, keyword.toUtf8().constData()) : nullptr;
+    return choice ? QString::fromUtf8(choice->choice) : QString();
+}
+
+OptionRow *GroupPDE::rowOf(const QWidget *control)
+{
+    const auto found = std::ranges::find_if(m_rows, [control](const OptionRow &row) { return row.owns(control); });
+    return found == m_rows.end() ? nullptr : &*found;
+}
+
+void GroupPDE::mark(const OptionRow &row, const std::optional<QString> &value)
+{
+    if (value)
+        pdePluginCallbackObject->willChangePPDOptionKeyValue(row.option().keyword, *value);
+}
+
+void GroupPDE::performAction(const QString &, QWidget *sender)
+{
+    OptionRow *const row = rowOf(sender);
+    if (!row)
+        return;
+    if (row->isField(sender))
+        return mark(*row, row->shownValue());
+    mark(*row, row->chosenValue());
+    refresh(*row);
+    if (row->showsAmount())
+        row->beginAmount();
+}
+
+void GroupPDE::controlTextDidChange(QWidget *field)
+{
+    if (const OptionRow *const row = rowOf(field))
+        mark(*row, row->shownValue());
+}
+
+void GroupPDE::PPDOptionKeyValueDidChange(const std::optional<QString> &key, const std::optional<QString> &)
+{
+    for (OptionRow &row : m_rows)
+        if (row.option().keyword == key)
+            refresh(row);
+}
+
+bool GroupPDE::shouldPrint()
+{
+    const auto wrong =
+        std::ranges::find_if(m_rows, [](const OptionRow &row) { return row.showsAmount() && !row.shownValue(); });
+    if (wrong == m_rows.end())
+        return true;
+    toolkit::Alert alert;
+    alert.addButtonWithTitle(localized("OK"));
+    alert.setMessageText(localized("The amount is not supported."));
+    const ShownOption &option = wrong->option();
+    alert.setInformativeText(
+        QString("%1: %2 %3").arg(option.title, limitsOf(*option.amount), option.amount->unit()).trimmed());
+    alert.runModal();
+    return false;
+}
+
+QString GroupPDE::valueText(const ShownOption &option) const
+{
+    const QString choice = marked(option.keyword);
+    if (choice == kCustom && option.amount)
+        return (option.amount->current() + ' ' + option.amount->unit()).trimmed();
+    const auto found = std::ranges::find(option.choices, choice, &ShownChoice::keyword);
+    return found == option.choices.end() ? choice : found->title;
+}
+
+std::optional<PDESummary> GroupPDE::summaryInfo()
+{
+    PDESummary summary;
+    for (const ShownOption &option : m_group.options) {
+        summary.values.insert(option.title, valueText(option));
+        summary.displayOrder.append(option.title);
+    }
+    return summary;
+}
+
+std::vector<PDEPanelInspection::Control> GroupPDE::controls() const
+{
+    std::vector<Control> all;
+    for (const OptionRow &row : m_rows)
+        std::ranges::move(row.controls(), std::back_inserter(all));
+    return all;
+}
+
+std::vector<PDEPanelInspection::Selection> GroupPDE::selections() const
+{
+    std::vector<Selection> all;
+    for (const ShownOption &option : m_group.options) {
+        const QString choice = marked(option.keyword);
+        all.push_back({option.keyword, choice.isEmpty() ? std::nullopt : std::optional(choice)});
+    }
+    return all;
+}
