@@ -231,7 +231,20 @@ std::optional<QString> Screen::listen()
     return isHeard ? std::nullopt : std::optional(QString("nobody listens to the accessibility bus"));
 }
 
-void Screen::press(const QString &keys) const { ask("xdotool", {"key", keys}); }
+/// A window that has just come may not have the keyboard yet; keys would be lost.
+void Screen::waitForActiveWindow() const
+{
+    QElapsedTimer clock;
+    for (clock.start(); clock.elapsed() < kMillisecondsToAnswer; QThread::msleep(50))
+        if (!ask("xdotool", {"getactivewindow"}).isEmpty())
+            return;
+}
+
+void Screen::press(const QString &keys) const
+{
+    waitForActiveWindow();
+    ask("xdotool", {"key", keys});
+}
 
 void Screen::type(const QString &text) const { ask("xdotool", {"type", "--delay", "20", text}); }
 

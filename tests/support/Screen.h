@@ -68,6 +68,8 @@ public:
 private:
     static constexpr int kMilliseconds = 20000;
 
+    void waitForActiveWindow() const;
+
     std::optional<QString> startBus();
 
     QTemporaryDir m_folder{"/tmp/qnscreen-XXXXXX"};

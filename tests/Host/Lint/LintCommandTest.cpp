@@ -1,5 +1,6 @@
 // `qnprint lint` as people and build machines meet it.
 #include "Lint.h"
+#include "Session/PlugIn.h"
 
 #include "Foundation/Shadow.h"
 
@@ -165,10 +166,11 @@ TEST_F(LintCommand, GoesWithoutTheChecksThatABundleDoesNotBring)
     ASSERT_TRUE(QDir().mkdir(bundle) && QFile::copy(QN_LAST_WORDS, bundle + "/LastWords.so"));
     QFile info(bundle + "/Info.json");
     ASSERT_TRUE(info.open(QIODevice::WriteOnly));
-    info.write(
-        QJsonDocument(
-            {{"executable", "LastWords.so"}, {"principalClass", "LastWords"}, {"abiVersion", kPDEInterfaceVersion}})
-            .toJson());
+    info.write(QJsonDocument({{"executable", "LastWords.so"},
+                              {"principalClass", "LastWords"},
+                              {"abiVersion", kPDEInterfaceVersion},
+                              {"build", host::buildTag()}})
+                   .toJson());
     info.close();
     const QString file = fileOf(edited(fullPPD(), "*DefaultQnMedia: Thermal", "*DefaultQnMedia: None"));
     EXPECT_EQ(run({"--bundle", bundle, file}), 1);
