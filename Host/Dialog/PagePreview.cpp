@@ -2,36 +2,15 @@
 #include "PagePreview.h"
 
 #include "Jobs/PageRanges.h"
-#include "Pages/Shrinking.h"
 
 #include <utility>
 
 namespace host {
 
-namespace {
-
-constexpr double kCoarse = 4; // times fewer dots a side, for the first picture of a page
-
-bool haveSamePages(const PagePreview::View &one, const PagePreview::View &other)
-{
-    return one.document == other.document && one.sheet == other.sheet && one.scaling == other.scaling &&
-           one.ranges == other.ranges;
-}
-
-bool haveSameSheet(const PagePreview::View &one, const PagePreview::View &other)
-{
-    return haveSamePages(one, other) && one.page == other.page && one.resolution == other.resolution;
-}
-
-QImage pictureOf(const QImage &sheet, const PagePreview::View &view)
-{
-    return view.size.isEmpty() ? sheet : shrunk(sheet, view.size);
-}
-
-} // namespace
-
-PagePreview::PagePreview(PrintDialog &dialog)
+PagePreview::PagePreview(PrintDialog &dialog, const PreviewTimes &times)
     : m_dialog(dialog)
+    , m_times(times)
+    , m_sheet(times)
 {
     connect(&dialog, &PrintDialog::settingsChanged, this, &PagePreview::refresh);
     connect(&dialog, &PrintDialog::targetChanged, this, &PagePreview::refresh);
@@ -63,9 +42,12 @@ void PagePreview::setBurnt(bool isBurnt)
     refresh();
 }
 
-void PagePreview::setSize(QSize size)
+void PagePreview::setSize(QSize size, const QRect &visible)
 {
-    if (std::exchange(m_size, size) != size)
+    const bool isOther = m_size != size || m_visible != visible;
+    m_size = size;
+    m_visible = visible;
+    if (isOther)
         refresh();
 }
 
@@ -79,21 +61,47 @@ std::optional<PDEPrintEffect> PagePreview::effect() const
     return m_dialog.target() ? m_dialog.target()->printEffect() : std::nullopt;
 }
 
+QSize PagePreview::dots() const
+{
+    const auto paper = sheet();
+    const SheetDots dots(paper.value_or(Sheet()), paper ? m_dialog.target()->resolution() : Resolution());
+    return paper && dots.isBearable() ? dots.size() : QSize();
+}
+
 /// Nil where there is nothing to be drawn.
-std::optional<PagePreview::View> PagePreview::wanted() const
+std::optional<SheetView> PagePreview::wanted() const
 {
     const auto paper = sheet();
     if (!m_isShown || !paper || m_dialog.documents().empty())
         return std::nullopt;
     const PrintTarget &target = *m_dialog.target();
-    return View{m_dialog.documents().front(),
-                *paper,
-                target.resolution(),
-                target.scaling(),
-                readPageRanges(m_dialog.amount().pages).value_or(QString()),
-                m_page,
-                m_isBurnt ? target.printEffect() : std::nullopt,
-                m_size};
+    return SheetView{m_dialog.documents().front(),
+                     *paper,
+                     target.resolution(),
+                     target.scaling(),
+                     readPageRanges(m_dialog.amount().pages).value_or(QString()),
+                     m_page,
+                     m_isBurnt ? target.printEffect() : std::nullopt,
+                     m_size,
+                     m_visible};
+}
+
+/// Or was tried in vain.
+bool PagePreview::isShown(const SheetView &view) const
+{
+    return m_shown && m_shown->hasSamePicture(view) &&
+           (m_shown->visible == view.visible || m_progress.missing(view).isEmpty());
+}
+
+/// Whether the work that goes on is at something that is not wanted first. A whole page takes so long where it comes
+/// in parts that whoever looks at another one, or chooses something, does not wait for it.
+bool PagePreview::isAtAnother(const SheetView &view) const
+{
+    if (!view.hasSameSheet(*m_drawing))
+        return true;
+    if (!m_progress.isInParts || view.visible.isEmpty())
+        return false;
+    return !view.hasSamePicture(*m_drawing) || !(m_progress.missing(view) - m_drawing->area()).isEmpty();
 }
 
 void PagePreview::refresh()
@@ -104,15 +112,15 @@ void PagePreview::refresh()
     if (!view) {
         stop(); // what is still drawn is of nobody's document
         m_shown.reset();
-        return tell(m_dialog.documents().empty() ? tr("The document's pages will show here.")
-                                                 : tr("The size of the paper is not known."));
+        return show({}, m_dialog.documents().empty() ? tr("The document's pages will show here.")
+                                                     : tr("The size of the paper is not known."));
     }
     if (m_isWorking) {
-        if (!haveSameSheet(*view, *m_drawing))
+        if (isAtAnother(*view))
             stop();
         return;
     }
-    if (view != m_shown)
+    if (!isShown(*view))
         begin(*view);
     else
         Q_EMIT changed();
@@ -124,86 +132,75 @@ void PagePreview::stop()
     m_work.requestStop();
 }
 
-void PagePreview::begin(const View &view)
+void PagePreview::begin(const SheetView &view)
 {
     m_isWorking = true;
     m_drawing = view;
+    if (!view.hasSameSheet(m_sheet.view()))
+        m_progress = {};
     m_work = BackgroundWork(
         *this,
-        [this, view, cache = std::exchange(m_cache, {})](const std::stop_token &stop) mutable {
-            const auto post = [this](const QImage &picture) {
-                QMetaObject::invokeMethod(this, [this, picture] { showFirst(picture); }, Qt::QueuedConnection);
+        [this, view, sheet = std::exchange(m_sheet, DrawnSheet(m_times))](const std::stop_token &stop) mutable {
+            const auto post = [this](const DrawnSheet &drawn) {
+                QMetaObject::invokeMethod(
+                    this,
+                    [this, picture = drawn.picture(), progress = drawn.progress()] { showEarly(picture, progress); },
+                    Qt::QueuedConnection);
             };
-            return draw(view, std::move(cache), post, stop);
+            return draw(std::move(sheet), view, post, stop);
         },
         [this](Picture done) { end(std::move(done)); });
 }
 
-/// `post` shows a first picture, until the page is there as it will be.
+/// `post` shows what there is, until the page is there as it will be.
 template <class Post>
-PagePreview::Picture PagePreview::draw(View view, Cache cache, const Post &post, const std::stop_token &stop)
+PagePreview::Picture PagePreview::draw(DrawnSheet sheet, const SheetView &view, const Post &post,
+                                       const std::stop_token &stop)
 {
-    if (!cache.pages || !haveSamePages(cache.of, view)) {
-        cache = {};
-        auto pages = PrintedPages::of(view.document, view.sheet, view.scaling, view.ranges, stop);
-        if (!pages)
-            return {view, {}, pages.problem()};
-        cache.pages = *std::move(pages);
+    sheet.turnTo(view, stop);
+    if (!sheet.isWhole()) {
+        sheet.drawCoarse(stop);
+        post(sheet);
+        if (sheet.drawPart(stop))
+            post(sheet);
+        sheet.drawWhole(stop);
     }
-    const SheetDots dots(view.sheet, view.resolution);
-    view.page = std::min(view.page, cache.pages->count() - 1); // there may be fewer than before
-    if (cache.grey.isNull() || !haveSameSheet(cache.of, view)) {
-        cache.grey = {};
-        const SheetDots coarse(view.sheet, {view.resolution.across / kCoarse, view.resolution.along / kCoarse});
-        if (const auto first = cache.pages->sheet(view.page, coarse, stop))
-            post(pictureOf(*first, view));
-        auto grey = cache.pages->sheet(view.page, dots, stop);
-        if (!grey)
-            return {view, std::move(cache), grey.problem()};
-        cache.grey = *std::move(grey);
-    }
-    cache.of = view;
-    QImage picture = pictureOf(dots.burnt(cache.grey, view.effect), view);
-    return {view, std::move(cache), std::move(picture)};
+    QImage picture = sheet.picture();
+    return {std::move(sheet), std::move(picture)};
 }
 
 void PagePreview::end(Picture done)
 {
     m_isWorking = false;
-    m_cache = std::move(done.cache);
-    m_count = m_cache.pages ? m_cache.pages->count() : 0;
+    m_sheet = std::move(done.sheet);
+    m_progress = m_sheet.progress();
+    m_count = m_sheet.count();
     m_page = std::clamp(m_page, 0, std::max(0, m_count - 1));
-    m_dots = SheetDots(done.of.sheet, done.of.resolution).size();
+    const SheetView of = m_sheet.view();
+    const QString problem = m_progress.problem;
     const bool wasStopped = std::exchange(m_isStopped, false);
     const auto view = wanted();
-    if (view && (wasStopped || *view != done.of))
+    if (view && (wasStopped || !view->hasSamePicture(of)))
         begin(*view);
-    if (!view || wasStopped || !haveSameSheet(*view, done.of))
+    if (!view || wasStopped || !view->hasSameSheet(of))
         return; // nobody wants to see it any more
-    m_shown = std::move(done.of);
-    if (done.picture)
-        show(*done.picture);
-    else
-        tell(done.picture.problem().sentence);
+    m_shown = of;
+    show(done.picture, problem);
 }
 
 /// It may have been on its way when it was not wanted any more.
-void PagePreview::showFirst(const QImage &picture)
+void PagePreview::showEarly(const QImage &picture, const SheetProgress &progress)
 {
-    if (!m_isStopped)
-        show(picture);
+    if (m_isStopped)
+        return;
+    m_progress = progress;
+    show(picture, progress.problem);
+    refresh(); // what is looked at may have changed before it was known to matter
 }
 
-void PagePreview::show(const QImage &picture)
+void PagePreview::show(const QImage &picture, const QString &problem)
 {
     m_picture = picture;
-    m_problem.clear();
-    Q_EMIT changed();
-}
-
-void PagePreview::tell(const QString &problem)
-{
-    m_picture = {};
     m_problem = problem;
     Q_EMIT changed();
 }

@@ -3,9 +3,8 @@
 #pragma once
 
 #include "BackgroundWork.h"
+#include "DrawnSheet.h"
 #include "PrintDialog.h"
-
-#include "Pages/PrintedPages.h"
 
 namespace host {
 
@@ -14,23 +13,8 @@ class PagePreview : public QObject
     Q_OBJECT
 
 public:
-    /// What a picture is of, and how it is to be made.
-    struct View
-    {
-        std::shared_ptr<Document> document;
-        Sheet sheet;
-        Resolution resolution;
-        Scaling scaling = Scaling::automatic;
-        QString ranges;
-        int page = 0;                         // from 0 on, among those that are printed
-        std::optional<PDEPrintEffect> effect; // nil: the plain page
-        QSize size;                           // of the picture; empty: a dot a pixel
-
-        friend bool operator==(const View &, const View &) = default;
-    };
-
     /// The dialog has to outlive the preview.
-    explicit PagePreview(PrintDialog &dialog);
+    explicit PagePreview(PrintDialog &dialog, const PreviewTimes &times = {});
 
     /// Nothing is read or drawn while it is not shown.
     void setShown(bool isShown);
@@ -38,20 +22,22 @@ public:
     void setPage(int page);
     /// As printed, or the plain page.
     void setBurnt(bool isBurnt);
-    /// So large is the whole sheet to be, in pixels; empty: as large as it has dots.
-    void setSize(QSize size);
+    /// So large is the whole sheet to be, in pixels; empty: as large as it has dots. Of a page that takes its time
+    /// `visible`, in those dots, comes before the rest.
+    void setSize(QSize size, const QRect &visible = {});
 
     int page() const { return m_page; }
     /// Of the pages that are printed; 0 while that is not known.
     int count() const { return m_count; }
     /// The sheet; null as long as there is nothing to be seen.
     const QImage &picture() const { return m_picture; }
-    /// Why that is so, in one sentence; empty while it is made.
+    /// Why that is so, or why no more than parts of it will come, in one sentence; empty while it is made.
     const QString &problem() const { return m_problem; }
     /// Nil where nothing can be shown.
     std::optional<Sheet> sheet() const;
     std::optional<PDEPrintEffect> effect() const;
-    QSize dots() const { return m_dots; }
+    /// Of the sheet; empty where nothing can be shown.
+    QSize dots() const;
     /// Whether a better picture is on its way.
     bool isBusy() const { return m_isWorking; }
 
@@ -59,43 +45,38 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /// What the next picture may need again. With the work as long as that lasts.
-    struct Cache
-    {
-        View of; // whose pages these are
-        std::optional<PrintedPages> pages;
-        QImage grey; // the sheet of its page, in the head's dots
-    };
     struct Picture
     {
-        View of;
-        Cache cache;
-        foundation::Or<QImage> picture;
+        DrawnSheet sheet;
+        QImage picture;
     };
 
-    std::optional<View> wanted() const;
+    std::optional<SheetView> wanted() const;
+    bool isShown(const SheetView &view) const;
+    bool isAtAnother(const SheetView &view) const;
     void refresh();
     void stop();
-    void begin(const View &view);
+    void begin(const SheetView &view);
     void end(Picture done);
-    void showFirst(const QImage &picture);
-    void show(const QImage &picture);
-    void tell(const QString &problem);
+    void showEarly(const QImage &picture, const SheetProgress &progress);
+    void show(const QImage &picture, const QString &problem);
     template <class Post>
-    static Picture draw(View view, Cache cache, const Post &post, const std::stop_token &stop);
+    static Picture draw(DrawnSheet sheet, const SheetView &view, const Post &post, const std::stop_token &stop);
 
     PrintDialog &m_dialog;
+    PreviewTimes m_times;
     bool m_isShown = false;
     bool m_isBurnt = true;
     int m_page = 0;
     QSize m_size;
+    QRect m_visible;
 
     QImage m_picture;
-    QSize m_dots; // of the sheet
     QString m_problem;
-    Cache m_cache;
-    std::optional<View> m_drawing;
-    std::optional<View> m_shown;
+    DrawnSheet m_sheet; // with the work as long as that lasts
+    SheetProgress m_progress;
+    std::optional<SheetView> m_drawing;
+    std::optional<SheetView> m_shown;
     bool m_isWorking = false;
     bool m_isStopped = false; // the work, because nobody wants its picture any more
     int m_count = 0;

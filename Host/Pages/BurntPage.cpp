@@ -4,7 +4,6 @@
 #include "Printing/Units.h"
 
 #include <QRegularExpression>
-#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -62,6 +61,14 @@ void changeAbout(QImage &dots, const QRect &area, const PDEPrintEffect &effect)
     }
 }
 
+/// Within an area of one picture. `corner`: where the other, of the same format, has its upper left one there.
+void copyWithin(const QRect &area, const QImage &other, QPoint corner, QImage &picture)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        std::copy_n(other.constScanLine(y - corner.y()) + area.left() - corner.x(), area.width(),
+                    picture.scanLine(y) + area.left());
+}
+
 } // namespace
 
 std::optional<Resolution> resolutionNamed(const QString &name)
@@ -105,19 +112,54 @@ QSize SheetDots::dotsOfPage(const Placement &placement) const
     return placement.isTurned ? dots.transposed() : dots;
 }
 
-QImage SheetDots::withPage(const QImage &page, const Placement &placement) const
+QTransform SheetDots::turnOf(const Placement &placement) const
+{
+    return placement.isTurned ? QTransform().rotate(m_sheet.turnsLeft ? -90 : 90) : QTransform();
+}
+
+/// Of a page's dots.
+QTransform SheetDots::ontoSheet(const Placement &placement) const
+{
+    const QSize page = dotsOfPage(placement);
+    const QPoint corner = at(placement.where).topLeft();
+    return QImage::trueMatrix(turnOf(placement), page.width(), page.height()) *
+           QTransform::fromTranslate(corner.x(), corner.y());
+}
+
+QRect SheetDots::onPage(const QRect &area, const Placement &placement) const
+{
+    const QTransform ontoSheet = this->ontoSheet(placement);
+    const QRect covered = ontoSheet.mapRect(QRect({}, dotsOfPage(placement))) & area & printable();
+    return covered.isEmpty() ? QRect() : ontoSheet.inverted().mapRect(covered);
+}
+
+QImage SheetDots::blank() const
 {
     QImage sheet(size(), QImage::Format_Grayscale8);
     sheet.setDotsPerMeterX(static_cast<int>(std::lround(m_resolution.across / kMetresPerInch)));
     sheet.setDotsPerMeterY(static_cast<int>(std::lround(m_resolution.along / kMetresPerInch)));
     sheet.fill(Qt::white);
-    const QImage upright =
-        placement.isTurned ? page.transformed(QTransform().rotate(m_sheet.turnsLeft ? -90 : 90)) : page;
-    const QPoint corner = at(placement.where).topLeft();
-    const QRect covered = QRect(corner, upright.size()) & printable();
-    for (int y = covered.top(); y <= covered.bottom(); ++y)
-        std::copy_n(upright.constScanLine(y - corner.y()) + covered.left() - corner.x(), covered.width(),
-                    sheet.scanLine(y) + covered.left());
+    return sheet;
+}
+
+QImage SheetDots::withPage(const QImage &page, const Placement &placement) const
+{
+    QImage sheet = blank();
+    put(sheet, page, QRect({}, page.size()), placement);
+    return sheet;
+}
+
+void SheetDots::put(QImage &sheet, const QImage &part, const QRect &onPage, const Placement &placement) const
+{
+    const QImage upright = placement.isTurned ? part.transformed(turnOf(placement)) : part;
+    const QRect place = ontoSheet(placement).mapRect(onPage);
+    copyWithin(place & printable(), upright, place.topLeft(), sheet);
+}
+
+QImage SheetDots::enlarged(const QImage &coarse) const
+{
+    QImage sheet = blank();
+    copyWithin(printable(), coarse.scaled(size()), {}, sheet);
     return sheet;
 }
 
@@ -129,6 +171,14 @@ QImage SheetDots::burnt(const QImage &sheet, const std::optional<PDEPrintEffect>
     if (effect->reversed || effect->mirrored)
         changeAbout(dots, printable(), *effect);
     return dots;
+}
+
+QRect SheetDots::burntFrom(const QRect &area, const std::optional<PDEPrintEffect> &effect) const
+{
+    QRect reached = area & printable();
+    if (effect && effect->mirrored && !reached.isEmpty())
+        reached.moveRight(printable().left() + printable().right() - reached.left());
+    return reached;
 }
 
 } // namespace host

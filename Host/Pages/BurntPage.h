@@ -6,6 +6,7 @@
 #include "PDEPlugInInterface.h"
 
 #include <QImage>
+#include <QTransform>
 
 namespace host {
 
@@ -42,12 +43,25 @@ public:
     QImage withPage(const QImage &page, const Placement &placement) const;
     /// How many those are.
     QSize dotsOfPage(const Placement &placement) const;
+    /// Which of a page's dots, before it is turned, lie within an area of the sheet; empty: none.
+    QRect onPage(const QRect &area, const Placement &placement) const;
+    /// Puts those dots of a page in their place on a sheet in grey, as far as the printer can reach.
+    void put(QImage &sheet, const QImage &part, const QRect &onPage, const Placement &placement) const;
+    /// The sheet in grey out of one with fewer dots, for the time being.
+    QImage enlarged(const QImage &coarse) const;
 
     /// As the head burns it: dots, black ones and white ones, by the method, changed about and mirrored where the
     /// printer can reach. Without an effect the grey sheet itself.
     QImage burnt(const QImage &sheet, const std::optional<PDEPrintEffect> &effect) const;
+    /// The area of the sheet in grey that an area of the burnt one comes out of. Where errors are diffused, the dots
+    /// there also depend a little on the grey around it.
+    QRect burntFrom(const QRect &area, const std::optional<PDEPrintEffect> &effect) const;
 
 private:
+    QImage blank() const;
+    QTransform turnOf(const Placement &placement) const;
+    QTransform ontoSheet(const Placement &placement) const;
+
     Sheet m_sheet;
     Resolution m_resolution;
 };

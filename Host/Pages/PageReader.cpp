@@ -108,23 +108,44 @@ QString PageReader::title(const std::stop_token &stop) const
     return {};
 }
 
-Or<QImage> PageReader::draw(int page, QSize dots, const std::stop_token &stop) const
+/// `part`: arguments for no more than that, of that size.
+Or<QImage> PageReader::pictureOf(int page, QSize dots, const QStringList &part, QSize size,
+                                 const std::stop_token &stop) const
 {
     constexpr qint64 kHeader = 64;
     const QString number = QString::number(page);
-    // A page that the document turns by itself is measured as it lies in the file: width and height change places.
-    for (const QSize &asked : {dots, dots.transposed()}) {
-        const auto map =
-            answerOf(kPainter,
-                     {"-gray", "-cropbox", "-f", number, "-l", number, "-scale-to-x", QString::number(asked.width()),
-                      "-scale-to-y", QString::number(asked.height()), kDocument},
-                     qint64{dots.width()} * dots.height() + kHeader, stop);
-        if (!map)
-            return map.problem();
-        if (QImage picture = readGreyMap(*map, dots); !picture.isNull())
-            return picture;
-    }
-    return Problem{tr("%1: page %2 can't be drawn").arg(m_title, number)};
+    // A page that the document turns by itself is measured as it is looked at, not as it lies in the file.
+    const QStringList arguments{"-gray",
+                                "-cropbox",
+                                "-scale-dimension-before-rotation",
+                                "-f",
+                                number,
+                                "-l",
+                                number,
+                                "-scale-to-x",
+                                QString::number(dots.width()),
+                                "-scale-to-y",
+                                QString::number(dots.height())};
+    const auto map = answerOf(kPainter, arguments + part + QStringList(kDocument),
+                              qint64{size.width()} * size.height() + kHeader, stop);
+    if (!map)
+        return map.problem();
+    QImage picture = readGreyMap(*map, size);
+    return picture.isNull() ? Or<QImage>(Problem{tr("%1: page %2 can't be drawn").arg(m_title, number)})
+                            : Or<QImage>(std::move(picture));
+}
+
+Or<QImage> PageReader::draw(int page, QSize dots, const std::stop_token &stop) const
+{
+    return pictureOf(page, dots, {}, dots, stop);
+}
+
+Or<QImage> PageReader::drawPart(int page, QSize dots, const QRect &part, const std::stop_token &stop) const
+{
+    return pictureOf(page, dots,
+                     {"-x", QString::number(part.x()), "-y", QString::number(part.y()), "-W",
+                      QString::number(part.width()), "-H", QString::number(part.height())},
+                     part.size(), stop);
 }
 
 } // namespace host

@@ -39,8 +39,12 @@ public:
     /// A page, from 1 on, in so many dots, as a QImage::Format_Grayscale8. A problem when it can't be drawn, or not in
     /// the time and memory that it is given.
     foundation::Or<QImage> draw(int page, QSize dots, const std::stop_token &stop) const;
+    /// No more than `part` of it, which lies within those dots.
+    foundation::Or<QImage> drawPart(int page, QSize dots, const QRect &part, const std::stop_token &stop) const;
 
 private:
+    foundation::Or<QImage> pictureOf(int page, QSize dots, const QStringList &part, QSize size,
+                                     const std::stop_token &stop) const;
     foundation::Or<QByteArray> answerOf(const QString &program, const QStringList &arguments, qint64 mostBytes,
                                         const std::stop_token &stop) const;
 

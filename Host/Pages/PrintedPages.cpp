@@ -4,6 +4,8 @@
 
 #include "Jobs/PageRanges.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,7 +15,8 @@ using foundation::Or;
 using foundation::Problem;
 
 Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Sheet &sheet, Scaling scaling,
-                                  const QString &ranges, const std::stop_token &stop)
+                                  const QString &ranges, const std::stop_token &stop,
+                                  std::chrono::milliseconds patience)
 {
     auto pages = laidOut(std::move(document), sheet, stop);
     if (!pages)
@@ -21,12 +24,13 @@ Or<PrintedPages> PrintedPages::of(std::shared_ptr<Document> document, const Shee
     const QString title = (*pages)->title();
     if ((*pages)->format() != "application/pdf")
         return Problem{tr("%1: PostScript can't be shown before it is printed").arg(title)};
-    auto sizes = PageReader(**pages).sizes(stop);
+    auto sizes = PageReader(**pages, patience).sizes(stop);
     if (!sizes)
         return sizes.problem();
     PrintedPages result;
     result.m_document = *std::move(pages);
     result.m_sizes = *std::move(sizes);
+    result.m_patience = patience;
     result.m_scaling = decided(scaling, result.m_sizes, sheet);
     auto numbers = pagesAmong(ranges, result.countOfDocument());
     if (!numbers)
@@ -49,18 +53,46 @@ bool PrintedPages::standAsTheyAre(const Sheet &sheet) const
            });
 }
 
-Or<QImage> PrintedPages::sheet(int index, const SheetDots &dots, const std::stop_token &stop) const
+/// A problem when either is too large to be held.
+Or<Placement> PrintedPages::placed(int index, const SheetDots &dots) const
 {
     if (!dots.isBearable())
         return Problem{tr("The paper is too large to be shown.")};
-    const int number = m_numbers.at(static_cast<std::size_t>(index));
+    const int number = numberOf(index);
     const Placement placement = placementOf(m_sizes.at(static_cast<std::size_t>(number) - 1), dots.sheet(), m_scaling);
     if (!dots.areBearable(placement.where.size()))
         return Problem{tr("%1: page %2 is too large to be shown").arg(m_document->title(), QString::number(number))};
-    const auto page = PageReader(*m_document).draw(number, dots.dotsOfPage(placement), stop);
+    return placement;
+}
+
+Or<QImage> PrintedPages::sheet(int index, const SheetDots &dots, const std::stop_token &stop) const
+{
+    const auto placement = placed(index, dots);
+    if (!placement)
+        return placement.problem();
+    const PageReader reader(*m_document, m_patience);
+    const auto page = reader.draw(numberOf(index), dots.dotsOfPage(*placement), stop);
     if (!page)
         return page.problem();
-    return dots.withPage(*page, placement);
+    return dots.withPage(*page, *placement);
+}
+
+Or<void> PrintedPages::drawArea(const QRect &area, QImage &sheet, int index, const SheetDots &dots,
+                                const std::stop_token &stop) const
+{
+    const auto placement = placed(index, dots);
+    if (!placement)
+        return placement.problem();
+    const QRect onPage = dots.onPage(area, *placement);
+    auto part =
+        onPage.isEmpty()
+            ? Or<QImage>(QImage())
+            : PageReader(*m_document, m_patience).drawPart(numberOf(index), dots.dotsOfPage(*placement), onPage, stop);
+    if (!part)
+        return part.problem();
+    QPainter(&sheet).fillRect(area, Qt::white); // it may reach beyond the page
+    dots.put(sheet, *part, onPage, *placement);
+    return {};
 }
 
 } // namespace host

@@ -85,7 +85,28 @@ std::optional<PageView::Layout> PageView::placed() const
     return Layout{on, feed > 0 ? QRectF(on.bottomLeft(), QSizeF(size.width(), feed)) : QRectF(), scale};
 }
 
-/// Asks for a picture of the right size, and lets the bars know what there is to see.
+/// Of the sheet; empty where all that is seen is around it.
+QRect PageView::visibleDots(const Layout &layout) const
+{
+    const QSizeF dots = m_preview.dots();
+    const QRectF seen = (QRectF(viewport()->rect()) & layout.sheet).translated(-layout.sheet.topLeft());
+    const double across = dots.width() / layout.sheet.width();
+    const double along = dots.height() / layout.sheet.height();
+    const QRectF inDots(seen.left() * across, seen.top() * along, seen.width() * across, seen.height() * along);
+    return inDots.toAlignedRect() & QRect({}, m_preview.dots());
+}
+
+/// For a picture of the right size, or the part of it that is seen first.
+void PageView::ask()
+{
+    const auto layout = placed();
+    if (layout && m_zoom == Zoom::dots)
+        m_preview.setSize({}, visibleDots(*layout));
+    else if (layout)
+        m_preview.setSize((layout->sheet.size() * devicePixelRatioF()).toSize());
+}
+
+/// Asks for a picture, and lets the bars know what there is to see.
 void PageView::follow()
 {
     const auto layout = placed();
@@ -95,8 +116,13 @@ void PageView::follow()
     verticalScrollBar()->setPageStep(viewport()->height());
     horizontalScrollBar()->setRange(0, std::max(0, static_cast<int>(whole.width()) - viewport()->width()));
     verticalScrollBar()->setRange(0, std::max(0, static_cast<int>(whole.height()) - viewport()->height()));
-    if (layout)
-        m_preview.setSize(scrolls ? QSize() : (layout->sheet.size() * devicePixelRatioF()).toSize());
+    ask();
+    viewport()->update();
+}
+
+void PageView::scrollContentsBy(int, int)
+{
+    ask();
     viewport()->update();
 }
 
@@ -112,14 +138,26 @@ void PageView::paintEvent(QPaintEvent *)
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Mid));
     const auto layout = placed();
     const auto sheet = m_preview.sheet();
-    if (layout && sheet && m_preview.problem().isEmpty()) {
+    const bool isThere = layout && sheet && (m_preview.problem().isEmpty() || !m_preview.picture().isNull());
+    if (isThere) {
         paintSheet(painter, *layout, *sheet);
         paintFeed(painter, *layout);
-        return;
     }
+    if (!m_preview.problem().isEmpty())
+        paintProblem(painter, !isThere);
+}
+
+/// In place of the sheet, or at the foot of what there is of it.
+void PageView::paintProblem(QPainter &painter, bool isAlone) const
+{
+    const QString text = foundation::withoutControls(m_preview.problem());
+    const QRect room = viewport()->rect().adjusted(kEdge, kEdge, -kEdge, -kEdge);
+    const int flags = (isAlone ? Qt::AlignVCenter : Qt::AlignBottom) | Qt::AlignHCenter | Qt::TextWordWrap;
+    if (!isAlone)
+        painter.fillRect(painter.boundingRect(room, flags, text).adjusted(-kEdge, -kEdge / 2, kEdge, kEdge / 2),
+                         palette().color(QPalette::Window));
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(viewport()->rect().adjusted(kEdge, kEdge, -kEdge, -kEdge), Qt::AlignCenter | Qt::TextWordWrap,
-                     foundation::withoutControls(m_preview.problem()));
+    painter.drawText(room, flags, text);
 }
 
 /// Paper is white whatever the theme; what the printer can't reach is a little darker.

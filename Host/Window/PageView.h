@@ -29,6 +29,7 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -43,6 +44,9 @@ private:
     std::optional<Layout> placed() const;
     double pixelsAPoint(const Sheet &sheet, double feedInPoints) const;
     void follow();
+    void ask();
+    QRect visibleDots(const Layout &layout) const;
+    void paintProblem(QPainter &painter, bool isAlone) const;
     void paintSheet(QPainter &painter, const Layout &layout, const Sheet &sheet) const;
     void paintFeed(QPainter &painter, const Layout &layout) const;
 

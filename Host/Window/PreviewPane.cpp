@@ -101,7 +101,7 @@ void PreviewPane::follow()
     const int count = m_preview.count();
     m_number->setText(count > 0 ? tr("Page %1 of %2").arg(QString::number(m_preview.page() + 1), QString::number(count))
                                 : QString());
-    m_view->setAccessibleDescription(count > 0 ? m_number->text() : m_preview.problem());
+    m_view->setAccessibleDescription(QStringList{m_number->text(), m_preview.problem()}.join('\n').trimmed());
     m_back->setEnabled(m_preview.page() > 0);
     m_forward->setEnabled(m_preview.page() + 1 < count);
     const auto scaling = m_dialog.target() ? m_dialog.target()->scaling() : Scaling::automatic;

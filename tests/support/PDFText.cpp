@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <random>
+
 namespace support {
 
 namespace {
@@ -97,6 +99,23 @@ PDFText formsWithin(int depth, int times, QSizeF size)
 
 PDFText endlessPage() { return formsWithin(12, 10, {300, 400}); }
 PDFText heavyPage() { return formsWithin(98, 1, {595, 842}); }
+
+QByteArray pathsOver(QSizeF size, int count)
+{
+    std::minstd_rand random; // the same each time
+    std::uniform_real_distribution<double> share(0, 1);
+    const auto place = [&] {
+        return number(share(random) * size.width()) + ' ' + number(share(random) * size.height());
+    };
+    QByteArray content = "/G gs\n";
+    for (int path = 0; path < count; ++path) {
+        content += number(share(random)) + " g " + place() + " m";
+        for (int corner = 0; corner < 5; ++corner)
+            content += ' ' + place() + " l";
+        content += " f\n";
+    }
+    return content;
+}
 
 QString fileOf(const QByteArray &content, const QString &ending)
 {

@@ -38,6 +38,10 @@ PDFText endlessPage();
 /// One that takes more memory than there is: groups within groups, each of them as large as the page.
 PDFText heavyPage();
 
+/// Content for a page: so many large paths one over the other, half transparent; and the entry that it needs.
+QByteArray pathsOver(QSizeF size, int count);
+inline constexpr auto kHalfTransparent = "/Resources << /ExtGState << /G << /ca 0.5 >> >> >>";
+
 /// Any file of that content, until the process ends.
 QString fileOf(const QByteArray &content, const QString &ending);
 

@@ -191,6 +191,34 @@ TEST_F(BurntSheet, HasAPageTurnedTheOtherWayWhereThePrinterTurnsSo)
                 << x << ", " << y;
 }
 
+TEST_F(BurntSheet, HasAPartOfAPageWhereTheWholeHasIt)
+{
+    Sheet turning = kSheet;
+    turning.turnsLeft = true;
+    for (const SheetDots &dots : {m_dots, SheetDots(turning, kResolution)})
+        for (const Placement &placement : {Placement{false, QRectF(-24, -18, 120, 90)}, kTurned}) {
+            const QImage page = greyOf(dots.dotsOfPage(placement));
+            const QImage whole = dots.withPage(page, placement);
+            const QRect area(90, 40, 57, 23); // reaches beyond the turned one
+            QImage sheet = dots.withPage({}, placement);
+            const QRect onPage = dots.onPage(area, placement);
+            dots.put(sheet, page.copy(onPage), onPage, placement);
+            EXPECT_EQ(sheet.copy(area), whole.copy(area));
+            EXPECT_NE(sheet, whole);
+        }
+    EXPECT_EQ(m_dots.onPage(QRect(0, 0, 90, 40), kTurned), QRect());
+}
+
+TEST_F(BurntSheet, ComesOutOfTheSameAreaUnlessItIsMirrored)
+{
+    const QRect area(70, 10, 40, 30); // reaches beyond the head
+    EXPECT_EQ(m_dots.burntFrom(area, std::nullopt), QRect(70, 14, 40, 26));
+    EXPECT_EQ(m_dots.burntFrom(area, effectOf(Halftone::binary, true, false)), QRect(70, 14, 40, 26));
+    const QRect other = m_dots.burntFrom(area, effectOf(Halftone::binary, false, true));
+    EXPECT_EQ(other, QRect(mirrored({109, 14}), mirrored({70, 39})));
+    EXPECT_TRUE(m_dots.burntFrom(QRect(0, 0, 63, 14), effectOf(Halftone::binary, false, true)).isEmpty());
+}
+
 TEST_F(BurntSheet, CutsAPageThatIsLargerThanItself)
 {
     const Placement larger{false, QRectF(-24, -18, 120, 90)};

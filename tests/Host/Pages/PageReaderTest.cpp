@@ -106,6 +106,33 @@ TEST_F(Reading, DrawsThePageThatIsAskedFor)
     EXPECT_NEAR(qGray(second.pixel(150, 200)), 128, 2);
 }
 
+TEST_F(Reading, DrawsAPartOfAPageAsItIsInTheWhole)
+{
+    const QSizeF size(300, 400);
+    const QByteArray content = support::pathsOver(size, 100);
+    PDFText document;
+    for (const char *entries : {"", "/Rotate 90", "/Rotate 180", "/Rotate 270", "/CropBox [50 50 250 350]"})
+        document.page(size, content, QByteArray(entries) + ' ' + support::kHalfTransparent);
+    open(document);
+    const PageReader reader(*m_document, m_patience);
+    const QSize dots(333, 290);
+    for (int page = 1; page <= 5; ++page) {
+        const QImage whole = value(reader.draw(page, dots, {}));
+        for (const QRect part : {QRect(0, 0, 333, 290), QRect(97, 103, 111, 57), QRect(332, 289, 1, 1)})
+            EXPECT_EQ(value(reader.drawPart(page, dots, part, {})), whole.copy(part)) << page << ", " << part.x();
+    }
+}
+
+TEST_F(Reading, ScalesAPageThatTheDocumentTurnsAsItIsLookedAt)
+{
+    open(PDFText().page({400, 300}, "0 g 0 0 400 150 re f", "/Rotate 90")); // dark at the left
+    const QImage page = value(PageReader(*m_document).draw(1, {300, 800}, {}));
+    for (const int y : {5, 400, 795}) {
+        EXPECT_EQ(qGray(page.pixel(140, y)), 0) << y;
+        EXPECT_EQ(qGray(page.pixel(160, y)), 255) << y;
+    }
+}
+
 TEST_F(Reading, SaysThatAPageIsNotThere)
 {
     open(PDFText().page({300, 400}));

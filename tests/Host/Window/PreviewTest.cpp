@@ -16,7 +16,10 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 
+#include <filesystem>
+
 using namespace host;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -356,6 +359,188 @@ TEST_F(Preview, GoesWithTheWindowInTheMiddleOfItsWork)
     press(m_window->findChild<QPushButton *>("unfoldPreview"));
     ASSERT_TRUE(preview().isBusy());
     m_window.reset();
+}
+
+/// A view of its own, as of pages that take their time, and with a program in place of pdftoppm that tells what it was
+/// asked for.
+class PreviewInParts : public Preview
+{
+protected:
+    void SetUp() override
+    {
+        Preview::SetUp();
+        const QDir folder(m_directory.path());
+        ASSERT_TRUE(folder.mkpath("asked") && folder.mkpath("programs"));
+        m_dialog->chooseDocuments({documentOf(3)});
+        qputenv("PATH", folder.filePath("programs").toUtf8() + ':' + m_path);
+        write("");
+    }
+    void TearDown() override
+    {
+        m_view.reset();
+        m_preview.reset();
+        qputenv("PATH", m_path);
+        Preview::TearDown();
+    }
+    /// The program never ends where its arguments match a pattern of the shell. It may make no file, but links.
+    void write(const QByteArray &neverEnding)
+    {
+        const QByteArray asked = m_directory.filePath("asked").toUtf8();
+        QFile program(m_directory.filePath("programs/pdftoppm"));
+        ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+        program.write("#!/bin/sh\nln -s -- \"$*\" " + asked + "/$(ls " + asked + " | wc -l)\ncase \"$*\" in\n" +
+                      (neverEnding.isEmpty() ? QByteArray() : neverEnding + ") exec sleep 1000 ;;\n") + "esac\nexec " +
+                      m_painter + " \"$@\"\n");
+        program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    void look(PageView::Zoom zoom, const PreviewTimes &times = {PageReader::kPatience, 0ms})
+    {
+        m_preview = std::make_unique<PagePreview>(*m_dialog, times);
+        m_view = std::make_unique<PageView>(*m_preview);
+        m_view->setZoom(zoom);
+        m_view->resize(300, 300);
+        m_view->show();
+        m_preview->setShown(true);
+    }
+    /// What the program was asked for, in order: "coarse", "whole", and "part 1000" for one from that dot down.
+    QStringList asked()
+    {
+        QStringList all;
+        for (int number = 0;; ++number) {
+            std::error_code none;
+            const auto link = m_directory.filePath("asked/%1").arg(number).toStdString();
+            const auto words = QString::fromStdString(std::filesystem::read_symlink(link, none).string()).split(' ');
+            if (none)
+                return all;
+            const bool isInDots = words.value(words.indexOf("-scale-to-x") + 1) == "1678";
+            all += words.contains("-H") ? "part " + words.value(words.indexOf("-y") + 1)
+                                        : QString(isInDots ? "whole" : "coarse");
+        }
+    }
+    bool waitUntil(const std::function<bool()> &isSo) { return QTest::qWaitFor(isSo, 20000); }
+    bool waitForEnd()
+    {
+        return waitUntil([this] { return !m_preview->isBusy(); });
+    }
+    bool hasDots() { return m_preview->picture().size() == m_preview->dots(); }
+    void scrollTo(int pixel) { m_view->verticalScrollBar()->setValue(pixel); }
+
+    std::unique_ptr<PagePreview> m_preview;
+    std::unique_ptr<PageView> m_view;
+    const QByteArray m_painter = QStandardPaths::findExecutable("pdftoppm").toUtf8();
+
+private:
+    const QByteArray m_path = qgetenv("PATH");
+};
+
+constexpr auto kPart = "*' -H '*";
+constexpr auto kPartAtTheTop = "*' -y 0 -W '*";
+constexpr auto kWhole = "*' -scale-to-y 2374 /'*";
+
+TEST_F(PreviewInParts, ComeAfterTheCoarsePageAndBeforeTheWhole)
+{
+    look(PageView::Zoom::dots);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(asked(), QStringList({"coarse", "part 0", "whole"}));
+    EXPECT_TRUE(hasDots());
+    scrollTo(1000);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(asked().size(), 3);
+}
+
+TEST_F(PreviewInParts, ShowBeforeTheWholeIsThere)
+{
+    write(kWhole);
+    look(PageView::Zoom::dots);
+    EXPECT_TRUE(waitUntil([this] { return hasDots(); }));
+    EXPECT_EQ(m_preview->problem(), "");
+    EXPECT_TRUE(m_preview->isBusy());
+}
+
+TEST_F(PreviewInParts, AreNotDrawnWhereTheSheetIsSeenAsAWhole)
+{
+    look(PageView::Zoom::fit);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(asked(), QStringList({"coarse", "whole"}));
+    m_view->setZoom(PageView::Zoom::dots);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(hasDots());
+    EXPECT_EQ(asked(), QStringList({"coarse", "whole"}));
+}
+
+TEST_F(PreviewInParts, AreNotDrawnOfAPageThatIsQuick)
+{
+    look(PageView::Zoom::dots, {PageReader::kPatience, 1h});
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(asked(), QStringList({"coarse", "whole"}));
+    EXPECT_TRUE(hasDots());
+}
+
+TEST_F(PreviewInParts, AreGivenUpWhenNobodySeesThemAnyMore)
+{
+    write(kPartAtTheTop);
+    look(PageView::Zoom::dots);
+    ASSERT_TRUE(waitUntil([this] { return asked().size() == 2; }));
+    scrollTo(700);
+    scrollTo(1000);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(asked().first(2), QStringList({"coarse", "part 0"}));
+    EXPECT_TRUE(asked().last(2).first().startsWith("part 99")) << asked().join(", ").toStdString();
+    EXPECT_EQ(asked().last(), "whole");
+}
+
+TEST_F(PreviewInParts, ComeFirstAlsoWhereTheWholeIsBegun)
+{
+    write(kWhole);
+    look(PageView::Zoom::fit);
+    ASSERT_TRUE(waitUntil([this] { return asked().contains("whole"); }));
+    m_view->setZoom(PageView::Zoom::dots);
+    EXPECT_TRUE(waitUntil([this] { return hasDots(); }));
+    EXPECT_TRUE(waitUntil([this] { return asked().size() == 4; }));
+    EXPECT_EQ(asked(), QStringList({"coarse", "whole", "part 0", "whole"}));
+}
+
+TEST_F(PreviewInParts, FollowAChoiceBeforeTheWholeIsThere)
+{
+    write(kWhole);
+    look(PageView::Zoom::dots);
+    ASSERT_TRUE(waitUntil([this] { return hasDots(); }));
+    EXPECT_EQ(m_preview->picture().format(), QImage::Format_Mono);
+    m_preview->setBurnt(false);
+    EXPECT_TRUE(waitUntil([this] { return m_preview->picture().format() == QImage::Format_Grayscale8; }));
+    EXPECT_TRUE(hasDots());
+    EXPECT_EQ(asked().filter("part").size(), 1);
+}
+
+TEST_F(PreviewInParts, StayAndGoOnWhereTheWholeTakesTooLong)
+{
+    write(kWhole);
+    look(PageView::Zoom::dots, {5s, 0ms});
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(m_preview->problem().contains("takes too long")) << m_preview->problem().toStdString();
+    EXPECT_TRUE(hasDots());
+    const QImage seen = m_view->viewport()->grab().toImage();
+    EXPECT_EQ(seen.pixelColor(seen.width() / 2, 20), QColor(Qt::black)); // the page
+    EXPECT_EQ(seen.pixelColor(seen.width() / 2, seen.height() - 6), m_view->palette().color(QPalette::Window));
+    scrollTo(1000);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(asked().last().startsWith("part 99")) << asked().join(", ").toStdString();
+    EXPECT_EQ(asked().count("whole"), 1);
+    EXPECT_TRUE(m_preview->problem().contains("takes too long"));
+    EXPECT_TRUE(hasDots());
+    m_view->setZoom(PageView::Zoom::fit);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(m_preview->picture().isNull());
+}
+
+TEST_F(PreviewInParts, AreNoMoreThanAnAttemptWhereTheyTakeTooLongThemselves)
+{
+    write(kPart);
+    look(PageView::Zoom::dots, {3s, 0ms});
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(asked(), QStringList({"coarse", "part 0", "whole"}));
+    EXPECT_TRUE(hasDots());
+    EXPECT_EQ(m_preview->problem(), "");
 }
 
 TEST(Shrinking, KeepsTheGreyOfAHalftone)
