@@ -2,7 +2,8 @@
 include(CMakePackageConfigHelpers)
 
 set(kit ${CMAKE_INSTALL_LIBDIR}/cmake/qnprint)
-install(FILES ${QN_PROTOCOL_HEADER} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qnprint)
+install(FILES ${QN_PROTOCOL_HEADER} ${PROJECT_SOURCE_DIR}/PDEBaseClass/PDECheckInterface.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qnprint)
 install(EXPORT qnprint FILE qnprint-targets.cmake NAMESPACE qnprint:: DESTINATION ${kit})
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/qnprint-config.cmake.in ${PROJECT_BINARY_DIR}/qnprint-config.cmake
     INSTALL_DESTINATION ${kit} PATH_VARS CMAKE_INSTALL_INCLUDEDIR)

@@ -1,4 +1,5 @@
 // Where the host comes in: the root object of the code, and the principal object that makes the panel.
+#include "LabelChecks.h"
 #include "LabelPanel.h"
 
 #include <QObject>
@@ -39,6 +40,7 @@ public:
         return className == "LabelPlugIn" ? std::make_unique<LabelPlugIn>() : nullptr;
     }
     std::vector<PDERemembered> remembered() const override { return {}; }
+    const PDEChecks *checks() const override { return &labelChecks(); }
 };
 
 #include "LabelPlugIn.moc"
