@@ -51,7 +51,7 @@ QWidget *GroupPDE::makeView()
     for (const ShownOption &option : m_group.options) {
         if (!option.heading.isEmpty())
             addHeading(option.heading, *form);
-        m_rows.push_back(OptionRow(option, *form, owner, rangeOf(option)));
+        m_rows.emplace_back(option, *form, owner, rangeOf(option));
     }
     view->setWidget(content);
     setPDEItems();

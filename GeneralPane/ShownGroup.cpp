@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -104,13 +105,14 @@ void addOptions(const ppd_group_t &group, ppd_file_t &ppd, const PPDTexts &texts
 std::vector<ShownGroup> shownGroups(ppd_file_t &ppd, const PPDTexts &texts)
 {
     std::vector<ShownGroup> groups;
+    std::vector<ShownGroup> installed; // comes last
     for (int i = 0; i < ppd.num_groups; ++i) {
         const ppd_group_t &group = ppd.groups[i];
         ShownGroup each{QString::fromUtf8(group.name), texts.group(group), {}};
         addOptions(group, ppd, texts, {}, each.options);
         if (!each.options.empty())
-            groups.push_back(std::move(each));
+            (each.name == kInstalled ? installed : groups).push_back(std::move(each));
     }
-    std::ranges::stable_partition(groups, [](const ShownGroup &group) { return group.name != kInstalled; });
+    std::ranges::move(installed, std::back_inserter(groups));
     return groups;
 }

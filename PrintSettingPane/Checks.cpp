@@ -124,6 +124,7 @@ public:
     std::vector<PDECheck> checks() const override
     {
         std::vector<PDECheck> result;
+        result.reserve(kRows.size());
         for (const CheckRow &row : kRows)
             result.push_back({row.name, row.severity, row.looksFor, row.why, row.good, row.bad});
         return result;
@@ -138,6 +139,7 @@ public:
     std::vector<PDEOptionControl> controls() const override
     {
         std::vector<PDEOptionControl> result;
+        result.reserve(kControls.size());
         for (const auto &[panel, control, option, leads] : kControls)
             result.push_back({panel, control, optionRow(option).keyword, leads});
         return result;

@@ -4,6 +4,8 @@
 #include "Foundation/PlainText.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace host {
 
@@ -28,8 +30,14 @@ void Findings::add(PDEFinding finding)
 
 std::vector<PDEFinding> Findings::sorted() &&
 {
-    std::ranges::stable_sort(m_all, {}, &PDEFinding::line);
-    return std::move(m_all);
+    std::vector<std::size_t> order(m_all.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::sort(order, {}, [this](std::size_t i) { return std::pair(m_all[i].line, i); });
+    std::vector<PDEFinding> sorted;
+    sorted.reserve(m_all.size());
+    for (const std::size_t i : order)
+        sorted.push_back(std::move(m_all[i]));
+    return sorted;
 }
 
 } // namespace host

@@ -34,7 +34,7 @@ constexpr auto kLifeOfToken = 1h; // pages of a large document take their time
 
 /// A value that is really of a type; else the one that stands for none.
 template <class T>
-T valueOf(const QVariantMap &map, const char *key, T otherwise = {})
+T valueOf(const QVariantMap &map, const char *key, const T &otherwise = {})
 {
     const QVariant value = map.value(QString::fromLatin1(key));
     return value.metaType() == QMetaType::fromType<T>() ? value.value<T>() : otherwise;

@@ -43,16 +43,17 @@ public:
     /// Takes its name on the bus. A problem when somebody else has it.
     foundation::Or<void> begin();
 
-public Q_SLOTS:
     /// Takes no more calls, ends all dialogs, and is done when the last job has ended by itself.
-    void leave();
+    Q_SLOT void leave();
 
-    Q_SCRIPTABLE uint PreparePrint(const QDBusObjectPath &handle, const QString &application,
-                                   const QString &parentWindow, const QString &title, const QVariantMap &settings,
-                                   const QVariantMap &pageSetup, const QVariantMap &options, QVariantMap &results);
-    Q_SCRIPTABLE uint Print(const QDBusObjectPath &handle, const QString &application, const QString &parentWindow,
-                            const QString &title, const QDBusUnixFileDescriptor &document, const QVariantMap &options,
-                            QVariantMap &results);
+    Q_SCRIPTABLE Q_SLOT uint PreparePrint(const QDBusObjectPath &handle, const QString &application,
+                                          const QString &parentWindow, const QString &title,
+                                          const QVariantMap &settings, const QVariantMap &pageSetup,
+                                          const QVariantMap &options, QVariantMap &results);
+    Q_SCRIPTABLE Q_SLOT uint Print(const QDBusObjectPath &handle, const QString &application,
+                                   const QString &parentWindow, const QString &title,
+                                   const QDBusUnixFileDescriptor &document, const QVariantMap &options,
+                                   QVariantMap &results);
 
 Q_SIGNALS:
     /// There is nothing left to do.

@@ -76,6 +76,7 @@ int run(Face face, const host::Arguments &arguments, int argc, char *argv[])
 
 } // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): what nobody has caught is a defect, and ends the program
 int main(int argc, char *argv[])
 {
     QCoreApplication::setOrganizationName("qnprint");

@@ -4,6 +4,7 @@
 #include "PPDText.h"
 #include "WindowTest.h"
 
+#include "Foundation/Shadow.h"
 #include "Window/PreviewPane.h"
 
 #include <QDir>
@@ -25,7 +26,7 @@ using support::PDFText;
 
 namespace {
 
-constexpr long kMostMemory = 600L * 1024; // KiB
+constexpr long kMostMemory = (foundation::kHasShadow ? 4000L : 600L) * 1024; // KiB
 
 QByteArray contentOf(const QString &path)
 {
