@@ -122,6 +122,8 @@ std::optional<QString> Screen::start(const QSize &size)
     m_windowManager.start("openbox", {"--sm-disable"});
     if (!m_windowManager.waitForStarted(kMilliseconds))
         return QString("openbox can't be started: %1").arg(m_windowManager.errorString());
+    if (!waitForAnswer({"get_num_desktops"}))
+        return "openbox manages nothing"; // a window that came before it would never get the keyboard
     for (const char *name : {"DISPLAY", "DBUS_SESSION_BUS_ADDRESS"})
         qputenv(name, environment.value(name).toUtf8());
     // Asked once before there is anything to see: the question starts what answers it, and comes back too late itself.
@@ -231,18 +233,19 @@ std::optional<QString> Screen::listen()
     return isHeard ? std::nullopt : std::optional(QString("nobody listens to the accessibility bus"));
 }
 
-/// A window that has just come may not have the keyboard yet; keys would be lost.
-void Screen::waitForActiveWindow() const
+/// Asks until there is an answer.
+bool Screen::waitForAnswer(const QStringList &question) const
 {
     QElapsedTimer clock;
-    for (clock.start(); clock.elapsed() < kMillisecondsToAnswer; QThread::msleep(50))
-        if (!ask("xdotool", {"getactivewindow"}).isEmpty())
-            return;
+    for (clock.start(); clock.elapsed() < kMilliseconds; QThread::msleep(50))
+        if (!ask("xdotool", question).isEmpty())
+            return true;
+    return false;
 }
 
 void Screen::press(const QString &keys) const
 {
-    waitForActiveWindow();
+    waitForAnswer({"getactivewindow"}); // one that has just come may not have the keyboard yet
     ask("xdotool", {"key", keys});
 }
 

@@ -68,7 +68,7 @@ public:
 private:
     static constexpr int kMilliseconds = 20000;
 
-    void waitForActiveWindow() const;
+    bool waitForAnswer(const QStringList &question) const;
 
     std::optional<QString> startBus();
 
