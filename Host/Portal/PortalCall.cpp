@@ -33,6 +33,7 @@ void PortalCall::reply(const QDBusMessage &message)
 
 void PortalCall::close()
 {
+    m_isClosed = true;
     if (!m_isAnswered)
         Q_EMIT closed();
 }

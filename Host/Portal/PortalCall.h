@@ -34,6 +34,7 @@ public:
 
     /// Nobody waits any more.
     void close();
+    bool isClosed() const { return m_isClosed; }
 
 Q_SIGNALS:
     /// Nobody waits for the answer any more.
@@ -47,6 +48,7 @@ private:
     QString m_sender;
     QString m_handle;
     bool m_isAnswered = false;
+    bool m_isClosed = false;
 };
 
 } // namespace host

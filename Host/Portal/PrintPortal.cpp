@@ -224,7 +224,7 @@ void PrintPortal::showDialog(PortalCall &call, const std::shared_ptr<Preparation
     connect(&call, &PortalCall::closed, dialog, &PortalProcess::dismiss);
     connect(dialog, &PortalProcess::ended, &call,
             [=, this, &call](const std::optional<int> &, const QJsonObject &answer) {
-                if (answer[kOutcome] == kOthers && others)
+                if (answer[kOutcome] == kOthers && others && !call.isClosed())
                     handOver(call, preparation, *others);
                 else
                     endDialog(call, *preparation, answer);
@@ -309,6 +309,8 @@ void PrintPortal::endHandOver(PortalCall &call, const std::shared_ptr<Preparatio
     const QVariantList said = answer.arguments();
     if (m_isLeaving)
         return call.answer(Response::failed);
+    if (call.isClosed() && answer.type() != QDBusMessage::ReplyMessage)
+        return call.answer(Response::cancelled); // nobody wants a dialog any more
     if (answer.type() != QDBusMessage::ReplyMessage || said.size() < 2) {
         preparation->isAlone = true; // nobody is there: ours is better than none
         return showDialog(call, preparation);

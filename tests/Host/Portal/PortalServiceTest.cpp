@@ -774,6 +774,22 @@ TEST_F(HandOver, IsTakenBackWhereItHasGone)
     EXPECT_EQ(answerOf(pending).response, 2U);
 }
 
+TEST_F(HandOver, DoesNotComeBackWhenNobodyWantsItAnyMore)
+{
+    startOthers();
+    m_others.m_isSlow = true;
+    startService();
+    const auto pending = prepare();
+    ASSERT_TRUE(showsDialog());
+    m_screen.press("alt+o");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_others.m_handle.isEmpty(); }, kMilliseconds));
+    takeBack(m_handles);
+    QTest::qWait(100);
+    m_othersBus->send(m_others.m_pending.createErrorReply(QDBusError::Failed, "taken back"));
+    EXPECT_EQ(answerOf(pending).response, 1U);
+    EXPECT_TRUE(showsNothing());
+}
+
 TEST_F(HandOver, ComesBackWhenNobodyIsThere)
 {
     startService(); // and no others
