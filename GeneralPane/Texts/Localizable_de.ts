@@ -171,5 +171,29 @@
         <source>Manual Feed</source>
         <translation>Manuelle Zufuhr</translation>
     </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>Querformat, umgedreht</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>Hochformat, umgedreht</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Schwarzweiß</translation>
+    </message>
 </context>
 </TS>

@@ -171,5 +171,29 @@
         <source>Manual Feed</source>
         <translation>Manual Feed</translation>
     </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Landscape</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>Reverse Landscape</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>Reverse Portrait</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Black and White</translation>
+    </message>
 </context>
 </TS>

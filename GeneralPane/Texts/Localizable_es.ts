@@ -171,5 +171,29 @@
         <source>Manual Feed</source>
         <translation>Alimentación manual</translation>
     </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientación</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>Horizontal invertida</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>Vertical invertida</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Blanco y negro</translation>
+    </message>
 </context>
 </TS>

@@ -171,5 +171,29 @@
         <source>Manual Feed</source>
         <translation>Alimentation manuelle</translation>
     </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>Paysage inversé</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>Portrait inversé</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>Noir et blanc</translation>
+    </message>
 </context>
 </TS>

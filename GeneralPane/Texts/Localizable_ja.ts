@@ -171,5 +171,29 @@
         <source>Manual Feed</source>
         <translation>手差し</translation>
     </message>
+    <message>
+        <source>Orientation</source>
+        <translation>用紙の向き</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>横（逆方向）</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>縦（逆方向）</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>白黒2値</translation>
+    </message>
 </context>
 </TS>

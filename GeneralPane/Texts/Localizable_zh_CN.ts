@@ -171,5 +171,29 @@
         <source>Manual Feed</source>
         <translation>手动进纸</translation>
     </message>
+    <message>
+        <source>Orientation</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Reverse Landscape</source>
+        <translation>反向横向</translation>
+    </message>
+    <message>
+        <source>Reverse Portrait</source>
+        <translation>反向纵向</translation>
+    </message>
+    <message>
+        <source>Black and White</source>
+        <translation>黑白</translation>
+    </message>
 </context>
 </TS>

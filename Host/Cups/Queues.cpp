@@ -42,9 +42,10 @@ Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Pa
 
 Or<OpenedQueue> withPPDOpened(Queue queue)
 {
-    if (!queue.ppd)
+    const QByteArray offers = queue.ppd ? QByteArray() : ppdOf(queue.offers);
+    if (!queue.ppd && offers.isEmpty())
         return OpenedQueue{std::move(queue), nullptr};
-    auto ppd = PPDDocument::open(queue.ppd->path);
+    auto ppd = queue.ppd ? PPDDocument::open(queue.ppd->path) : PPDDocument::ofText(offers);
     if (!ppd)
         return Problem{QStringLiteral("%1: %2").arg(queue.name, ppd.problem().sentence)};
     return OpenedQueue{std::move(queue), *std::move(ppd)};

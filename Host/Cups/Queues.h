@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Conversation.h"
+#include "OfferedOptions.h"
 
 #include "Foundation/Or.h"
 #include "PPD/PPDDocument.h"
@@ -70,6 +71,7 @@ struct Queue
     QString note;                   // one clause on its state; empty when it just prints
     bool takesJobs = true;
     std::optional<QString> distrust = std::nullopt; // why the server's certificate is not trusted, in one clause
+    OfferedOptions offers = {};                     // of a queue without PPD
 };
 
 struct Queues
@@ -87,7 +89,7 @@ foundation::Or<Queue> findQueue(const QueueName &name, const std::stop_token &st
 struct OpenedQueue
 {
     Queue queue;
-    std::unique_ptr<PPDDocument> ppd; // null: the queue has none
+    std::unique_ptr<PPDDocument> ppd; // where the queue has none, of what the server offers; null: nothing
 };
 
 /// Takes a while where the PPD is large. A problem names the queue and the file.

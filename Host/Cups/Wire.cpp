@@ -29,6 +29,25 @@ std::vector<PaperEntry> papersFrom(const QJsonArray &array)
     return papers;
 }
 
+QJsonArray offersToJson(const OfferedOptions &offers)
+{
+    QJsonArray array;
+    for (const OfferedOption &offer : offers)
+        array.append(QJsonObject{{"word", offer.word},
+                                 {"choices", QJsonArray::fromStringList(offer.choices)},
+                                 {"standard", offer.standard}});
+    return array;
+}
+
+OfferedOptions offersFrom(const QJsonArray &array)
+{
+    OfferedOptions offers;
+    for (const QJsonValue each : array)
+        offers.push_back(
+            {each["word"].toString(), each["choices"].toVariant().toStringList(), each["standard"].toString()});
+    return offers;
+}
+
 } // namespace
 
 QJsonObject toJson(const Problem &problem)
@@ -92,6 +111,7 @@ QJsonObject toJson(const Queue &queue)
     QJsonObject json{{"name", queue.name},
                      {"preset", queue.preset},
                      {"papers", papersToJson(queue.papers)},
+                     {"offers", offersToJson(queue.offers)},
                      {"note", queue.note},
                      {"takesJobs", queue.takesJobs}};
     if (queue.uri)
@@ -107,6 +127,7 @@ Queue queueFrom(const QJsonObject &json)
 {
     Queue queue{json["name"].toString(), json["preset"].toString(), {}, {}, papersFrom(json["papers"].toArray()),
                 json["note"].toString(), json["takesJobs"].toBool()};
+    queue.offers = offersFrom(json["offers"].toArray());
     if (json.contains("uri"))
         queue.uri = json["uri"].toString();
     if (json.contains("distrust"))

@@ -72,9 +72,63 @@ void PrintTarget::setScaling(Scaling scaling)
         m_serverOptions[kPrintScaling] = nameOf(scaling);
 }
 
-OptionValues PrintTarget::restore(const QString &) { return {}; }
+void PrintTarget::start(std::function<void()> changed)
+{
+    if (!m_session)
+        return;
+    m_session->setListener(
+        {.panelMarks = {}, .changed = [changed = std::move(changed)](const QString &, const QString &) { changed(); }});
+    m_session->start(DialogSession::Prepare::firstPanel);
+    m_doubts += m_session->bundleProblems();
+}
 
-Or<void> PrintTarget::save(const QString &, std::optional<int>) { return {}; }
+const PDEPanels &PrintTarget::panels() const
+{
+    static const PDEPanels kNone;
+    return m_session ? m_session->panels() : kNone;
+}
+
+void PrintTarget::prepareAll()
+{
+    if (m_session)
+        m_session->prepareAll();
+}
+
+std::vector<SummaryRow> PrintTarget::differences() const
+{
+    return m_session ? m_session->differences() : std::vector<SummaryRow>();
+}
+
+QStringList PrintTarget::takeRemarks() { return m_session ? m_session->takeRemarks() : QStringList(); }
+
+std::optional<PDEPrintEffect> PrintTarget::printEffect() const
+{
+    return m_session ? m_session->printEffect() : std::nullopt;
+}
+
+OptionValues PrintTarget::restore(const QString &preset)
+{
+    OptionValues saved = m_saved->options(preset);
+    m_preset = preset;
+    if (m_session)
+        m_session->restore(forSession(saved));
+    setServerOptions(besideSession(saved));
+    return saved;
+}
+
+Or<void> PrintTarget::save(const QString &preset, std::optional<int> copies)
+{
+    OptionValues options = besideSession(m_saved->options(preset)); // not ours to drop
+    options.insert(m_serverOptions);
+    if (m_session)
+        options.insert(fromSession(m_session->settings(forSession(m_saved->options()))));
+    if (copies)
+        options["copies"] = QString::number(*copies);
+    auto saved = m_saved->save(preset, options);
+    if (saved)
+        m_preset = preset;
+    return saved;
+}
 
 Or<void> PrintTarget::removePreset()
 {
@@ -204,35 +258,9 @@ QString PPDTarget::remark() const
                : QString();
 }
 
-void PPDTarget::start(std::function<void()> changed)
+OptionValues PPDTarget::besideSession(const OptionValues &options) const
 {
-    m_session->setListener(
-        {.panelMarks = {}, .changed = [changed = std::move(changed)](const QString &, const QString &) { changed(); }});
-    m_session->start(DialogSession::Prepare::firstPanel);
-    m_doubts += m_session->bundleProblems();
-}
-
-OptionValues PPDTarget::restore(const QString &preset)
-{
-    const OptionValues values = withMediaAsPageSize(m_saved->options(preset));
-    m_preset = preset;
-    m_session->restore(values);
-    setServerOptions(m_session->ppd().unknownAmong(values));
-    return values;
-}
-
-Or<void> PPDTarget::save(const QString &preset, std::optional<int> copies)
-{
-    OptionValues options =
-        m_session->ppd().unknownAmong(withMediaAsPageSize(m_saved->options(preset))); // not ours to drop
-    options.insert(m_serverOptions);
-    options.insert(m_session->settings(m_saved->options()));
-    if (copies)
-        options["copies"] = QString::number(*copies);
-    auto saved = m_saved->save(preset, options);
-    if (saved)
-        m_preset = preset;
-    return saved;
+    return m_session->ppd().unknownAmong(withMediaAsPageSize(options));
 }
 
 std::optional<Sheet> PPDTarget::sheet() const
@@ -263,15 +291,61 @@ OptionValues PPDTarget::jobOptions() const
     return options;
 }
 
-PlainTarget::PlainTarget(const PrintRequest &request, const Queue &queue)
-    : m_papers(queue.papers)
+Or<void> PlainTarget::openSession(const PrintRequest &request, const OptionValues &options,
+                                  std::unique_ptr<PPDDocument> ppd)
 {
-    describe(queue);
-    OptionValues options = startingWith(SavedOptions(queue.name).options(queue.preset), request, queue.name);
+    for (const auto &[word, text] : request.options.asKeyValueRange())
+        if (const OptionValues asked = asOffered({{word, text}});
+            ppd->hasOption(asked.firstKey()) && !ppd->accepts(asked.firstKey(), asked.first()))
+            return Problem{PPDTarget::tr("-o %1=%2: the printer has no such choice").arg(word, text)};
+    DialogSession::Parameters parameters;
+    parameters.localization = request.language;
+    parameters.choosesByClaims = true;
+    parameters.defaults = asOffered(options);
+    auto session = DialogSession::open(parameters, std::move(ppd));
+    if (session)
+        m_session = *std::move(session);
+    else
+        m_doubts.append(session.problem().sentence); // a panel is all that is missing
+    return {};
+}
+
+Or<std::unique_ptr<PrintTarget>> PlainTarget::ofQueue(const PrintRequest &request, OpenedQueue opened,
+                                                      const OptionValues &carried)
+{
+    const Queue &queue = opened.queue;
+    auto target = std::make_unique<PlainTarget>();
+    target->describe(queue);
+    target->m_papers = queue.papers;
+    target->m_saved = SavedOptions(queue.name);
+    OptionValues options = startingWith(target->m_saved->options(queue.preset), request, queue.name);
     options.insert(request.options);
-    setServerOptions(std::move(options));
-    setAmount(request);
-    m_sink = std::make_shared<CupsSink>(queue.name, std::nullopt);
+    options.insert(carried);
+    if (opened.ppd)
+        if (const auto session = target->openSession(request, options, std::move(opened.ppd)); !session)
+            return Problem{queue.name + ": " + session.problem().sentence};
+    target->setServerOptions(target->besideSession(options));
+    target->setAmount(request);
+    target->m_sink = std::make_shared<CupsSink>(queue.name, std::nullopt);
+    return std::unique_ptr<PrintTarget>(std::move(target));
+}
+
+OptionValues PlainTarget::forSession(const OptionValues &options) const { return asOffered(options); }
+
+OptionValues PlainTarget::besideSession(const OptionValues &options) const
+{
+    OptionValues others = options;
+    others.removeIf(
+        [this](const auto &option) { return m_session && m_session->ppd().hasOption(offeredKeyword(option.key())); });
+    return others;
+}
+
+OptionValues PlainTarget::jobOptions() const
+{
+    OptionValues options = PrintTarget::jobOptions();
+    if (m_session)
+        options.insert(asSaid(m_session->marks().forJob()));
+    return options;
 }
 
 QString PlainTarget::remark() const { return tr("No driver describes this printer: it has general settings only."); }
@@ -296,20 +370,14 @@ std::optional<Sheet> PlainTarget::sheet() const
     return Sheet{entry->size, QRectF(0, 0, entry->size.width, entry->size.height)};
 }
 
-const PDEPanels &PlainTarget::panels() const
-{
-    static const PDEPanels kNone;
-    return kNone;
-}
-
 Or<std::unique_ptr<PrintTarget>> targetOfQueue(const PrintRequest &request, OpenedQueue opened,
                                                const OptionValues &carried)
 {
     if (const auto checked = checkPreset(opened.queue); !checked)
         return checked.problem();
-    if (opened.ppd)
+    if (opened.queue.ppd)
         return PPDTarget::ofQueue(request, std::move(opened), carried);
-    return std::unique_ptr<PrintTarget>(std::make_unique<PlainTarget>(request, opened.queue));
+    return PlainTarget::ofQueue(request, std::move(opened), carried);
 }
 
 } // namespace host

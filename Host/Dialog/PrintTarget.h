@@ -51,7 +51,7 @@ public:
 
     /// Begins to serve; `changed` is called after each choice that is another than before. Only one target may have
     /// been started at a time.
-    virtual void start(std::function<void()> changed) = 0;
+    void start(std::function<void()> changed);
 
     virtual std::vector<PaperEntry> papers() const = 0;
     virtual ChosenPaper paper() const = 0;
@@ -61,27 +61,27 @@ public:
 
     /// Whether a bundle is made for the printer: its PPD names one that is there, or has an option of its panels.
     virtual bool hasOwnPanels() const { return false; }
-    virtual const PDEPanels &panels() const = 0;
+    const PDEPanels &panels() const;
     /// Puts a panel on display. False when it has no view.
-    virtual bool show(PDEPanel &) { return false; }
+    bool show(PDEPanel &panel) { return m_session->show(panel); }
     /// Readies the panels that have not been shown yet, so that showing one never undoes a choice.
-    virtual void prepareAll() {}
+    void prepareAll();
 
     /// What a job will do otherwise than by the printer's own defaults.
-    virtual std::vector<SummaryRow> differences() const { return {}; }
+    std::vector<SummaryRow> differences() const;
 
     // Presets, where there are saved options. Restoring answers what the preset says of copies and pages.
-    virtual OptionValues restore(const QString &preset);
+    OptionValues restore(const QString &preset);
     /// `copies`: nil when they are no part of what is saved.
-    virtual foundation::Or<void> save(const QString &preset, std::optional<int> copies);
+    foundation::Or<void> save(const QString &preset, std::optional<int> copies);
     foundation::Or<void> removePreset();
 
     /// What a person is to know of choices that did not stay as they were made, one sentence each, told once.
-    virtual QStringList takeRemarks() { return {}; }
+    QStringList takeRemarks();
 
     // What a page looks like. Nil where that is not known.
     virtual std::optional<Sheet> sheet() const = 0;
-    virtual std::optional<PDEPrintEffect> printEffect() const { return std::nullopt; }
+    std::optional<PDEPrintEffect> printEffect() const;
     virtual Resolution resolution() const { return {}; }
     /// As the job says.
     Scaling scaling() const;
@@ -90,13 +90,19 @@ public:
     void setScaling(Scaling scaling);
 
     /// Whether all panels agree to print; one that does not has told the user why.
-    virtual bool agrees() { return true; }
+    bool agrees() { return !m_session || m_session->shouldPrint(); }
     /// What a job has to say, after the panels have agreed.
     virtual OptionValues jobOptions() const { return m_serverOptions; }
 
 protected:
     PrintTarget() = default;
     void describe(const Queue &queue);
+
+    // Of options by the names that jobs have, those that the session takes, under its names, and the others.
+    virtual OptionValues forSession(const OptionValues &options) const = 0;
+    virtual OptionValues besideSession(const OptionValues &options) const = 0;
+    /// What the session is set to, under the names that jobs have.
+    virtual OptionValues fromSession(const OptionValues &values) const { return values; }
 
     /// Takes options that no PPD knows. Copies and pages have places of their own; invalid ones are ignored, like every
     /// saved option that the printer no longer has.
@@ -114,6 +120,7 @@ protected:
     std::shared_ptr<JobSink> m_sink;
     std::optional<SavedOptions> m_saved;
     QString m_preset;
+    std::unique_ptr<DialogSession> m_session; // null: there are no panels
 };
 
 /// A printer with a PPD and a session of its panels.
@@ -131,51 +138,47 @@ public:
     const DialogSession &session() const { return *m_session; }
 
     QString remark() const override;
-    void start(std::function<void()> changed) override;
     std::vector<PaperEntry> papers() const override { return m_session->papers(); }
     ChosenPaper paper() const override { return m_session->paper(); }
     std::optional<CustomSizeLimits> customSizeLimits() const override { return m_session->ppd().customSizeLimits(); }
     void choosePaper(const ChosenPaper &paper) override { m_session->changePaper(paper); }
     bool hasOwnPanels() const override { return m_session->isBundlesOwnPrinter(); }
-    const PDEPanels &panels() const override { return m_session->panels(); }
-    bool show(PDEPanel &panel) override { return m_session->show(panel); }
-    std::vector<SummaryRow> differences() const override { return m_session->differences(); }
-    void prepareAll() override { m_session->prepareAll(); }
-    OptionValues restore(const QString &preset) override;
-    foundation::Or<void> save(const QString &preset, std::optional<int> copies) override;
-    QStringList takeRemarks() override { return m_session->takeRemarks(); }
     std::optional<Sheet> sheet() const override;
-    std::optional<PDEPrintEffect> printEffect() const override { return m_session->printEffect(); }
     Resolution resolution() const override;
     std::optional<Preparation> preparation() const override;
-    bool agrees() override { return m_session->shouldPrint(); }
     OptionValues jobOptions() const override;
 
 private:
+    OptionValues forSession(const OptionValues &options) const override { return withMediaAsPageSize(options); }
+    OptionValues besideSession(const OptionValues &options) const override;
     void doubtUnknownOptions(const OptionValues &asked);
     foundation::Or<void> openSession(const PrintRequest &request, const OptionValues &carried,
                                      DialogSession::Parameters parameters, std::unique_ptr<PPDDocument> ppd);
-
-    std::unique_ptr<DialogSession> m_session;
 };
 
-/// A queue without a PPD: it has papers and what every printer has.
+/// A queue without a PPD: it has papers, what every printer has, and a panel of what else the server offers.
 class PlainTarget final : public PrintTarget
 {
     Q_DECLARE_TR_FUNCTIONS(host::PlainTarget)
 
 public:
-    PlainTarget(const PrintRequest &request, const Queue &queue);
+    static foundation::Or<std::unique_ptr<PrintTarget>> ofQueue(const PrintRequest &request, OpenedQueue opened,
+                                                                const OptionValues &carried);
 
     QString remark() const override;
-    void start(std::function<void()>) override {}
     std::vector<PaperEntry> papers() const override { return m_papers; }
     ChosenPaper paper() const override;
     void choosePaper(const ChosenPaper &paper) override;
     std::optional<Sheet> sheet() const override;
-    const PDEPanels &panels() const override;
+    OptionValues jobOptions() const override;
 
 private:
+    OptionValues forSession(const OptionValues &options) const override;
+    OptionValues besideSession(const OptionValues &options) const override;
+    OptionValues fromSession(const OptionValues &values) const override { return asSaid(values); }
+    foundation::Or<void> openSession(const PrintRequest &request, const OptionValues &options,
+                                     std::unique_ptr<PPDDocument> ppd);
+
     std::vector<PaperEntry> m_papers;
 };
 

@@ -8,6 +8,7 @@
 #include "Foundation/RegularFile.h"
 
 #include <cstring>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace host {
@@ -80,6 +81,15 @@ Or<std::unique_ptr<PPDDocument>> PPDDocument::open(const QString &path, int *lin
             tr("%1: not a PPD file (line %2: %3)").arg(path, QString::number(reached), ppdProblemText(status))};
     }
     return std::unique_ptr<PPDDocument>(new PPDDocument(std::move(file)));
+}
+
+Or<std::unique_ptr<PPDDocument>> PPDDocument::ofText(const QByteArray &text)
+{
+    QFile file; // in memory: it goes with its descriptor
+    if (!file.open(::memfd_create("ppd", MFD_CLOEXEC), QFile::ReadWrite, QFile::AutoCloseHandle) ||
+        file.write(text) != text.size() || !file.flush())
+        return Problem{file.errorString()};
+    return open(QString("/proc/self/fd/%1").arg(file.handle()));
 }
 
 PPDDocument::PPDDocument(printing::PPDFile file)

@@ -39,6 +39,9 @@ public:
     /// is left alone when the library did not even begin.
     static foundation::Or<std::unique_ptr<PPDDocument>> open(const QString &path, int *line = nullptr);
 
+    /// Of a text that is in no file.
+    static foundation::Or<std::unique_ptr<PPDDocument>> ofText(const QByteArray &text);
+
     PPDDocument(const PPDDocument &) = delete;
     PPDDocument &operator=(const PPDDocument &) = delete;
 

@@ -19,22 +19,56 @@ using printing::kPointsPerHundredthOfMillimetre;
 
 namespace {
 
-std::vector<PaperEntry> papersOf(http_t *http, cups_dest_t *destination)
+std::vector<PaperEntry> papersOf(http_t *http, cups_dest_t *destination, cups_dinfo_t *info)
 {
     std::vector<PaperEntry> papers;
-    const DestinationInfo info(cupsCopyDestInfo(http, destination));
-    const int count = info ? cupsGetDestMediaCount(http, destination, info.get(), 0) : 0;
+    const int count = cupsGetDestMediaCount(http, destination, info, 0);
     for (int i = 0; i < count; ++i) {
         cups_size_t size = {};
-        if (!cupsGetDestMediaByIndex(http, destination, info.get(), i, 0, &size))
+        if (!cupsGetDestMediaByIndex(http, destination, info, i, 0, &size))
             continue;
-        const char *const text = cupsLocalizeDestMedia(http, destination, info.get(), 0, &size);
+        const char *const text = cupsLocalizeDestMedia(http, destination, info, 0, &size);
         papers.push_back(
             {QString::fromUtf8(size.media),
              QString::fromUtf8(text ? text : size.media),
              {size.width * kPointsPerHundredthOfMillimetre, size.length * kPointsPerHundredthOfMillimetre}});
     }
     return papers;
+}
+
+/// Keywords as they are, numbers in digits.
+QStringList valuesOf(ipp_attribute_t *attribute)
+{
+    QStringList values;
+    for (int i = 0; i < ippGetCount(attribute); ++i)
+        if (ippGetValueTag(attribute) == IPP_TAG_ENUM)
+            values.append(QString::number(ippGetInteger(attribute, i)));
+        else
+            values.append(QString::fromUtf8(ippGetString(attribute, i, nullptr)));
+    return values;
+}
+
+OfferedOptions offersOf(http_t *http, cups_dest_t *destination, cups_dinfo_t *info)
+{
+    OfferedOptions offers;
+    for (const QString &word : wordsToOffer()) {
+        const QByteArray name = word.toLatin1();
+        const QStringList choices = valuesOf(cupsFindDestSupported(http, destination, info, name.constData()));
+        const QStringList standard = valuesOf(cupsFindDestDefault(http, destination, info, name.constData()));
+        if (!choices.isEmpty())
+            offers.push_back({word, choices, standard.value(0)});
+    }
+    return offers;
+}
+
+/// What takes the place of a PPD.
+void describePlain(Queue &queue, http_t *http, cups_dest_t *destination)
+{
+    const DestinationInfo info(cupsCopyDestInfo(http, destination));
+    if (!info)
+        return;
+    queue.papers = papersOf(http, destination, info.get());
+    queue.offers = offersOf(http, destination, info.get());
 }
 
 const char *optionOf(const cups_dest_t &destination, const char *name)
@@ -147,7 +181,7 @@ Or<Queue> askForQueue(const QueueName &name, std::chrono::milliseconds patience)
         return of(queue.name, ppd.problem());
     queue.ppd = *std::move(ppd);
     if (!queue.ppd)
-        queue.papers = papersOf(server.get(), &destination);
+        describePlain(queue, server.get(), &destination);
     return queue;
 }
 

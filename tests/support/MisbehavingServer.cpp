@@ -79,7 +79,11 @@ QByteArray printer(int port)
            attribute(0x23, "printer-state", number(3, 4)) + attribute(0x22, "printer-is-accepting-jobs", "\x01") +
            attribute(0x23, "printer-type", number(4, 4)) + attribute(0x45, "device-uri", "usb://Qn/Thermal?serial=1") +
            attribute(0x44, "media-supported", "iso_a4_210x297mm") + attribute(0x44, "", "na_letter_8.5x11in") +
-           attribute(0x44, "", "om_ticket_80x200mm");
+           attribute(0x44, "", "om_ticket_80x200mm") + attribute(0x44, "sides-supported", "one-sided") +
+           attribute(0x44, "", "two-sided-long-edge") + attribute(0x44, "", "tumbling") +
+           attribute(0x44, "sides-default", "two-sided-long-edge") +
+           attribute(0x23, "print-quality-supported", number(4, 4)) + attribute(0x23, "", number(5, 4)) +
+           attribute(0x13, "print-quality-default", {}) + attribute(0x44, "print-color-mode-supported", "monochrome");
 }
 
 QByteArray answerTo(Step step, quint32 request, int port)
@@ -409,6 +413,12 @@ QList<Step> MisbehavingServer::asked() const
     return m_asked;
 }
 
+QByteArray MisbehavingServer::heard(Step step) const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_heard.value(step);
+}
+
 /// Some answers have the library connect again and again: what has ended is let go, or threads and files would run out.
 void MisbehavingServer::listen(const std::stop_token &stop)
 {
@@ -443,6 +453,7 @@ void MisbehavingServer::serve(int socket)
         {
             const std::scoped_lock lock(m_mutex);
             m_asked.append(step);
+            m_heard[step] = request->body;
             if (m_faults.contains(step))
                 fault = m_faults[step];
             ppd = m_ppd;

@@ -84,6 +84,8 @@ public:
     QProcessEnvironment environment() const;
     /// What was asked, in its order.
     QList<Step> asked() const;
+    /// The last question of a kind as it came, or its beginning.
+    QByteArray heard(Step step) const;
     bool wasAsked(Step step) const { return asked().contains(step); }
     /// Those who went to the server that this one has named in its place.
     int visitsToBystander() const { return m_bystander.visits(); }
@@ -112,6 +114,7 @@ private:
     int m_socket;
     mutable std::mutex m_mutex;
     QList<Step> m_asked;
+    QMap<Step, QByteArray> m_heard;
     QByteArray m_ppd;
     std::list<Served> m_connections; // the listener's
     std::jthread m_listener;

@@ -135,6 +135,32 @@ TEST(AQueueWithoutAPPD, HasThePapersThatTheServerOffers)
     EXPECT_EQ(queue.papers[2].name, "na_letter_8.5x11in");
 }
 
+TEST(AQueueWithoutAPPD, HasTheChoicesThatTheServerOffers)
+{
+    const MisbehavingServer server({{Step::ppd, Mode::notFound}});
+    server.adoptEnvironment();
+    const auto queue = value(findQueue({"counter", {}}, {}));
+    ASSERT_EQ(queue.offers.size(), 3U);
+    EXPECT_EQ(queue.offers[0].word, "sides");
+    EXPECT_EQ(queue.offers[0].choices, QStringList({"one-sided", "two-sided-long-edge", "tumbling"}));
+    EXPECT_EQ(queue.offers[0].standard, "two-sided-long-edge");
+    EXPECT_EQ(queue.offers[1].word, "print-quality");
+    EXPECT_EQ(queue.offers[1].choices, QStringList({"4", "5"}));
+    EXPECT_EQ(queue.offers[1].standard, ""); // it does not say
+    EXPECT_EQ(queue.offers[2].word, "print-color-mode");
+    EXPECT_EQ(queue.offers[2].choices, QStringList("monochrome"));
+}
+
+TEST_F(QueuesOfTheServer, HaveOffersOnlyInPlaceOfAPPD)
+{
+    ASSERT_TRUE(m_server.addPlainQueue("plain", "file:///dev/null"));
+    const auto offers = value(findQueue({"plain", {}}, {})).offers;
+    ASSERT_EQ(offers.size(), 1U);
+    EXPECT_EQ(offers[0].word, "orientation-requested");
+    EXPECT_EQ(offers[0].choices, QStringList({"3", "4", "5", "6"}));
+    EXPECT_EQ(value(findQueue({"counter", {}}, {})).offers.size(), 0U);
+}
+
 TEST(APPDOnTheServer, ThatCannotBeComparedStopsTheJob)
 {
     const MisbehavingServer server({{Step::ppd, Mode::error}});

@@ -358,6 +358,28 @@ TEST_F(CupsPrinting, PrintsOnAQueueWithoutAPPD)
     EXPECT_EQ(m_said.trimmed(), "plain-1 ticket.pdf: sent to plain");
 }
 
+TEST_F(CupsPrinting, SaysWhatIsAskedForOfAQueueWithoutAPPDInTheWordsOfTheServer)
+{
+    ASSERT_TRUE(m_server.addPlainQueue("plain", "usb://Qn/Plain?serial=1"));
+    EXPECT_EQ(print({"-d", "plain", "-o", "orientation-requested=landscape", kTicket}), 0) << m_said.toStdString();
+    EXPECT_EQ(m_said.trimmed(), "plain-1 ticket.pdf: sent to plain");
+    EXPECT_TRUE(m_server.log().contains("orientation-requested=4"));
+    EXPECT_EQ(print({"-d", "plain", "-o", "orientation-requested=12", kTicket}), 1);
+    EXPECT_EQ(m_said, "qnprint: plain: -o orientation-requested=12: the printer has no such choice\n");
+}
+
+TEST_F(CupsPrinting, PrintsOnAQueueWithoutAPPDWhereNoBundleShowsItsPanel)
+{
+    ASSERT_TRUE(m_server.addPlainQueue("plain", "usb://Qn/Plain?serial=1"));
+    const QString alone = m_server.path("tmp/qnprint"); // no bundle is beside it
+    ASSERT_TRUE(QFile::copy(QN_PROGRAM, alone));
+    const QStringList line{"--no-dialog", "-d", "plain", "-o", "orientation-requested=4", kTicket};
+    EXPECT_EQ(m_server.run(alone, line, &m_said), 0);
+    EXPECT_TRUE(m_said.startsWith("qnprint: no plug-in bundle in ")) << m_said.toStdString();
+    EXPECT_TRUE(m_said.contains("plain-1 ticket.pdf: sent to plain")) << m_said.toStdString();
+    EXPECT_TRUE(m_server.log().contains("orientation-requested=4"));
+}
+
 TEST_F(CupsPrinting, PrintsOnAClassByThePPDOfItsFirstMember)
 {
     ASSERT_TRUE(m_server.addPlainQueue("plain", "file:///dev/null"));
