@@ -72,6 +72,36 @@ void PrintTarget::setScaling(Scaling scaling)
         m_serverOptions[kPrintScaling] = nameOf(scaling);
 }
 
+namespace {
+
+struct LayoutRow
+{
+    const char *word;
+    const char *neutral; // value that changes nothing
+};
+
+constexpr std::array kLayout{LayoutRow{"landscape", "false"},  LayoutRow{"mirror", "false"},
+                             LayoutRow{"number-up", "1"},      LayoutRow{"outputorder", "normal"},
+                             LayoutRow{"page-border", "none"}, LayoutRow{"page-set", "all"},
+                             LayoutRow{"position", "center"},  LayoutRow{"orientation-requested", "3"}};
+
+} // namespace
+
+QStringList PrintTarget::unseen() const
+{
+    const OptionValues job = jobOptions();
+    const auto panel = differences();
+    QStringList texts;
+    for (const LayoutRow &row : kLayout) {
+        const QString value = job.value(row.word, row.neutral);
+        if (value == row.neutral)
+            continue;
+        const auto shown = std::ranges::find(panel, offeredKeyword(row.word), &SummaryRow::keyword);
+        texts.append(shown == panel.end() ? QString("%1=%2").arg(row.word, value) : shown->title + ": " + shown->value);
+    }
+    return texts;
+}
+
 void PrintTarget::start(std::function<void()> changed)
 {
     if (!m_session)

@@ -85,6 +85,8 @@ public:
     virtual Resolution resolution() const { return {}; }
     /// As the job says.
     Scaling scaling() const;
+    /// What the server will do to the pages besides, for people; no picture of them shows it.
+    QStringList unseen() const;
     /// What is done with a document before it is sent; nil when it goes as it is.
     virtual std::optional<Preparation> preparation() const { return std::nullopt; }
     void setScaling(Scaling scaling);

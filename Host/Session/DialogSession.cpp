@@ -260,7 +260,8 @@ std::vector<SummaryRow> DialogSession::differences() const
         if (value == values.end())
             continue;
         const ChoiceValue choice = ChoiceValue::fromText(value.value());
-        rows.push_back({m_words.option(value.key()), m_words.choice(value.key(), choice), choice.custom.has_value()});
+        rows.push_back(
+            {m_words.option(value.key()), m_words.choice(value.key(), choice), choice.custom.has_value(), value.key()});
     }
     return rows;
 }

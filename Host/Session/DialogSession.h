@@ -23,6 +23,7 @@ struct SummaryRow
     QString title;
     QString value;
     bool isAmount = false; // that somebody types
+    QString keyword = {};  // of an option of the PPD
 };
 
 class DialogSession

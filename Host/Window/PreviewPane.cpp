@@ -36,9 +36,13 @@ PreviewPane::PreviewPane(PrintDialog &dialog, QWidget *parent)
     , m_zoom(new QToolButton)
     , m_asPrinted(new QCheckBox(tr("As pr&inted")))
     , m_scaling(new Menu)
+    , m_unseen(new QLabel)
 {
     m_number->setAlignment(Qt::AlignCenter);
     m_number->setTextFormat(Qt::PlainText);
+    m_unseen->setObjectName("unseen");
+    m_unseen->setTextFormat(Qt::PlainText);
+    m_unseen->setWordWrap(true);
     m_zoom->setText(tr("1:1", "a dot of the printer as a pixel"));
     m_zoom->setCheckable(true);
     m_zoom->setFocusPolicy(Qt::StrongFocus);
@@ -59,6 +63,7 @@ PreviewPane::PreviewPane(PrintDialog &dialog, QWidget *parent)
     rows->addLayout(turning);
     rows->addWidget(m_asPrinted);
     rows->addWidget(m_scaling);
+    rows->addWidget(m_unseen);
     offerScalings();
 
     connect(m_back, &QToolButton::clicked, this, [this] { m_preview.setPage(m_preview.page() - 1); });
@@ -109,6 +114,9 @@ void PreviewPane::follow()
     m_scaling->setCurrentIndex(std::max(0, index)); // nearly the same as automatic
     m_scaling->setEnabled(m_dialog.target());
     m_asPrinted->setEnabled(m_preview.effect().has_value());
+    const QStringList unseen = m_dialog.target() ? m_dialog.target()->unseen() : QStringList();
+    m_unseen->setText(tr("Not in this picture: %1").arg(unseen.join(tr(", "))));
+    m_unseen->setVisible(!unseen.isEmpty());
 }
 
 } // namespace host

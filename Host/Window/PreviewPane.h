@@ -37,6 +37,7 @@ private:
     QToolButton *m_zoom;
     QCheckBox *m_asPrinted;
     QComboBox *m_scaling;
+    QLabel *m_unseen;
 };
 
 } // namespace host

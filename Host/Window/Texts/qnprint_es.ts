@@ -832,6 +832,14 @@
         <source>Page %1 of %2</source>
         <translation>Página %1 de %2</translation>
     </message>
+    <message>
+        <source>Not in this picture: %1</source>
+        <translation>No aparece en esta imagen: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>host::PrintDialog</name>

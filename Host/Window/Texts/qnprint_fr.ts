@@ -832,6 +832,14 @@
         <source>Page %1 of %2</source>
         <translation>Page %1 sur %2</translation>
     </message>
+    <message>
+        <source>Not in this picture: %1</source>
+        <translation>Pas sur cette image : %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>host::PrintDialog</name>

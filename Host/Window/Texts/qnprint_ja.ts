@@ -832,6 +832,14 @@
         <source>Page %1 of %2</source>
         <translation>%1 / %2 ページ</translation>
     </message>
+    <message>
+        <source>Not in this picture: %1</source>
+        <translation>この画像に反映されない設定: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>host::PrintDialog</name>

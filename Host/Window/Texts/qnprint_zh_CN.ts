@@ -832,6 +832,14 @@
         <source>Page %1 of %2</source>
         <translation>第 %1 页，共 %2 页</translation>
     </message>
+    <message>
+        <source>Not in this picture: %1</source>
+        <translation>此图未反映：%1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>host::PrintDialog</name>

@@ -353,6 +353,63 @@ TEST_F(Preview, OfAPrinterWithoutADriverIsGreyOnItsPaper)
     EXPECT_EQ(preview().picture().format(), QImage::Format_Grayscale8);
 }
 
+struct UnseenRow
+{
+    const char *name;
+    OptionValues options;
+    const char *text;
+};
+
+void PrintTo(const UnseenRow &row, std::ostream *out) { *out << row.name; }
+
+class PreviewWithWordsOfTheServer : public Preview, public testing::WithParamInterface<UnseenRow>
+{};
+
+TEST_P(PreviewWithWordsOfTheServer, SaysWhatItDoesNotShow)
+{
+    const CachedPPD ppd{support::PPDText().allOptions().file(), 0, {}};
+    PrintRequest request;
+    request.options = GetParam().options;
+    m_dialog->use(support::value(targetOfQueue(request, support::value(withPPDOpened({"Test", {}, {}, ppd, {}, {}})))));
+    unfold();
+    const QLabel *const unseen = find<QLabel>("unseen");
+    EXPECT_EQ(unseen->isVisible() ? unseen->text() : QString(), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Such, PreviewWithWordsOfTheServer,
+    testing::Values(UnseenRow{"None", {}, ""},
+                    UnseenRow{"Others", {{"job-priority", "50"}, {"print-scaling", "fit"}}, ""},
+                    UnseenRow{"ManyPagesOnASheet", {{"number-up", "2"}}, "Not in this picture: number-up=2"},
+                    UnseenRow{"OnePageOnASheet", {{"number-up", "1"}}, ""},
+                    UnseenRow{"Landscape", {{"landscape", "true"}}, "Not in this picture: landscape=true"},
+                    UnseenRow{"Mirror", {{"mirror", "true"}}, "Not in this picture: mirror=true"},
+                    UnseenRow{"Border", {{"page-border", "single"}}, "Not in this picture: page-border=single"},
+                    UnseenRow{"EvenPages", {{"page-set", "even"}}, "Not in this picture: page-set=even"},
+                    UnseenRow{"Order", {{"outputorder", "reverse"}}, "Not in this picture: outputorder=reverse"},
+                    UnseenRow{
+                        "Turned", {{"orientation-requested", "6"}}, "Not in this picture: orientation-requested=6"},
+                    UnseenRow{"TwoOfThem",
+                              {{"position", "top-left"}, {"number-up", "4"}},
+                              "Not in this picture: number-up=4, position=top-left"}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(Preview, SaysInTheWordsOfThePanelWhatItDoesNotShow)
+{
+    Queue queue;
+    queue.name = "Plain";
+    queue.papers = {{"iso_a6_105x148mm", "A6", {297.64, 419.53}}};
+    queue.offers = {{"orientation-requested", {"3", "4"}, ""}};
+    m_dialog->use(support::value(targetOfQueue({}, support::value(withPPDOpened(queue)))));
+    m_dialog->choosePaper({"iso_a6_105x148mm", std::nullopt});
+    unfold();
+    EXPECT_FALSE(find<QLabel>("unseen")->isVisible());
+    choose(*find<QComboBox>("server-orientation-requested"), "Landscape");
+    settle();
+    EXPECT_TRUE(find<QLabel>("unseen")->isVisible());
+    EXPECT_EQ(find<QLabel>("unseen")->text(), "Not in this picture: Orientation: Landscape");
+}
+
 TEST_F(Preview, GoesWithTheWindowInTheMiddleOfItsWork)
 {
     m_dialog->chooseDocuments({documentOf(3)});
