@@ -3,6 +3,8 @@
 
 #include "Printing/cups_api.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -21,7 +23,7 @@ struct WordRow
 {
     const char *word;
     const char *text;
-    std::span<const ChoiceRow> choices; // as they are shown; a person would not know what any other does
+    std::span<const ChoiceRow> choices; // as they are shown; others follow by their own names
 };
 
 constexpr std::array kSides{ChoiceRow{"one-sided", "Off (1-Sided)"},
@@ -52,31 +54,51 @@ constexpr auto kEnd = "*CloseGroup: General\n";
 /// Numbers go by their names as well.
 QString value(const QString &word, const QString &text)
 {
-    const int number = ippEnumValue(word.toLatin1().constData(), text.toUtf8().constData());
+    const bool isName = !text.isEmpty() && text.front().isLetter();
+    const int number = isName ? ippEnumValue(word.toLatin1().constData(), text.toLower().toUtf8().constData()) : 0;
     return number > 0 ? QString::number(number) : text;
 }
 
-std::vector<ChoiceRow> choicesOf(const OfferedOption &offer, const WordRow &row)
+/// What can stand in a PPD as it is.
+bool isPlain(const QString &value)
 {
-    std::vector<ChoiceRow> choices;
-    std::ranges::copy_if(row.choices, std::back_inserter(choices),
-                         [&](const ChoiceRow &each) { return offer.choices.contains(QLatin1String(each.value)); });
+    constexpr qsizetype kLongest = 40;
+    static const QRegularExpression plain("^[A-Za-z0-9._-]+$", QRegularExpression::NoPatternOption);
+    return value.size() <= kLongest && plain.match(value).hasMatch();
+}
+
+struct Choice
+{
+    QByteArray value;
+    QByteArray text;
+};
+
+std::vector<Choice> choicesOf(const OfferedOption &offer, const WordRow &row)
+{
+    std::vector<Choice> choices;
+    QStringList others = offer.choices;
+    for (const ChoiceRow &each : row.choices)
+        if (others.removeAll(QLatin1String(each.value)) > 0)
+            choices.push_back({each.value, each.text});
+    others.removeDuplicates();
+    for (const QString &each : others)
+        if (isPlain(each) && each != kOwnWay.value)
+            choices.push_back({each.toLatin1(), each.toLatin1()});
     return choices;
 }
 
 QByteArray statements(const OfferedOption &offer, const WordRow &row)
 {
-    std::vector<ChoiceRow> choices = choicesOf(offer, row);
-    auto standard =
-        std::ranges::find(choices, offer.standard, [](const ChoiceRow &each) { return QString(each.value); });
+    std::vector<Choice> choices = choicesOf(offer, row);
     if (choices.size() < 2)
         return {};
+    auto standard = std::ranges::find(choices, offer.standard.toUtf8(), &Choice::value);
     if (standard == choices.end())
-        standard = choices.insert(choices.begin(), kOwnWay);
+        standard = choices.insert(choices.begin(), {kOwnWay.value, kOwnWay.text});
     const QByteArray keyword = '*' + (kPrefix + row.word).toLatin1();
     QByteArray text =
         "*OpenUI " + keyword + '/' + row.text + ": PickOne\n*Default" + keyword.mid(1) + ": " + standard->value + '\n';
-    for (const ChoiceRow &each : choices)
+    for (const Choice &each : choices)
         text += keyword + ' ' + each.value + '/' + each.text + ": \"\"\n";
     return text + "*CloseUI: " + keyword + '\n';
 }

@@ -24,15 +24,15 @@ using OfferedOptions = std::vector<OfferedOption>;
 /// What a server is asked about.
 QStringList wordsToOffer();
 
-/// A PPD with what a person can be told of among the offers, whatever else they say; empty when that is nothing to
-/// choose from. Its keywords are no words of servers, which nobody takes for options of a driver.
+/// A PPD of the words that there are texts for; empty when there is nothing to choose. What can't stand in a PPD is
+/// left out. Its keywords are no words of servers, which nobody takes for options of a driver.
 QByteArray ppdOf(const OfferedOptions &offers);
 
 /// What such a PPD calls a word of a job.
 QString offeredKeyword(const QString &word);
 /// Options of a job as choices of such a PPD, whether it has them or not.
 OptionValues asOffered(const OptionValues &options);
-/// What marks in such a PPD mean to a job: what the printer does by itself is not said.
+/// What marks in such a PPD mean to a job.
 OptionValues asSaid(const OptionValues &marks);
 
 } // namespace host

@@ -72,6 +72,7 @@ struct Queue
     bool takesJobs = true;
     std::optional<QString> distrust = std::nullopt; // why the server's certificate is not trusted, in one clause
     OfferedOptions offers = {};                     // of a queue without PPD
+    QString standardPaper = {};                     // of one, where the server says it: what it takes by itself
 };
 
 struct Queues

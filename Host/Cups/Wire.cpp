@@ -112,6 +112,7 @@ QJsonObject toJson(const Queue &queue)
                      {"preset", queue.preset},
                      {"papers", papersToJson(queue.papers)},
                      {"offers", offersToJson(queue.offers)},
+                     {"standardPaper", queue.standardPaper},
                      {"note", queue.note},
                      {"takesJobs", queue.takesJobs}};
     if (queue.uri)
@@ -128,6 +129,7 @@ Queue queueFrom(const QJsonObject &json)
     Queue queue{json["name"].toString(), json["preset"].toString(), {}, {}, papersFrom(json["papers"].toArray()),
                 json["note"].toString(), json["takesJobs"].toBool()};
     queue.offers = offersFrom(json["offers"].toArray());
+    queue.standardPaper = json["standardPaper"].toString();
     if (json.contains("uri"))
         queue.uri = json["uri"].toString();
     if (json.contains("distrust"))

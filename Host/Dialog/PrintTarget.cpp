@@ -63,11 +63,20 @@ Scaling PrintTarget::scaling() const
     return isOn(m_serverOptions.contains(kFitPlot) ? kFitPlot : kFitToPage) ? Scaling::fit : Scaling::automatic;
 }
 
-void PrintTarget::setScaling(Scaling scaling)
+namespace {
+
+void removeScaling(OptionValues &options)
 {
     for (const char *word : kOlderScalings)
-        m_serverOptions.remove(word);
-    m_serverOptions.remove(kPrintScaling);
+        options.remove(word);
+    options.remove(kPrintScaling);
+}
+
+} // namespace
+
+void PrintTarget::setScaling(Scaling scaling)
+{
+    removeScaling(m_serverOptions);
     if (scaling != Scaling::automatic)
         m_serverOptions[kPrintScaling] = nameOf(scaling);
 }
@@ -149,6 +158,8 @@ OptionValues PrintTarget::restore(const QString &preset)
 Or<void> PrintTarget::save(const QString &preset, std::optional<int> copies)
 {
     OptionValues options = besideSession(m_saved->options(preset)); // not ours to drop
+    removeScaling(options);                                         // but what the dialog sets itself
+    options.remove(kMedia);
     options.insert(m_serverOptions);
     if (m_session)
         options.insert(fromSession(m_session->settings(forSession(m_saved->options()))));
@@ -233,10 +244,11 @@ Or<void> PPDTarget::openSession(const PrintRequest &request, const OptionValues 
                                 DialogSession::Parameters parameters, std::unique_ptr<PPDDocument> ppd)
 {
     parameters.localization = request.language;
-    parameters.choosesByClaims = true;
+    parameters.bundles = DialogSession::Bundles::byClaims;
     parameters.defaults = withMediaAsPageSize(startingWith(parameters.defaults, request, m_name));
     parameters.defaults.insert(withMediaAsPageSize(request.options));
-    parameters.defaults.insert(carried);
+    if (!carried.isEmpty())
+        parameters.defaults = carried;
     auto session = DialogSession::open(parameters, std::move(ppd));
     if (!session)
         return session.problem();
@@ -330,7 +342,7 @@ Or<void> PlainTarget::openSession(const PrintRequest &request, const OptionValue
             return Problem{PPDTarget::tr("-o %1=%2: the printer has no such choice").arg(word, text)};
     DialogSession::Parameters parameters;
     parameters.localization = request.language;
-    parameters.choosesByClaims = true;
+    parameters.bundles = DialogSession::Bundles::general;
     parameters.defaults = asOffered(options);
     auto session = DialogSession::open(parameters, std::move(ppd));
     if (session)
@@ -347,10 +359,14 @@ Or<std::unique_ptr<PrintTarget>> PlainTarget::ofQueue(const PrintRequest &reques
     auto target = std::make_unique<PlainTarget>();
     target->describe(queue);
     target->m_papers = queue.papers;
+    target->m_standardPaper = queue.standardPaper;
     target->m_saved = SavedOptions(queue.name);
     OptionValues options = startingWith(target->m_saved->options(queue.preset), request, queue.name);
     options.insert(request.options);
-    options.insert(carried);
+    if (!carried.isEmpty()) {
+        options = carried;
+        options.removeIf([](const auto &option) { return !isServerOption(option.key()); }); // of a driver that has gone
+    }
     if (opened.ppd)
         if (const auto session = target->openSession(request, options, std::move(opened.ppd)); !session)
             return Problem{queue.name + ": " + session.problem().sentence};
@@ -374,7 +390,7 @@ OptionValues PlainTarget::jobOptions() const
 {
     OptionValues options = PrintTarget::jobOptions();
     if (m_session)
-        options.insert(asSaid(m_session->marks().forJob()));
+        options.insert(asSaid(m_session->marks().all()));
     return options;
 }
 
@@ -382,7 +398,7 @@ QString PlainTarget::remark() const { return tr("No driver describes this printe
 
 ChosenPaper PlainTarget::paper() const
 {
-    const QString name = m_serverOptions.value(kMedia);
+    const QString name = m_serverOptions.value(kMedia, m_standardPaper);
     return name.isEmpty() ? ChosenPaper() : ChosenPaper{name, std::nullopt};
 }
 
@@ -394,7 +410,7 @@ void PlainTarget::choosePaper(const ChosenPaper &paper)
 
 std::optional<Sheet> PlainTarget::sheet() const
 {
-    const auto entry = std::ranges::find(m_papers, m_serverOptions.value(kMedia), &PaperEntry::name);
+    const auto entry = std::ranges::find(m_papers, paper().name, &PaperEntry::name);
     if (entry == m_papers.end())
         return std::nullopt;
     return Sheet{entry->size, QRectF(0, 0, entry->size.width, entry->size.height)};

@@ -133,7 +133,8 @@ class PPDTarget final : public PrintTarget
 public:
     /// The printer that the PPD file of a request describes, with a folder in place of a queue.
     static foundation::Or<std::unique_ptr<PrintTarget>> ofFile(const PrintRequest &request);
-    /// `carried`: choices that a person has made before; they count for more than what is saved or asked for.
+    /// `carried`: what a job of the same queue would have said before. Where there is something, it is all that counts:
+    /// a choice that is not in it was the default.
     static foundation::Or<std::unique_ptr<PrintTarget>> ofQueue(const PrintRequest &request, OpenedQueue opened,
                                                                 const OptionValues &carried);
 
@@ -182,6 +183,7 @@ private:
                                      std::unique_ptr<PPDDocument> ppd);
 
     std::vector<PaperEntry> m_papers;
+    QString m_standardPaper;
 };
 
 /// The kind of target that a queue needs.

@@ -106,11 +106,33 @@ QVariantMap settingsToReturn(const QVariantMap &own, const PreparedPrint &prepar
     return settings;
 }
 
+namespace {
+
+const PreparedPaper kA4{"iso_a4", "A4", 210, 297, 0, 0, 0, 0};
+
+/// What the application had, as far as it is a paper.
+PreparedPaper paperOf(const QVariantMap &setup)
+{
+    const auto millimetres = [&setup](const char *key) {
+        constexpr double kMost = 100'000;
+        const QVariant value = setup.value(key);
+        const double number = value.metaType() == QMetaType::fromType<double>() ? value.toDouble() : 0;
+        return number > 0 && number <= kMost ? number : 0; // which a number that is none does not either
+    };
+    const auto text = [&setup](const char *key) { return foundation::plainLine(setup.value(key).toString()); };
+    const PreparedPaper paper{text("PPDName"),           text("DisplayName"),       millimetres("Width"),
+                              millimetres("Height"),     millimetres("MarginTop"),  millimetres("MarginBottom"),
+                              millimetres("MarginLeft"), millimetres("MarginRight")};
+    return paper.width > 0 && paper.height > 0 ? paper : kA4;
+}
+
+} // namespace
+
 QVariantMap pageSetupToReturn(const QVariantMap &own, const PreparedPrint &prepared)
 {
     static const QStringList kKnown{"portrait",          "landscape",        "reverse_portrait",
                                     "reverse_landscape", "reverse-portrait", "reverse-landscape"};
-    const PreparedPaper &paper = prepared.paper;
+    const PreparedPaper paper = prepared.paper.width > 0 ? prepared.paper : paperOf(own);
     const QString orientation = own["Orientation"].toString();
     return {{"PPDName", paper.name},
             {"DisplayName", paper.text},

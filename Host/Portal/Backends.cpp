@@ -171,7 +171,7 @@ Or<QString> enablePortal()
     KeyFile file = preferences(Whose::anybodys);
     QStringList names = preferred(file);
     if (names.value(0) == kOurName)
-        return QString("Applications print with qnprint already, by %1.").arg(path);
+        return QString("Applications print with qnprint already, by %1.").arg(found);
     names.removeAll(kOurName);
     names.prepend(kOurName);
     file.setValue(kPreferred, kPrint, names.join(';'));

@@ -29,7 +29,7 @@ inline constexpr auto kCancelled = "cancelled";
 inline constexpr auto kOthers = "others"; // another dialog is to be shown in its place
 
 /// The paper that an application lays its pages out for.
-struct PreparedPaper
+struct PreparedPaper // without a width: nobody knows
 {
     QString name; // of the printer; "Custom.226.77x425.2" for the user's own size, in points
     QString text; // for people

@@ -46,6 +46,8 @@ Or<QImage> pictureOf(const CommandLine &line, PrintDialog &dialog)
         return Problem{pages->count() == 1
                            ? QString("--page %1: only one page is printed").arg(line.page)
                            : QString("--page %1: only %2 pages are printed").arg(line.page).arg(pages->count())};
+    for (const QString &unseen : target.unseen())
+        complain(QString("not in this picture: %1").arg(unseen));
     const SheetDots dots(*sheet, target.resolution());
     auto grey = pages->sheet(line.page - 1, dots, {});
     if (!grey || line.plain)

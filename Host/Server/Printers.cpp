@@ -69,6 +69,9 @@ void describePlain(Queue &queue, http_t *http, cups_dest_t *destination)
         return;
     queue.papers = papersOf(http, destination, info.get());
     queue.offers = offersOf(http, destination, info.get());
+    cups_size_t standard = {};
+    if (cupsGetDestMediaDefault(http, destination, info.get(), 0, &standard))
+        queue.standardPaper = QString::fromUtf8(standard.media);
 }
 
 const char *optionOf(const cups_dest_t &destination, const char *name)

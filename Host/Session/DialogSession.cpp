@@ -62,8 +62,11 @@ namespace {
 
 Or<BundleChoice> bundlesFor(const DialogSession::Parameters &parameters, const PPDDocument &ppd)
 {
+    using Bundles = DialogSession::Bundles;
     const auto extension = ppd.attribute("APDialogExtension");
-    if (!parameters.bundlePath && parameters.choosesByClaims)
+    if (!parameters.bundlePath && parameters.bundles == Bundles::general)
+        return BundleChoice::general();
+    if (!parameters.bundlePath && parameters.bundles == Bundles::byClaims)
         return BundleChoice::forPPD(extension);
     const auto path = parameters.bundlePath ? parameters.bundlePath : findBundle(extension);
     if (!path)

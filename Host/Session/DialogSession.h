@@ -31,6 +31,12 @@ class DialogSession
     Q_DECLARE_TR_FUNCTIONS(host::DialogSession)
 
 public:
+    enum class Bundles {
+        first,    // the one that the PPD names, or the first one there is
+        byClaims, // or the first that takes care of an option, or of whatever printer
+        general,  // one for whatever printer
+    };
+
     struct Parameters
     {
         QString ppdPath;
@@ -39,9 +45,9 @@ public:
         std::optional<std::optional<QString>> paperName;
         std::optional<printing::Paper> paperSize; // nil: the PPD's size of that name
         OptionValues defaults;                    // the user's own
-        std::optional<QString> bundlePath;        // nil: the bundle that the PPD names, or the first one there is
-        bool choosesByClaims = false; // nor the first, but one that takes care of an option, or of whatever printer
-        QString localization = "en";  // of the bundle
+        std::optional<QString> bundlePath;
+        Bundles bundles = Bundles::first; // which one, where the path is nil
+        QString localization = "en";      // of the bundle
         QString panelType = kPDEPrintingOptionsType;
     };
 

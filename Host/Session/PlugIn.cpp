@@ -117,6 +117,13 @@ BundleChoice BundleChoice::only(const QString &path)
     return choice;
 }
 
+BundleChoice BundleChoice::general()
+{
+    BundleChoice choice;
+    choice.m_further = Further::general;
+    return choice;
+}
+
 BundleChoice BundleChoice::forPPD(const std::optional<QString> &dialogExtension)
 {
     const auto named = namedBundle(dialogExtension);

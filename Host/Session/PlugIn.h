@@ -45,6 +45,8 @@ class BundleChoice
 public:
     /// This one and no other.
     static BundleChoice only(const QString &path);
+    /// Those for whatever printer.
+    static BundleChoice general();
     /// The one that a PPD names, by its name alone, then the others, and last those for whatever printer: they stand in
     /// folders of their own, which nobody looks into before.
     static BundleChoice forPPD(const std::optional<QString> &dialogExtension);

@@ -235,6 +235,7 @@ void DialogWindow::showTarget()
     offerPresets();
     if (isVisible())
         m_dialog.prepareAll();
+    showSettings();
 }
 
 void DialogWindow::showPaper()

@@ -116,7 +116,7 @@ void PreviewPane::follow()
     m_asPrinted->setEnabled(m_preview.effect().has_value());
     const QStringList unseen = m_dialog.target() ? m_dialog.target()->unseen() : QStringList();
     m_unseen->setText(tr("Not in this picture: %1").arg(unseen.join(tr(", "))));
-    m_unseen->setVisible(!unseen.isEmpty());
+    m_unseen->setVisible(!unseen.isEmpty() && !m_preview.picture().isNull());
 }
 
 } // namespace host

@@ -41,7 +41,7 @@ protected:
         m_session.reset();
         DialogSession::Parameters parameters;
         parameters.ppdPath = ppd.file();
-        parameters.choosesByClaims = byClaims;
+        parameters.bundles = byClaims ? DialogSession::Bundles::byClaims : DialogSession::Bundles::first;
         m_session = value(DialogSession::open(parameters));
         m_session->start(DialogSession::Prepare::everyPanel);
     }

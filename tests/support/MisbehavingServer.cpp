@@ -79,9 +79,9 @@ QByteArray printer(int port)
            attribute(0x23, "printer-state", number(3, 4)) + attribute(0x22, "printer-is-accepting-jobs", "\x01") +
            attribute(0x23, "printer-type", number(4, 4)) + attribute(0x45, "device-uri", "usb://Qn/Thermal?serial=1") +
            attribute(0x44, "media-supported", "iso_a4_210x297mm") + attribute(0x44, "", "na_letter_8.5x11in") +
-           attribute(0x44, "", "om_ticket_80x200mm") + attribute(0x44, "sides-supported", "one-sided") +
-           attribute(0x44, "", "two-sided-long-edge") + attribute(0x44, "", "tumbling") +
-           attribute(0x44, "sides-default", "two-sided-long-edge") +
+           attribute(0x44, "", "om_ticket_80x200mm") + attribute(0x44, "media-default", "na_letter_8.5x11in") +
+           attribute(0x44, "sides-supported", "one-sided") + attribute(0x44, "", "two-sided-long-edge") +
+           attribute(0x44, "", "tumbling") + attribute(0x44, "sides-default", "two-sided-long-edge") +
            attribute(0x23, "print-quality-supported", number(4, 4)) + attribute(0x23, "", number(5, 4)) +
            attribute(0x13, "print-quality-default", {}) + attribute(0x44, "print-color-mode-supported", "monochrome");
 }

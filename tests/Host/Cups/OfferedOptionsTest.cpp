@@ -93,7 +93,7 @@ TEST(Offers, KeepToTheOrderOfPeopleWhateverThatOfTheServer)
 
 TEST(Offers, BeginWithThePrintersOwnWayWhereTheServerDoesNotSayWhichThatIs)
 {
-    for (const char *standard : {"", "tumbling"}) {
+    for (const char *standard : {"", "somehow"}) {
         const auto ppd = documentOf({everything("sides", standard)});
         const QString own = standardOf(*ppd, "sides");
         EXPECT_EQ(ppd->choiceText(offeredKeyword("sides"), own), "Printer Default");
@@ -102,13 +102,25 @@ TEST(Offers, BeginWithThePrintersOwnWayWhereTheServerDoesNotSayWhichThatIs)
     }
 }
 
+TEST(Offers, ThatNoTextIsKnownOfComeLastByTheirOwnNames)
+{
+    const auto ppd =
+        documentOf({{"print-color-mode", {"process-monochrome", "monochrome", "auto-monochrome"}, "auto-monochrome"}});
+    const QString keyword = offeredKeyword("print-color-mode");
+    const ppd_option_t &option = *ppd->option(keyword);
+    ASSERT_EQ(option.num_choices, 3);
+    EXPECT_STREQ(option.choices[0].choice, "monochrome");
+    EXPECT_STREQ(option.choices[1].choice, "process-monochrome");
+    EXPECT_EQ(ppd->choiceText(keyword, "auto-monochrome"), "auto-monochrome");
+    EXPECT_EQ(standardOf(*ppd, "print-color-mode"), "auto-monochrome");
+}
+
 TEST(Offers, AreNothingWhereThereIsNothingToChoose)
 {
     EXPECT_EQ(ppdOf({}), "");
     EXPECT_EQ(ppdOf({{"sides", {"one-sided"}, "one-sided"}}), "");
     EXPECT_EQ(ppdOf({{"sides", {"one-sided"}, ""}}), "");
     EXPECT_EQ(ppdOf({{"sides", {}, "one-sided"}}), "");
-    EXPECT_EQ(ppdOf({{"sides", {"tumbling", "rolling"}, ""}}), "");
     EXPECT_EQ(ppdOf({{"copies", {"1", "2"}, "1"}}), "");
 }
 
@@ -133,7 +145,9 @@ TEST(Offers, AreOptionsOfADriverAndNoWordsOfServers)
 TEST(Offers, ThatAreNumbersGoByTheirNamesAsWell)
 {
     EXPECT_EQ(asOffered({{"print-quality", "high"}}), asOffered({{"print-quality", "5"}}));
+    EXPECT_EQ(asOffered({{"print-quality", "High"}}), asOffered({{"print-quality", "5"}}));
     EXPECT_EQ(asOffered({{"orientation-requested", "landscape"}}), asOffered({{"orientation-requested", "4"}}));
+    EXPECT_NE(asOffered({{"print-quality", "4abc"}}), asOffered({{"print-quality", "4"}}));
 }
 
 TEST(MarksOfOtherOptions, AreNotSaid) { EXPECT_EQ(asSaid({{"PageSize", "A4"}}), OptionValues()); }

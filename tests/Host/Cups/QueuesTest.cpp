@@ -149,6 +149,7 @@ TEST(AQueueWithoutAPPD, HasTheChoicesThatTheServerOffers)
     EXPECT_EQ(queue.offers[1].standard, ""); // it does not say
     EXPECT_EQ(queue.offers[2].word, "print-color-mode");
     EXPECT_EQ(queue.offers[2].choices, QStringList("monochrome"));
+    EXPECT_EQ(queue.standardPaper, "na_letter_8.5x11in");
 }
 
 TEST_F(QueuesOfTheServer, HaveOffersOnlyInPlaceOfAPPD)

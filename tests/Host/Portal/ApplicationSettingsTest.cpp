@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 #include <ostream>
 
 using host::DialogWish;
@@ -142,6 +145,54 @@ TEST(ReturnedPageSetup, IsAlwaysWhole)
                                {"MarginLeft", 5.0},   {"MarginRight", 6.0},       {"Orientation", "portrait"}};
     EXPECT_EQ(setup, expected);
 }
+
+struct OwnPaperRow
+{
+    const char *name;
+    QVariantMap own;
+    double width;
+    double height;
+    double left;
+    const char *text;
+};
+void PrintTo(const OwnPaperRow &row, std::ostream *out) { *out << row.name; }
+
+class ReturnedPageSetupOfAnUnknownPaper : public testing::TestWithParam<OwnPaperRow>
+{};
+
+TEST_P(ReturnedPageSetupOfAnUnknownPaper, IsThatOfTheApplicationWhereItHasOne)
+{
+    const OwnPaperRow &row = GetParam();
+    const QVariantMap setup = host::pageSetupToReturn(row.own, {});
+    EXPECT_EQ(setup["Width"], row.width);
+    EXPECT_EQ(setup["Height"], row.height);
+    EXPECT_EQ(setup["MarginLeft"], row.left);
+    EXPECT_EQ(setup["DisplayName"], row.text);
+    EXPECT_EQ(setup.size(), 9);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, ReturnedPageSetupOfAnUnknownPaper,
+    testing::Values(OwnPaperRow{"ALetter",
+                                {{"DisplayName", "Letter"}, {"Width", 215.9}, {"Height", 279.4}, {"MarginLeft", 6.35}},
+                                215.9,
+                                279.4,
+                                6.35,
+                                "Letter"},
+                    OwnPaperRow{"Nothing", {}, 210, 297, 0, "A4"},
+                    OwnPaperRow{"AWidthAlone", {{"Width", 80.0}}, 210, 297, 0, "A4"},
+                    OwnPaperRow{"NoSize", {{"Width", 0.0}, {"Height", 0.0}}, 210, 297, 0, "A4"},
+                    OwnPaperRow{"ASizeThatIsNone", {{"Width", std::nan("")}, {"Height", 279.4}}, 210, 297, 0, "A4"},
+                    OwnPaperRow{"ASizeWithoutEnd",
+                                {{"Width", std::numeric_limits<double>::infinity()}, {"Height", 279.4}},
+                                210,
+                                297,
+                                0,
+                                "A4"},
+                    OwnPaperRow{"AText", {{"Width", "80"}, {"Height", "200"}}, 210, 297, 0, "A4"},
+                    OwnPaperRow{
+                        "ANegativeMargin", {{"Width", 80.0}, {"Height", 200.0}, {"MarginLeft", -5.0}}, 80, 200, 0, ""}),
+    [](const auto &row) { return std::string(row.param.name); });
 
 TEST(ReturnedPageSetup, KeepsTheOrientationOfTheApplication)
 {

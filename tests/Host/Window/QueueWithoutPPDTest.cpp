@@ -70,17 +70,17 @@ TEST_F(QueueWithoutPPD, ShowsItInTheLanguageOfTheDialog)
     EXPECT_EQ(items(*find<QComboBox>(kQuality)), QStringList({"Vorgabe des Druckers", "Entwurf", "Normal", "Hoch"}));
 }
 
-TEST_F(QueueWithoutPPD, SaysOfAJobOnlyWhatThePrinterWouldNotDoByItself)
+TEST_F(QueueWithoutPPD, SaysOfAJobWhatThePanelShows)
 {
     open();
-    EXPECT_EQ(job(), OptionValues());
+    EXPECT_EQ(job(), OptionValues({{"sides", "one-sided"}}));
     choose(*find<QComboBox>(kSides), "Short-Edge (Landscape)");
     choose(*find<QComboBox>(kQuality), "Draft");
     EXPECT_EQ(job(), OptionValues({{"sides", "two-sided-short-edge"}, {"print-quality", "3"}}));
     EXPECT_TRUE(summary().contains("2-Sided Printing=Short-Edge (Landscape)")) << summary().join(' ').toStdString();
     choose(*find<QComboBox>(kSides), "Off (1-Sided)");
-    choose(*find<QComboBox>(kQuality), "Printer Default");
-    EXPECT_EQ(job(), OptionValues());
+    choose(*find<QComboBox>(kQuality), "Printer Default"); // which has no word
+    EXPECT_EQ(job(), OptionValues({{"sides", "one-sided"}}));
 }
 
 TEST_F(QueueWithoutPPD, BeginsWithWhatIsAskedForAndSaved)
@@ -95,15 +95,17 @@ TEST_F(QueueWithoutPPD, BeginsWithWhatIsAskedForAndSaved)
                                    {"cpi", "12"},
                                    {"number-up", "2"},
                                    {"media", "iso_a4_210x297mm"}}));
-    choose(*find<QComboBox>(kSides), "Off (1-Sided)"); // which needs no word
-    EXPECT_FALSE(job().contains("sides"));
+    choose(*find<QComboBox>(kSides), "Off (1-Sided)");
+    EXPECT_EQ(job()["sides"], "one-sided");
 }
 
 TEST_F(QueueWithoutPPD, KeepsWhatAPersonHasChosenWhenItIsLookedForAgain)
 {
-    open({{"sides", "two-sided-short-edge"}}, {{"sides", "two-sided-long-edge"}, {"media", "iso_a4_210x297mm"}});
+    ASSERT_TRUE(SavedOptions("plain").save({}, {{"print-quality", "3"}}));
+    open({{"sides", "two-sided-short-edge"}}, {{"sides", "two-sided-long-edge"}, {"cpi", "12"}, {"QnDensity", "D9"}});
     EXPECT_EQ(shown(kSides), "Long-Edge (Portrait)");
-    EXPECT_EQ(job()["media"], "iso_a4_210x297mm");
+    EXPECT_EQ(shown(kQuality), "Printer Default");                                     // nobody chose another
+    EXPECT_EQ(job(), OptionValues({{"sides", "two-sided-long-edge"}, {"cpi", "12"}})); // the driver has gone
 }
 
 TEST_F(QueueWithoutPPD, RefusesAChoiceThatTheServerDoesNotOffer)
@@ -115,7 +117,7 @@ TEST_F(QueueWithoutPPD, RefusesAChoiceThatTheServerDoesNotOffer)
 TEST_F(QueueWithoutPPD, LeavesToTheServerWhatItSaysNothingOf)
 {
     open({{"print-color-mode", "monochrome"}, {"QnDensity", "D9"}});
-    EXPECT_EQ(job(), OptionValues({{"print-color-mode", "monochrome"}, {"QnDensity", "D9"}}));
+    EXPECT_EQ(job(), OptionValues({{"print-color-mode", "monochrome"}, {"QnDensity", "D9"}, {"sides", "one-sided"}}));
 }
 
 TEST_F(QueueWithoutPPD, DropsASavedChoiceThatTheServerNoLongerOffers)
@@ -123,7 +125,7 @@ TEST_F(QueueWithoutPPD, DropsASavedChoiceThatTheServerNoLongerOffers)
     ASSERT_TRUE(SavedOptions("plain").save({}, {{"sides", "tumbling"}}));
     open();
     EXPECT_EQ(shown(kSides), "Off (1-Sided)");
-    EXPECT_EQ(job(), OptionValues());
+    EXPECT_EQ(job(), OptionValues({{"sides", "one-sided"}}));
 }
 
 TEST_F(QueueWithoutPPD, SavesAPresetInTheWordsOfTheServer)
@@ -153,6 +155,43 @@ TEST_F(QueueWithoutPPD, OverwritesAPresetWithTheDefaultThatIsChosenNow)
     EXPECT_EQ(saved["cpi"], "12");
 }
 
+TEST_F(QueueWithoutPPD, LeavesOutOfAPresetWhatWasTakenAway)
+{
+    ASSERT_TRUE(
+        SavedOptions("plain").save("fitted", {{"print-scaling", "fit"}, {"media", "iso_a4_210x297mm"}, {"cpi", "12"}}));
+    open();
+    m_dialog->restorePreset("fitted");
+    m_dialog->setScaling(Scaling::automatic);
+    m_dialog->savePreset("fitted");
+    EXPECT_EQ(SavedOptions("plain").options("fitted"),
+              OptionValues({{"copies", "1"}, {"cpi", "12"}, {"media", "iso_a4_210x297mm"}}));
+    m_dialog->restorePreset({});
+    m_dialog->savePreset("fitted");
+    EXPECT_EQ(SavedOptions("plain").options("fitted"), OptionValues({{"copies", "1"}, {"cpi", "12"}}));
+}
+
+TEST_F(QueueWithoutPPD, IsOnThePaperThatThePrinterTakesByItself)
+{
+    m_queue.papers.push_back({"na_letter_8.5x11in", "Letter", {612, 792}});
+    m_queue.standardPaper = "na_letter_8.5x11in";
+    open();
+    EXPECT_EQ(papers()->currentText(), "Letter");
+    ASSERT_TRUE(m_dialog->target()->sheet());
+    EXPECT_EQ(m_dialog->target()->sheet()->size.width, 612);
+    EXPECT_FALSE(job().contains("media"));
+    choose(*papers(), "A4");
+    EXPECT_EQ(job()["media"], "iso_a4_210x297mm");
+}
+
+TEST_F(QueueWithoutPPD, IsWhatTheSummarySpeaksOfAfterAnotherPrinter)
+{
+    open({{"sides", "two-sided-long-edge"}});
+    EXPECT_TRUE(summary().contains("Printer=plain")) << summary().join(' ').toStdString();
+    m_queue.name = "other";
+    m_dialog->use(support::value(target({})));
+    EXPECT_TRUE(summary().contains("Printer=other")) << summary().join(' ').toStdString();
+}
+
 TEST_F(QueueWithoutPPD, HasGeneralSettingsWhereNothingIsOffered)
 {
     m_queue.offers.clear();
@@ -167,7 +206,8 @@ TEST_F(QueueWithoutPPD, TellsTheServerWhatWasChosen)
     const MisbehavingServer server({{MisbehavingServer::Step::ppd, MisbehavingServer::Mode::notFound}});
     server.adoptEnvironment();
     openAndWait();
-    EXPECT_EQ(items(*find<QComboBox>(kSides)), QStringList({"Off (1-Sided)", "Long-Edge (Portrait)"}));
+    EXPECT_EQ(items(*find<QComboBox>(kSides)), QStringList({"Off (1-Sided)", "Long-Edge (Portrait)", "tumbling"}));
+    EXPECT_EQ(m_dialog->target()->paper().name, "na_letter_8.5x11in");
     EXPECT_EQ(shown(kSides), "Long-Edge (Portrait)");                          // what this printer does by itself
     EXPECT_FALSE(m_window->findChild<QComboBox *>("server-print-color-mode")); // there is one
     choose(*find<QComboBox>(kSides), "Off (1-Sided)");
