@@ -7,6 +7,7 @@
 #include "Cups/Conversation.h"
 #include "Pages/PageReader.h"
 #include "Toolkit/Alert.h"
+#include "Window/CredentialsBox.h"
 #include "Window/DialogWindow.h"
 #include "Window/ForeignParent.h"
 #include "Window/JobFailedBox.h"
@@ -26,6 +27,8 @@ using foundation::Or;
 using foundation::Problem;
 
 namespace {
+
+constexpr int kMostTries = 3; // to say who one is
 
 PrintRequest requestFor(const JobWish &wish)
 {
@@ -120,6 +123,7 @@ int printForApplication(JobWish wish)
     complain(printed.problem().sentence);
     wish.problem = printed.problem().sentence;
     wish.isLost = !document;
+    wish.isGuarded = printed.problem().kind == Problem::Kind::noAccess;
     return goOnAs(kPrintAsked, wish, document ? (*document)->descriptor() : -1);
 }
 
@@ -140,6 +144,25 @@ int showWholeDialog(const JobWish &wish, PrintRequest request, const std::shared
     return window.exec() == QDialog::Accepted ? kDone : kRefused;
 }
 
+/// What was settled, by whoever says who they are as long as the printer wants to know. `printed`: what it came to
+/// before anybody was asked. `over`: null for the window of the application.
+Or<void> printIdentified(const JobWish &wish, const std::shared_ptr<Document> &document, Or<void> printed,
+                         QWidget *over)
+{
+    QString user = qEnvironmentVariable("USER");
+    for (int i = 0; i < kMostTries && !printed && printed.problem().kind == Problem::Kind::noAccess; ++i) {
+        CredentialsBox box(printed.problem().sentence, user, over);
+        if (!over)
+            setForeignParent(box, wish.dialog.parentWindow, false);
+        if (box.exec() != QDialog::Accepted)
+            break;
+        user = box.credentials().user;
+        setConversationCredentials(box.credentials()); // wrong ones are forgotten by whoever gets to know
+        printed = printAsSettled(wish, document);
+    }
+    return printed;
+}
+
 /// What another printer can do: what was chosen for the first one means nothing to it.
 PrintRequest requestForAnotherPrinter(const JobWish &wish)
 {
@@ -158,7 +181,7 @@ int tellOfFailure(JobWish wish, const std::shared_ptr<Document> &document)
     constexpr int kAnotherPrinter = 2;
     QObject::connect(&box, &JobFailedBox::otherPrinterWanted, &box, [&box] { box.done(kAnotherPrinter); });
     QObject::connect(&box, &JobFailedBox::againWanted, &box, [&] {
-        if (const auto printed = printAsSettled(wish, document))
+        if (const auto printed = printIdentified(wish, document, printAsSettled(wish, document), &box))
             box.accept();
         else
             box.tell(printed.problem().sentence);
@@ -180,6 +203,12 @@ int askForApplication(JobWish wish)
     if (!document) {
         wish.problem = document.problem().sentence;
         return tellOfFailure(wish, nullptr);
+    }
+    if (wish.isGuarded) {
+        const auto printed = printIdentified(wish, *document, Problem{wish.problem, Problem::Kind::noAccess}, nullptr);
+        if (printed)
+            return kDone;
+        wish.problem = printed.problem().sentence;
     }
     if (!wish.problem.isEmpty())
         return tellOfFailure(wish, *document);
