@@ -167,7 +167,7 @@ Or<void> printIdentified(const JobWish &wish, const std::shared_ptr<Document> &d
 PrintRequest requestForAnotherPrinter(const JobWish &wish)
 {
     PrintRequest request = requestFor(wish);
-    request.queue.clear();
+    request.failedQueue = std::exchange(request.queue, {});
     request.options.clear();
     request.isSettled = false;
     return request;
