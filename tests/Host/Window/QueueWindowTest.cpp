@@ -105,7 +105,8 @@ TEST_F(AnotherPrinter, IsForThePersonToChooseAmongSeveral)
 
 TEST_F(AnotherPrinter, IsTheDefaultWhereThatHasNotFailed)
 {
-    ASSERT_TRUE(m_server.addQueue("second", "usb://Qn/Thermal?serial=2"));
+    for (const char *name : {"second", "third"})
+        ASSERT_TRUE(m_server.addQueue(name, "usb://Qn/Thermal?serial=2"));
     m_failedQueue = "second";
     openAndWait("");
     EXPECT_EQ(m_dialog->target()->name(), "counter");
