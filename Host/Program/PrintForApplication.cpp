@@ -15,7 +15,6 @@
 
 #include <QJsonDocument>
 
-#include <csignal>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -49,7 +48,6 @@ PrintRequest requestFor(const JobWish &wish)
 /// The document, and with it the title of the job: the wished one, its own, or that of whoever wants it printed.
 Or<std::shared_ptr<Document>> receive(JobWish &wish)
 {
-    std::signal(SIGXFSZ, SIG_IGN); // where files may not grow without end, that is told as everything else
     const QString name =
         wish.title.isEmpty() ? QCoreApplication::translate("host::ForApplications", "Document", "a title") : wish.title;
     ::lseek(kDocumentDescriptor, 0, SEEK_SET); // where it was left by whoever wrote it; a pipe stays where it is
