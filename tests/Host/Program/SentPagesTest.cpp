@@ -208,8 +208,9 @@ protected:
     {
         Sending::SetUp();
         m_program.setChildProcessModifier([] {
-            constexpr rlim_t kLargestFile = 10'000;
-            const rlimit limit{kLargestFile, kLargestFile};
+            rlimit limit{};
+            ::getrlimit(RLIMIT_FSIZE, &limit);
+            limit.rlim_cur = 10'000; // which everybody may raise
             ::setrlimit(RLIMIT_FSIZE, &limit);
         });
     }
