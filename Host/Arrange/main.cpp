@@ -8,6 +8,7 @@
 #include <qpdf/QPDFExc.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -26,14 +27,15 @@ Sheet sheetFrom(char *argv[])
             points(argv[kTurnsLeft]) != 0};
 }
 
-/// Streams stay as they are packed: only what is drawn with is written, none of it understood.
+/// Streams stay as they are packed: only what is drawn with is written, none of it understood. The writer passes over
+/// bytes that could not be flushed; the file remembers.
 ArrangeStatus write(QPDF &document, const QPDF &source)
 {
     QPDFWriter writer(document, "the pages", stdout, false);
     writer.setDecodeLevel(qpdf_dl_none);
     writer.setMinimumPDFVersion(const_cast<QPDF &>(source).getVersionAsPDFVersion());
     writer.write();
-    return std::fflush(stdout) == 0 ? kArranged : kUnwritable;
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? kArranged : kUnwritable;
 }
 
 ArrangeStatus arrange(const Sheet &sheet, Scaling scaling, const QString &ranges)
@@ -52,6 +54,7 @@ ArrangeStatus arrange(const Sheet &sheet, Scaling scaling, const QString &ranges
 
 int main(int argc, char *argv[])
 {
+    std::signal(SIGXFSZ, SIG_IGN); // no room is an answer, too
     if (argc != kArrangeWords)
         return kUnreadable;
     try {

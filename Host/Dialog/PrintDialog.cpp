@@ -201,6 +201,8 @@ void PrintDialog::look(const QueueName &name, const OptionValues &carried)
 void PrintDialog::finderFound(OpenedQueue queue)
 {
     m_refusedCredentials = 0;
+    if (m_wanted.queue.isEmpty() && queue.queue.name == m_request.failedQueue)
+        return finderFailed({tr("Choose a printer."), Problem::Kind::noChoice});
     const OptionValues carried = std::exchange(m_carried, {});
     auto target = targetOfQueue(m_request, std::move(queue), carried);
     if (!target)
@@ -233,7 +235,8 @@ void PrintDialog::lookForOthers()
 void PrintDialog::finderFoundAll(const Queues &queues)
 {
     m_hasAllPrinters = true;
-    const QString wanted = m_wanted.queue.isEmpty() ? queues.standard : m_wanted.queue;
+    const QString standard = queues.standard == m_request.failedQueue ? QString() : queues.standard;
+    const QString wanted = m_wanted.queue.isEmpty() ? standard : m_wanted.queue;
     offerPrinters(queues.queues, m_state == State::looking || !m_target ? wanted : m_target->name());
     if (m_state == State::noPrinter && m_problem.kind == Problem::Kind::noChoice)
         chooseAmong(queues.queues);
@@ -246,13 +249,15 @@ void PrintDialog::finderFailedAll(const Problem &problem)
         finderFailed(problem);
 }
 
-/// Nobody has said which: the only one, or the person says.
+/// Nobody has said which: the only one, but for one that has failed where there are others, or the person says.
 void PrintDialog::chooseAmong(const std::vector<QueueEntry> &printers)
 {
-    if (printers.size() == 1)
-        choosePrinter(printers.front().name);
-    else if (printers.empty())
+    auto others = printers;
+    std::erase_if(others, [this](const QueueEntry &printer) { return printer.name == m_request.failedQueue; });
+    if (printers.empty())
         say(About::printer, tr("The print service has no printer yet."));
+    else if (others.size() <= 1)
+        choosePrinter((others.empty() ? printers : others).front().name);
     else
         say(About::printer, tr("Choose a printer."));
 }

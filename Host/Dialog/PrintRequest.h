@@ -11,6 +11,7 @@ struct PrintRequest
 {
     QString queue;                   // empty: the default queue; a preset may follow behind a slash
     bool prefersLastPrinter = false; // to the default queue
+    QString failedQueue;             // that another one is wanted for: not taken unless a person says so
     QString ppd;                     // a PPD file instead of a queue
     QString output;                  // the folder that goes with it
     QString title;                   // of the job; empty: the document's

@@ -2,6 +2,7 @@
 
 #include <QDeadlineTimer>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <fcntl.h>
@@ -23,7 +24,8 @@ struct Limit
     rlim_t value;
 };
 
-/// Between fork and exec: calls of the system only. An interrupt from the terminal is ours to pass on.
+/// Between fork and exec: calls of the system only. An interrupt from the terminal is ours to pass on. Limits are only
+/// lowered, and what writes beyond its own ends, although we go on.
 void confine(const Allowance &allowance, qint64 largestFile)
 {
     const std::array limits{
@@ -34,9 +36,13 @@ void confine(const Allowance &allowance, qint64 largestFile)
         Limit{RLIMIT_NOFILE, kMostOpenFiles},
     };
     for (const Limit &limit : limits) {
-        const rlimit both{limit.value, limit.value};
+        rlimit both{};
+        ::getrlimit(limit.resource, &both);
+        both.rlim_max = std::min(both.rlim_max, limit.value);
+        both.rlim_cur = std::min(both.rlim_cur, both.rlim_max);
         ::setrlimit(limit.resource, &both);
     }
+    ::signal(SIGXFSZ, SIG_DFL);
     ::setsid();
     ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);

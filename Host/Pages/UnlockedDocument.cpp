@@ -6,6 +6,7 @@
 
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <array>
 #include <fcntl.h>
 #include <unistd.h>
@@ -53,6 +54,13 @@ QByteArray lineOf(const QString &password)
     return password.normalized(QString::NormalizationForm_C).toUtf8().left(kLongestPassword) + '\n';
 }
 
+/// The program says nothing of bytes that found no room on the disk, but writes this last.
+bool isWhole(QFile &file)
+{
+    constexpr QByteArrayView kEnd("%%EOF\n");
+    return file.seek(std::max<qint64>(0, file.size() - kEnd.size())) && file.readAll() == kEnd;
+}
+
 } // namespace
 
 bool UnlockedDocument::isPossible() { return !QStandardPaths::findExecutable(kProgram).isEmpty(); }
@@ -72,7 +80,7 @@ Or<std::shared_ptr<Document>> UnlockedDocument::of(const Document &locked, const
         {"--no-warn", "--warning-exit-0", "--password-file=-", "--decrypt", pathOfDescriptor(locked.descriptor()), "-"},
         {line.path(), pathOfDescriptor((*file)->handle()), locked.descriptor()}, kAllowance);
     const bool hasEnded = unlocking.output(stop).has_value();
-    if (hasEnded && unlocking.status() == 0)
+    if (hasEnded && unlocking.status() == 0 && isWhole(**file))
         return Document::made(locked.title(), *std::move(file));
     if (unlocking.complaints().contains("invalid password"))
         return Problem{tr("%1: the password is wrong").arg(locked.title()), Problem::Kind::locked};

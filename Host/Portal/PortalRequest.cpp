@@ -90,11 +90,8 @@ DialogWish dialogWishFromJson(const QJsonObject &object)
 
 QJsonObject toJson(const JobWish &wish)
 {
-    QJsonObject object{{"dialog", toJson(wish.dialog)},
-                       {"title", wish.title},
-                       {"application", wish.application},
-                       {"problem", wish.problem},
-                       {"lost", wish.isLost}};
+    QJsonObject object{{"dialog", toJson(wish.dialog)}, {"title", wish.title}, {"application", wish.application},
+                       {"problem", wish.problem},       {"lost", wish.isLost}, {"guarded", wish.isGuarded}};
     if (wish.prepared)
         object["prepared"] = toJson(*wish.prepared);
     return object;
@@ -108,6 +105,7 @@ JobWish jobWishFromJson(const QJsonObject &object)
     wish.application = object["application"].toString();
     wish.problem = object["problem"].toString();
     wish.isLost = object["lost"].toBool();
+    wish.isGuarded = object["guarded"].toBool();
     if (object.contains("prepared"))
         wish.prepared = preparedPrintFromJson(object["prepared"].toObject());
     return wish;

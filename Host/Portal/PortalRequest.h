@@ -85,6 +85,7 @@ struct JobWish
     QString application;                   // stands for a title where there is none; may be empty
     QString problem;                       // why it was not printed; empty: nothing was tried
     bool isLost = false;                   // and nothing can be done with the document
+    bool isGuarded = false;                // and it may be when somebody says who they are
     std::optional<PreparedPrint> prepared; // nil: nothing has been settled
 };
 

@@ -234,7 +234,7 @@ void PrintPortal::showDialog(PortalCall &call, const std::shared_ptr<Preparation
 
 void PrintPortal::endDialog(PortalCall &call, const Preparation &preparation, const QJsonObject &answer)
 {
-    if (answer[kOutcome] == kCancelled)
+    if (call.isClosed() || answer[kOutcome] == kCancelled) // nobody wants it any more, whatever the dialog came to
         return call.answer(Response::cancelled);
     if (answer[kOutcome] != kPrepared)
         return call.answer(Response::failed);
@@ -286,8 +286,10 @@ void PrintPortal::forward(PortalCall &call, const QString &backend, const char *
     auto message = QDBusMessage::createMethodCall(backend, kPortalPath, kInterface, method);
     message.setArguments(arguments);
     auto *const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, std::numeric_limits<int>::max()), &call);
-    connect(watcher, &QDBusPendingCallWatcher::finished, &call,
-            [watcher, use = std::move(use)] { use(watcher->reply()); });
+    connect(watcher, &QDBusPendingCallWatcher::finished, &call, [watcher, use = std::move(use)] {
+        watcher->deleteLater(); // what is taken back from now on is not theirs
+        use(watcher->reply());
+    });
     connect(&call, &PortalCall::closed, watcher, [this, backend, handle = call.handle()] {
         m_bus.send(QDBusMessage::createMethodCall(backend, handle, kRequest, "Close"));
     });

@@ -7,6 +7,7 @@
 #include "Cups/Conversation.h"
 #include "Pages/PageReader.h"
 #include "Toolkit/Alert.h"
+#include "Window/CredentialsBox.h"
 #include "Window/DialogWindow.h"
 #include "Window/ForeignParent.h"
 #include "Window/JobFailedBox.h"
@@ -14,7 +15,6 @@
 
 #include <QJsonDocument>
 
-#include <csignal>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -26,6 +26,8 @@ using foundation::Or;
 using foundation::Problem;
 
 namespace {
+
+constexpr int kMostTries = 3; // to say who one is
 
 PrintRequest requestFor(const JobWish &wish)
 {
@@ -46,7 +48,6 @@ PrintRequest requestFor(const JobWish &wish)
 /// The document, and with it the title of the job: the wished one, its own, or that of whoever wants it printed.
 Or<std::shared_ptr<Document>> receive(JobWish &wish)
 {
-    std::signal(SIGXFSZ, SIG_IGN); // where files may not grow without end, that is told as everything else
     const QString name =
         wish.title.isEmpty() ? QCoreApplication::translate("host::ForApplications", "Document", "a title") : wish.title;
     ::lseek(kDocumentDescriptor, 0, SEEK_SET); // where it was left by whoever wrote it; a pipe stays where it is
@@ -120,6 +121,7 @@ int printForApplication(JobWish wish)
     complain(printed.problem().sentence);
     wish.problem = printed.problem().sentence;
     wish.isLost = !document;
+    wish.isGuarded = printed.problem().kind == Problem::Kind::noAccess;
     return goOnAs(kPrintAsked, wish, document ? (*document)->descriptor() : -1);
 }
 
@@ -140,11 +142,30 @@ int showWholeDialog(const JobWish &wish, PrintRequest request, const std::shared
     return window.exec() == QDialog::Accepted ? kDone : kRefused;
 }
 
+/// What was settled, by whoever says who they are as long as the printer wants to know. `printed`: what it came to
+/// before anybody was asked. `over`: null for the window of the application.
+Or<void> printIdentified(const JobWish &wish, const std::shared_ptr<Document> &document, Or<void> printed,
+                         QWidget *over)
+{
+    QString user = qEnvironmentVariable("USER");
+    for (int i = 0; i < kMostTries && !printed && printed.problem().kind == Problem::Kind::noAccess; ++i) {
+        CredentialsBox box(printed.problem().sentence, user, over);
+        if (!over)
+            setForeignParent(box, wish.dialog.parentWindow, false);
+        if (box.exec() != QDialog::Accepted)
+            break;
+        user = box.credentials().user;
+        setConversationCredentials(box.credentials()); // wrong ones are forgotten by whoever gets to know
+        printed = printAsSettled(wish, document);
+    }
+    return printed;
+}
+
 /// What another printer can do: what was chosen for the first one means nothing to it.
 PrintRequest requestForAnotherPrinter(const JobWish &wish)
 {
     PrintRequest request = requestFor(wish);
-    request.queue.clear();
+    request.failedQueue = std::exchange(request.queue, {});
     request.options.clear();
     request.isSettled = false;
     return request;
@@ -158,7 +179,7 @@ int tellOfFailure(JobWish wish, const std::shared_ptr<Document> &document)
     constexpr int kAnotherPrinter = 2;
     QObject::connect(&box, &JobFailedBox::otherPrinterWanted, &box, [&box] { box.done(kAnotherPrinter); });
     QObject::connect(&box, &JobFailedBox::againWanted, &box, [&] {
-        if (const auto printed = printAsSettled(wish, document))
+        if (const auto printed = printIdentified(wish, document, printAsSettled(wish, document), &box))
             box.accept();
         else
             box.tell(printed.problem().sentence);
@@ -180,6 +201,12 @@ int askForApplication(JobWish wish)
     if (!document) {
         wish.problem = document.problem().sentence;
         return tellOfFailure(wish, nullptr);
+    }
+    if (wish.isGuarded) {
+        const auto printed = printIdentified(wish, *document, Problem{wish.problem, Problem::Kind::noAccess}, nullptr);
+        if (printed)
+            return kDone;
+        wish.problem = printed.problem().sentence;
     }
     if (!wish.problem.isEmpty())
         return tellOfFailure(wish, *document);

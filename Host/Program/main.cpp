@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 
+#include <csignal>
 #include <iostream>
 
 namespace {
@@ -79,6 +80,7 @@ int run(Face face, const host::Arguments &arguments, int argc, char *argv[])
 // NOLINTNEXTLINE(bugprone-exception-escape): what nobody has caught is a defect, and ends the program
 int main(int argc, char *argv[])
 {
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow any more is told of, as on a disk without room
     QCoreApplication::setOrganizationName("qnprint");
     QCoreApplication::setOrganizationDomain("qnprint.org");
     QCoreApplication::setApplicationName("qnprint");

@@ -190,6 +190,11 @@ void CupsServer::lay()
     for (const char *scheme : {"usb", "QNLRUSB"})
         write(path(QString("bin/backend/") + scheme), kBackend, 0755);
     m_port = freePort();
+    layConfiguration();
+}
+
+void CupsServer::layConfiguration()
+{
     write(path("etc/cups-files.conf"), filesConfiguration(m_folder.path()));
     write(path("etc/cupsd.conf"), serverConfiguration());
     if (m_setup.guards != Setup::Guards::nothing)
@@ -218,6 +223,13 @@ std::optional<QString> CupsServer::start(const Setup &setup)
     leaveForOwnNetwork();
     m_setup = setup;
     lay();
+    return restart();
+}
+
+std::optional<QString> CupsServer::restart(const Setup &setup)
+{
+    m_setup = setup;
+    layConfiguration();
     return restart();
 }
 

@@ -38,6 +38,8 @@ public:
     void kill();
     /// Once more, with the queues and jobs that it had.
     std::optional<QString> restart();
+    /// And set up otherwise, after a stop.
+    std::optional<QString> restart(const Setup &setup);
     /// Holds the server so that it answers nothing, and lets it go on.
     void freeze();
     void thaw();
@@ -74,6 +76,7 @@ public:
 
 private:
     void lay();
+    void layConfiguration();
     void layPasswords();
     QByteArray serverConfiguration() const;
 

@@ -32,6 +32,7 @@ protected:
         host::PrintRequest request;
         request.queue = queue;
         request.options = m_asked;
+        request.failedQueue = m_failedQueue;
         request.prefersLastPrinter = m_prefersLast;
         makeDialog(request, file);
         ASSERT_TRUE(m_dialog->start());
@@ -85,6 +86,7 @@ protected:
     CupsServer m_server;
     host::OptionValues m_asked; // on the command line
     bool m_prefersLast = false;
+    QString m_failedQueue; // that another one is wanted for
 };
 
 } // namespace support

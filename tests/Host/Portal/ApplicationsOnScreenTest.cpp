@@ -13,9 +13,11 @@
 #include <csignal>
 #include <iostream>
 
+using support::CupsServer;
 using support::Desktop;
 using support::PrintingApplication;
 using support::Seen;
+using Guards = CupsServer::Setup::Guards;
 using Place = PrintingApplication::Place;
 
 namespace {
@@ -499,16 +501,113 @@ TEST_F(NotPrinted, AJobIsTriedAgain)
     EXPECT_EQ(wordsOf(1), QStringList({"page 1", "page 2"}));
 }
 
+/// The printer has come to want to know who prints.
+class Guarded : public NotPrinted
+{
+protected:
+    void guard(Guards guards) const
+    {
+        m_desktop.server().stop();
+        const auto notThere = m_desktop.server().restart({.guards = guards});
+        ASSERT_FALSE(notThere) << notThere->toStdString();
+    }
+    bool asksWhoPrints() const
+    {
+        return wait([](const Seen &each) { return each.role == "button" && each.name == "Log In"; }).has_value();
+    }
+    /// Into the box that asks, which goes then.
+    void identify(const QString &password, const QString &why = kAsksForPassword) const
+    {
+        ASSERT_TRUE(asksWhoPrints());
+        EXPECT_TRUE(says(why));
+        const auto windows = [this] {
+            return m_desktop.screen().ask("xdotool", {"search", "--onlyvisible", "--class", "qnprint"});
+        };
+        const QByteArray before = windows();
+        fill("alt+u", CupsServer::kUser);
+        fill("alt+p", password);
+        m_desktop.screen().press("Return");
+        ASSERT_TRUE(becomes([&] { return windows() != before; }));
+    }
+    void expectWhatWasSettled()
+    {
+        const auto job = m_desktop.server().record(1);
+        EXPECT_EQ(job["user"], CupsServer::kUser);
+        EXPECT_EQ(job["PRINTER"], "counter");
+        EXPECT_EQ(job["copies"], "2");
+        EXPECT_EQ(wordsOf(1), QStringList({"page 1", "page 2"}));
+        EXPECT_EQ(m_desktop.server().recordCount(), 1);
+    }
+
+    static constexpr auto kAsksForPassword = "counter: the CUPS server asks for a password";
+    static constexpr auto kRefusal = "counter: the CUPS server does not accept the user name or the password";
+};
+
+struct GuardRow
+{
+    const char *name;
+    Guards guards;
+};
+
+void PrintTo(const GuardRow &row, std::ostream *out) { *out << row.name; }
+
+class GuardedBy : public Guarded, public testing::WithParamInterface<GuardRow>
+{};
+
+INSTANTIATE_TEST_SUITE_P(A, GuardedBy,
+                         testing::Values(GuardRow{"ServerThatAsksWhoPrints", Guards::printing},
+                                         GuardRow{"ServerThatAsksWhoLooks", Guards::everything}),
+                         [](const auto &row) { return row.param.name; });
+
+TEST_P(GuardedBy, PrintsWhatWasSettledAsSoonAsAPersonSaysWhoTheyAre)
+{
+    guard(GetParam().guards);
+    m_application->print();
+    identify(CupsServer::kPassword);
+    expectWhatWasSettled();
+}
+
+TEST_F(Guarded, AsksThreeTimesAndOnceMoreWhenAPersonTriesAgain)
+{
+    guard(Guards::printing);
+    m_application->print();
+    for (int i = 0; i < 3; ++i)
+        ASSERT_NO_FATAL_FAILURE(identify("wrong", i == 0 ? kAsksForPassword : kRefusal));
+    ASSERT_TRUE(canPress("Try Again"));
+    EXPECT_TRUE(says(kRefusal));
+    m_desktop.screen().press("alt+a");
+    identify(CupsServer::kPassword);
+    expectWhatWasSettled();
+}
+
+TEST_F(Guarded, KeepsTheDocumentOfAPersonWhoDoesNotSay)
+{
+    guard(Guards::printing);
+    m_application->print();
+    ASSERT_TRUE(asksWhoPrints());
+    m_desktop.screen().press("Escape");
+    ASSERT_TRUE(canPress("Save as PDF…"));
+    EXPECT_TRUE(says(kAsksForPassword));
+    m_desktop.screen().press("Escape");
+}
+
+TEST_F(Guarded, AsksWhenAJobIsTriedAgainThatFailedOtherwise)
+{
+    m_desktop.server().stop();
+    sendTheDocument();
+    guard(Guards::printing);
+    m_desktop.screen().press("alt+a");
+    identify(CupsServer::kPassword);
+    expectWhatWasSettled();
+}
+
 TEST_F(NotPrinted, AJobIsPrintedOnAnotherPrinter)
 {
     ASSERT_EQ(m_desktop.server().run("cupsreject", {"counter"}), 0);
     sendTheDocument();
     EXPECT_TRUE(says("counter"));
     m_desktop.screen().press("alt+p");
-    ASSERT_TRUE(shows("Printer:", "counter (takes no jobs)"));
-    m_desktop.screen().press("alt+r");
-    m_desktop.screen().press("Down");
-    ASSERT_TRUE(shows("Printer:", "office"));
+    ASSERT_TRUE(shows("Printer:", "office")) << "counter is the default, but it has failed";
     ASSERT_TRUE(canPress("Print"));
     m_desktop.screen().press("alt+p");
     EXPECT_EQ(m_desktop.server().record(1)["PRINTER"], "office");

@@ -275,6 +275,19 @@ TEST_F(PortalService, ClosesADialogThatDoesNotShowYet)
     EXPECT_TRUE(QTest::qWaitFor([this] { return childrenOf(m_service.processId()).isEmpty(); }, kMilliseconds));
 }
 
+TEST_F(PortalService, EndsADialogThatDoesNotClose)
+{
+    startService();
+    const auto pending = prepare();
+    ASSERT_TRUE(showsDialog());
+    const auto children = childrenOf(m_service.processId());
+    ASSERT_EQ(children.size(), 1);
+    ::kill(children.first(), SIGSTOP);
+    takeBack(m_handles);
+    EXPECT_EQ(answerOf(pending).response, 1U);
+    EXPECT_TRUE(childrenOf(m_service.processId()).isEmpty());
+}
+
 TEST_F(PortalService, ClosesARequestOnlyForWhoeverHasMadeIt)
 {
     startService();
@@ -799,6 +812,29 @@ TEST_F(HandOver, ComesBackWhenNobodyIsThere)
     ASSERT_TRUE(showsDialog());
     m_screen.press("alt+p");
     EXPECT_EQ(answerOf(pending).response, 0U);
+}
+
+TEST_F(HandOver, IsNotTakenBackWhereNobodyWasThere)
+{
+    startService();
+    const auto pending = prepare();
+    ASSERT_TRUE(showsDialog());
+    const auto before = childrenOf(m_service.processId());
+    const auto isAnother = [&] {
+        const auto now = childrenOf(m_service.processId());
+        return now.size() == 1 && now != before;
+    };
+    m_screen.press("alt+o");
+    ASSERT_TRUE(QTest::qWaitFor(isAnother, kMilliseconds));
+    ASSERT_TRUE(showsDialog());
+    startOthers(); // who know nothing of it
+    OthersRequest request;
+    ASSERT_TRUE(m_othersBus->registerObject(QString("/org/freedesktop/portal/desktop/request/1_1/t%1").arg(m_handles),
+                                            &request, QDBusConnection::ExportScriptableSlots));
+    takeBack(m_handles);
+    EXPECT_EQ(answerOf(pending).response, 1U);
+    QTest::qWait(100);
+    EXPECT_FALSE(request.m_isClosed);
 }
 
 TEST_F(HandOver, IsNotOfferedWithoutAnotherDialog)

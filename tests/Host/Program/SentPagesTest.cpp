@@ -15,6 +15,8 @@
 
 #include <algorithm>
 #include <csignal>
+#include <random>
+#include <sys/resource.h>
 
 using support::CupsServer;
 using support::JobPDF;
@@ -185,6 +187,74 @@ INSTANTIATE_TEST_SUITE_P(
                              "the document takes too long, or too much memory, to be put on the paper"},
                     Arranger{"ThatWritesNoPDF", "#!/bin/sh\nexit 1\n", "the document is damaged"},
                     Arranger{"ThatHasNoRoom", "#!/bin/sh\nexit 2\n", "there is no room for its pages"}),
+    [](const auto &row) { return std::string(row.param.name); });
+
+struct LimitRow
+{
+    const char *name;
+    const char *file;
+    QByteArray content;
+    QStringList arguments;
+    const char *said; // %1: the folder
+};
+
+void PrintTo(const LimitRow &row, std::ostream *out) { *out << row.name; }
+
+/// No file may be larger than a few pages.
+class WithoutRoom : public Sending
+{
+protected:
+    void SetUp() override
+    {
+        Sending::SetUp();
+        m_program.setChildProcessModifier([] {
+            rlimit limit{};
+            ::getrlimit(RLIMIT_FSIZE, &limit);
+            limit.rlim_cur = 10'000; // which everybody may raise
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+        });
+    }
+};
+
+TEST_F(WithoutRoom, AProgramBesideUsEndsThatWritesOnAllTheSame)
+{
+    replaceArranger("#!/bin/sh\nexec head -c 20000 /dev/zero\n");
+    EXPECT_EQ(print({"-P", "1", document(JobPDF().pages(2, kA4))}), 1);
+    EXPECT_EQ(m_said, "qnprint: ticket.pdf: the document takes too long, or too much memory, to be put on the paper\n");
+    EXPECT_EQ(files("out"), QStringList());
+}
+
+class SendingWithoutRoom : public WithoutRoom, public testing::WithParamInterface<LimitRow>
+{};
+
+TEST_P(SendingWithoutRoom, IsToldAndLeavesNothing)
+{
+    write(GetParam().file, GetParam().content);
+    EXPECT_EQ(print(GetParam().arguments + QStringList(path(GetParam().file))), 1);
+    EXPECT_EQ(m_said, "qnprint: " + QString(GetParam().said).replace("%1", path("out")).toUtf8() + '\n');
+    EXPECT_EQ(files("out"), QStringList());
+    EXPECT_EQ(files("tmp"), QStringList());
+}
+
+QByteArray largeText() { return QByteArray("words without end\n").repeated(10'000); }
+/// Also when it is packed.
+QByteArray largePDF()
+{
+    std::minstd_rand numbers;
+    QByteArray drawing = "0 0 m\n";
+    for (int i = 0; i < 10'000; ++i)
+        drawing += QByteArray::number(static_cast<uint>(numbers()) % 595) + ' ' + QByteArray::number(i % 842) + " l\n";
+    return JobPDF().pages(1, kA4).page("/MediaBox[0 0 595 842]", drawing + "S").text();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    For, SendingWithoutRoom,
+    testing::Values(
+        LimitRow{"ADocumentAsItIs", "large.pdf", largePDF(), {}, "%1: File too large"},
+        LimitRow{"ARawDocument", "large.txt", largeText(), {"--raw"}, "%1: File too large"},
+        LimitRow{"PagesOfAText", "large.txt", largeText(), {}, "large.txt: its pages can't be kept: File too large"},
+        LimitRow{
+            "PagesOfADocument", "large.pdf", largePDF(), {"-P", "2"}, "large.pdf: there is no room for its pages"}),
     [](const auto &row) { return std::string(row.param.name); });
 
 /// The processes that a process has started.

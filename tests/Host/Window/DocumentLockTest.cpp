@@ -365,6 +365,16 @@ TEST_F(LockedDocument, ThatIsDamagedAsWellIsToldOf)
     EXPECT_TRUE(QTest::qWaitFor([&] { return message() == damaged; }, 20000)) << message().toStdString();
 }
 
+TEST_F(LockedDocument, IsNotPrintedInPartWhereThereIsNoRoomForIt)
+{
+    const QString document = locked();
+    putPrograms(QStandardPaths::findExecutable("qpdf").toUtf8() + " \"$@\" | /usr/bin/head -c 1000"); // ends well
+    open(document);
+    answer(kPassword);
+    const QString damaged = said("can't be unlocked; it is damaged, or too large", document);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return message() == damaged; }, 20000)) << message().toStdString();
+}
+
 TEST_F(LockedDocument, LeavesItsPasswordNowhere)
 {
     const QString document = locked();

@@ -69,6 +69,55 @@ TEST_F(QueueWindow, TakesTheOnlyPrinterThereIs)
     EXPECT_EQ(printers()->currentText(), "counter");
 }
 
+/// A person wants another printer than the default one, which a job has failed on.
+class AnotherPrinter : public QueueWindow
+{
+protected:
+    void SetUp() override
+    {
+        QueueWindow::SetUp();
+        ASSERT_EQ(m_server.run("lpadmin", {"-d", "counter"}), 0);
+        m_failedQueue = "counter";
+    }
+};
+
+TEST_F(AnotherPrinter, IsTheOneThatThereIsBesideTheDefault)
+{
+    ASSERT_TRUE(m_server.addQueue("second", "usb://Qn/Thermal?serial=2"));
+    openAndWait("");
+    EXPECT_EQ(m_dialog->target()->name(), "second");
+    EXPECT_EQ(printers()->currentText(), "second");
+}
+
+TEST_F(AnotherPrinter, IsForThePersonToChooseAmongSeveral)
+{
+    for (const char *name : {"second", "third"})
+        ASSERT_TRUE(m_server.addQueue(name, "usb://Qn/Thermal?serial=2"));
+    open("");
+    ASSERT_TRUE(waitFor([this] { return printers()->count() == 3; }));
+    EXPECT_EQ(message(), "Choose a printer.");
+    EXPECT_EQ(printers()->currentIndex(), -1);
+    EXPECT_FALSE(canPrint());
+    choose(*printers(), "counter"); // all the same
+    ASSERT_TRUE(waitFor([this] { return canPrint(); }));
+    EXPECT_EQ(m_dialog->target()->name(), "counter");
+}
+
+TEST_F(AnotherPrinter, IsTheDefaultWhereThatHasNotFailed)
+{
+    for (const char *name : {"second", "third"})
+        ASSERT_TRUE(m_server.addQueue(name, "usb://Qn/Thermal?serial=2"));
+    m_failedQueue = "second";
+    openAndWait("");
+    EXPECT_EQ(m_dialog->target()->name(), "counter");
+}
+
+TEST_F(AnotherPrinter, IsTheSameOnceMoreWhereThereIsNoOther)
+{
+    openAndWait("");
+    EXPECT_EQ(printers()->currentText(), "counter");
+}
+
 TEST_F(QueueWindow, LooksAgainWhenThereWasNoPrinterYet)
 {
     ASSERT_EQ(m_server.run("lpadmin", {"-x", "counter"}), 0);
