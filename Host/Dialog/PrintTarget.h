@@ -93,6 +93,8 @@ public:
     virtual bool agrees() { return true; }
     /// What a job has to say, after the panels have agreed.
     virtual OptionValues jobOptions() const { return m_serverOptions; }
+    /// Those of which nobody keeps a custom value: passcodes and passwords.
+    virtual QStringList secretOptions() const { return {}; }
 
 protected:
     PrintTarget() = default;
@@ -150,6 +152,7 @@ public:
     std::optional<Preparation> preparation() const override;
     bool agrees() override { return m_session->shouldPrint(); }
     OptionValues jobOptions() const override;
+    QStringList secretOptions() const override { return m_session->ppd().secretOptions(); }
 
 private:
     void doubtUnknownOptions(const OptionValues &asked);
