@@ -28,8 +28,7 @@ QString EnteredText::length() const
     const QString most = QString::number(m_allowed.most);
     if (m_allowed.least == 0)
         return localized("up to %1").arg(most);
-    return m_allowed.least == m_allowed.most ? most
-                                             : localized("%1 to %2").arg(QString::number(m_allowed.least), most);
+    return m_allowed.least == m_allowed.most ? most : localized("%1 to %2").arg(QString::number(m_allowed.least), most);
 }
 
 QString EnteredText::limits() const

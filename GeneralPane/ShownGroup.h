@@ -24,7 +24,7 @@ struct ShownOption
     QString title;
     QString heading; // of a group within the group, above its first option; else empty
     Appearance appearance = Appearance::menu;
-    std::vector<ShownChoice> choices; // of a check box: off, on
+    std::vector<ShownChoice> choices;   // of a check box: off, on
     std::unique_ptr<CustomEntry> entry; // null: nothing but the choices
 };
 

@@ -72,8 +72,7 @@ bool isSameValue(const CustomValue &one, const CustomValue &other)
     constexpr double kSmallest = 1e-4; // of inches or millimetres
     const auto number = one.number();
     const auto otherNumber = other.number();
-    return one.m_bare == other.m_bare ||
-           (number && otherNumber && std::abs(*number - *otherNumber) < kSmallest);
+    return one.m_bare == other.m_bare || (number && otherNumber && std::abs(*number - *otherNumber) < kSmallest);
 }
 
 ChoiceValue ChoiceValue::ofCustom(CustomValue value) { return {kCustomChoice, std::move(value)}; }

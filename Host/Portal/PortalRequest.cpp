@@ -45,9 +45,12 @@ PreparedPaper paperFromJson(const QJsonObject &object)
 
 QJsonObject toJson(const PreparedPrint &prepared)
 {
-    return {{"queue", prepared.queue},         {"copies", prepared.copies},
-            {"pages", prepared.pages},         {"options", toJson(prepared.options)},
-            {"paper", toJson(prepared.paper)}, {"lookedAt", prepared.isToBeLookedAt},
+    return {{"queue", prepared.queue},
+            {"copies", prepared.copies},
+            {"pages", prepared.pages},
+            {"options", toJson(prepared.options)},
+            {"paper", toJson(prepared.paper)},
+            {"lookedAt", prepared.isToBeLookedAt},
             {"secrets", QJsonArray::fromStringList(prepared.secrets)}};
 }
 

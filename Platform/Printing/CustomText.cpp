@@ -9,7 +9,8 @@ namespace printing {
 
 namespace {
 
-/// A job has the text behind "Custom.", in a name, which the printing system limits to 255 bytes.
+/// A job has the text behind "Custom.", in a name of the printing protocol: 255 bytes without control characters. Some
+/// servers take more, none has to.
 constexpr int kMostBytes = 248;
 constexpr auto kDots = "••••••"; // as many for whatever is entered
 
@@ -25,7 +26,6 @@ const ppd_cparam_t *textParameter(ppd_file_t &ppd, const char *option)
     return isText ? parameter : nullptr;
 }
 
-/// The printing system refuses a job with such a character in a name.
 bool isControl(QChar each) { return each < QChar(' ') || each == QChar(0x7f); }
 
 bool isDigit(QChar each) { return each >= '0' && each <= '9'; }

@@ -54,8 +54,8 @@ protected:
     /// Without a window; the exit status.
     int printUnseen(const QStringList &arguments)
     {
-        return m_server.run(QN_PROGRAM, QStringList{"--no-dialog", "--locale", "en_US"} + arguments + QStringList{kTicket},
-                            &m_said);
+        return m_server.run(
+            QN_PROGRAM, QStringList{"--no-dialog", "--locale", "en_US"} + arguments + QStringList{kTicket}, &m_said);
     }
     /// The choice and the text that the driver finds marked for a job with what the panel shows.
     std::pair<QString, QString> sent(const QString &option)
@@ -65,8 +65,7 @@ protected:
         for (auto each = settled.begin(); each != settled.end(); ++each)
             options[each.key()] = each.value().toString();
         host::CupsSink sink("office", std::nullopt);
-        const std::shared_ptr<host::Document> document =
-            value(host::Document::open(kTicket));
+        const std::shared_ptr<host::Document> document = value(host::Document::open(kTicket));
         const auto where = sink.submit({document, "ticket", 1, {}, options}, [](qint64, qint64) {}, {});
         EXPECT_TRUE(where) << (where ? "" : sentence(where).toStdString());
         const auto record = m_server.record(++m_jobs);
@@ -104,8 +103,8 @@ TEST_F(SentText, ReachesTheDriverWhereItIsSecret)
 
 TEST_F(SentText, IsNotKeptInAPresetWhereItIsSecret)
 {
-    const auto target = value(host::PPDTarget::ofQueue(
-        {}, value(host::withPPDOpened(value(host::findQueue({"office", {}}, {})))), {}));
+    const auto target =
+        value(host::PPDTarget::ofQueue({}, value(host::withPPDOpened(value(host::findQueue({"office", {}}, {})))), {}));
     target->start([] {});
     target->prepareAll();
     QWidget &view = *target->panels().front()->panelView();
