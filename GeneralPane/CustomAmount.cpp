@@ -11,6 +11,7 @@ namespace {
 constexpr double kPointsPerInch = 72;
 constexpr double kMillimetresPerInch = 25.4;
 constexpr int kDecimalsToMark = 4;
+constexpr int kWidth = 60;
 
 /// A limit may be off by this part of the last digit shown: PPDs round millimetres to points.
 constexpr double kTolerance = 0.02;
@@ -32,15 +33,15 @@ QString plain(double number, int decimals)
 
 } // namespace
 
-std::optional<CustomAmount> CustomAmount::of(ppd_file_t &ppd, const ppd_option_t &option)
+std::unique_ptr<CustomAmount> CustomAmount::of(ppd_file_t &ppd, const ppd_option_t &option,
+                                               const foundation::Bundle &bundle)
 {
     ppd_coption_t *const custom = ppdFindCustomOption(&ppd, option.keyword);
     const ppd_cparam_t *const parameter = custom ? ppdFirstCustomParam(custom) : nullptr;
     if (!parameter || !isNumber(parameter->type) || ppdNextCustomParam(custom))
-        return std::nullopt;
-    const CustomAmount amount(*parameter);
-    return amount.number(parameter->minimum) <= amount.number(parameter->maximum) ? std::optional(amount)
-                                                                                  : std::nullopt;
+        return nullptr;
+    std::unique_ptr<CustomAmount> amount(new CustomAmount(*parameter, bundle));
+    return amount->number(parameter->minimum) <= amount->number(parameter->maximum) ? std::move(amount) : nullptr;
 }
 
 double CustomAmount::number(const ppd_cplimit_t &limit) const
@@ -102,6 +103,18 @@ QString CustomAmount::largest() const
     return plain(std::floor(number(m_parameter->maximum) * scale() * digit + kTolerance) / digit, decimals());
 }
 
+QString CustomAmount::range() const { return localized("%1 to %2").arg(smallest(), largest()); }
+
+QString CustomAmount::hint() const { return QString("%1 (%2)").arg(unit(), range()).trimmed(); }
+
+QString CustomAmount::limits() const { return (range() + ' ' + unit()).trimmed(); }
+
+QString CustomAmount::refusal() const { return localized("The amount is not supported."); }
+
+int CustomAmount::widthOfField() const { return kWidth; }
+
+QString CustomAmount::currentForAll() const { return (current() + ' ' + unit()).trimmed(); }
+
 QString CustomAmount::current() const { return shown(currentNumber()); }
 
 std::optional<QString> CustomAmount::valueOf(const QString &text) const
@@ -118,7 +131,7 @@ std::optional<QString> CustomAmount::valueOf(const QString &text) const
     return plain(std::clamp(written, least, most), kDecimalsToMark);
 }
 
-QString CustomAmount::firstValue() const
+std::optional<QString> CustomAmount::firstValue() const
 {
     return valueOf(current()).value_or(plain(number(m_parameter->minimum), kDecimalsToMark));
 }

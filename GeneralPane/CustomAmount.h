@@ -1,37 +1,37 @@
 // An amount that a PPD takes beside the choices that it lists.
 #pragma once
 
-#include "Printing/ppd_api.h"
-
-#include <QString>
-
-#include <optional>
+#include "CustomEntry.h"
 
 /// A number within a range. A length in points shows in millimetres, or in inches where these are in use; no other
 /// amount has a unit that a PPD would tell.
-class CustomAmount
+class CustomAmount final : public CustomEntry
 {
 public:
-    /// Nil when the option takes no custom value, or one that is not a single number. The PPD has to outlive it.
-    static std::optional<CustomAmount> of(ppd_file_t &ppd, const ppd_option_t &option);
+    /// Null when the option takes no custom value, or one that is not a single number.
+    static std::unique_ptr<CustomAmount> of(ppd_file_t &ppd, const ppd_option_t &option,
+                                            const foundation::Bundle &bundle);
 
-    /// "mm", "in" or empty.
-    QString unit() const;
-    // As they are shown, without the unit.
-    QString smallest() const;
-    QString largest() const;
-    /// What is marked now; meaningless while no custom value is.
-    QString current() const;
-
-    /// What to mark for a text that a person has written; nil when it is no amount within the range.
-    std::optional<QString> valueOf(const QString &text) const;
-    /// What to mark at first: what was there last, else the smallest.
-    QString firstValue() const;
+    QString hint() const override;
+    QString limits() const override;
+    QString refusal() const override;
+    QString current() const override;
+    QString currentForAll() const override;
+    int widthOfField() const override;
+    std::optional<QString> valueOf(const QString &text) const override;
+    std::optional<QString> firstValue() const override;
 
 private:
-    explicit CustomAmount(const ppd_cparam_t &parameter)
-        : m_parameter(&parameter)
+    CustomAmount(const ppd_cparam_t &parameter, const foundation::Bundle &bundle)
+        : CustomEntry(bundle)
+        , m_parameter(&parameter)
     {}
+    /// "mm", "in" or empty.
+    QString unit() const;
+    /// "5 to 30", as they are shown.
+    QString range() const;
+    QString smallest() const;
+    QString largest() const;
     double number(const ppd_cplimit_t &limit) const;
     double currentNumber() const;
     int decimals() const;

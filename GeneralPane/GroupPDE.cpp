@@ -51,7 +51,7 @@ QWidget *GroupPDE::makeView()
     for (const ShownOption &option : m_group.options) {
         if (!option.heading.isEmpty())
             addHeading(option.heading, *form);
-        m_rows.emplace_back(option, *form, owner, rangeOf(option));
+        m_rows.emplace_back(option, *form, owner);
     }
     view->setWidget(content);
     setPDEItems();
@@ -66,19 +66,6 @@ void GroupPDE::addHeading(const QString &text, QFormLayout &form)
     font.setBold(true);
     heading->setFont(font);
     form.addRow(heading);
-}
-
-QString GroupPDE::limitsOf(const CustomAmount &amount) const
-{
-    return localized("%1 to %2").arg(amount.smallest(), amount.largest());
-}
-
-/// "mm (5 to 210)"
-QString GroupPDE::rangeOf(const ShownOption &option) const
-{
-    if (!option.amount)
-        return {};
-    return QString("%1 (%2)").arg(option.amount->unit(), limitsOf(*option.amount)).trimmed();
 }
 
 void GroupPDE::setPDEItems()
@@ -116,8 +103,8 @@ void GroupPDE::performAction(const QString &, QWidget *sender)
         return mark(*row, row->shownValue());
     mark(*row, row->chosenValue());
     refresh(*row);
-    if (row->showsAmount())
-        row->beginAmount();
+    if (row->showsEntry())
+        row->beginEntry();
 }
 
 void GroupPDE::controlTextDidChange(QWidget *field)
@@ -136,15 +123,14 @@ void GroupPDE::PPDOptionKeyValueDidChange(const std::optional<QString> &key, con
 bool GroupPDE::shouldPrint()
 {
     const auto wrong =
-        std::ranges::find_if(m_rows, [](const OptionRow &row) { return row.showsAmount() && !row.shownValue(); });
+        std::ranges::find_if(m_rows, [](const OptionRow &row) { return row.showsEntry() && !row.shownValue(); });
     if (wrong == m_rows.end())
         return true;
+    const ShownOption &option = wrong->option();
     toolkit::Alert alert;
     alert.addButtonWithTitle(localized("OK"));
-    alert.setMessageText(localized("The amount is not supported."));
-    const ShownOption &option = wrong->option();
-    alert.setInformativeText(
-        QString("%1: %2 %3").arg(option.title, limitsOf(*option.amount), option.amount->unit()).trimmed());
+    alert.setMessageText(option.entry->refusal());
+    alert.setInformativeText(option.title + ": " + option.entry->limits());
     alert.runModal();
     return false;
 }
@@ -152,8 +138,8 @@ bool GroupPDE::shouldPrint()
 QString GroupPDE::valueText(const ShownOption &option) const
 {
     const QString choice = marked(option.keyword);
-    if (choice == kCustom && option.amount)
-        return (option.amount->current() + ' ' + option.amount->unit()).trimmed();
+    if (choice == kCustom && option.entry)
+        return option.entry->currentForAll();
     const auto found = std::ranges::find(option.choices, choice, &ShownChoice::keyword);
     return found == option.choices.end() ? choice : found->title;
 }

@@ -31,8 +31,6 @@ private:
 
     QWidget *makeView();
     void addHeading(const QString &text, QFormLayout &form);
-    QString limitsOf(const CustomAmount &amount) const;
-    QString rangeOf(const ShownOption &option) const;
     QString valueText(const ShownOption &option) const;
     OptionRow *rowOf(const QWidget *control);
     QString marked(const QString &keyword) const;

@@ -57,7 +57,7 @@ CheckControl *checkBoxOf(const ShownOption &option, QWidget *parent)
 
 } // namespace
 
-OptionRow::OptionRow(const ShownOption &option, QFormLayout &form, toolkit::InterfaceOwner &owner, const QString &range)
+OptionRow::OptionRow(const ShownOption &option, QFormLayout &form, toolkit::InterfaceOwner &owner)
     : m_option(&option)
 {
     QWidget *const parent = form.parentWidget();
@@ -74,8 +74,8 @@ OptionRow::OptionRow(const ShownOption &option, QFormLayout &form, toolkit::Inte
             m_label->setMinimumHeight(m_control->sizeHint().height());
         form.setWidget(row, QFormLayout::LabelRole, m_label);
     }
-    if (option.amount)
-        addAmount(form, parent, range);
+    if (option.entry)
+        addEntry(form, parent);
     else
         form.setWidget(row, QFormLayout::FieldRole, m_control);
     for (QWidget *control : {m_control, static_cast<QWidget *>(m_field)})
@@ -94,24 +94,27 @@ QWidget *OptionRow::makeControl(QWidget *parent)
 }
 
 /// Beside the menu, in its row.
-void OptionRow::addAmount(QFormLayout &form, QWidget *parent, const QString &range)
+void OptionRow::addEntry(QFormLayout &form, QWidget *parent)
 {
-    m_amount = new QWidget(parent);
-    m_field = new FieldControl(m_amount);
+    const CustomEntry &entry = *m_option->entry;
+    m_entry = new QWidget(parent);
+    m_field = new FieldControl(m_entry);
     m_field->setObjectName(m_option->keyword + ".amount");
     m_field->setAccessibleName(m_option->title);
-    m_field->setFixedWidth(kWidthOfAmount);
-    m_unit = new LabelControl(m_amount);
-    m_unit->setObjectName(m_option->keyword + ".range");
-    m_unit->setStringValue(range);
-    m_field->setAccessibleDescription(range);
-    auto *const amount = new QHBoxLayout(m_amount);
-    amount->setContentsMargins(0, 0, 0, 0);
-    amount->addWidget(m_field);
-    amount->addWidget(m_unit);
+    m_field->setAccessibleDescription(entry.hint());
+    m_field->setFixedWidth(entry.widthOfField());
+    m_field->setEchoMode(entry.isSecret() ? QLineEdit::Password : QLineEdit::Normal);
+    m_field->setAllowsExpansionToolTips(!entry.isSecret());
+    m_hint = new LabelControl(m_entry);
+    m_hint->setObjectName(m_option->keyword + ".range");
+    m_hint->setStringValue(entry.hint());
+    auto *const inside = new QHBoxLayout(m_entry);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->addWidget(m_field);
+    inside->addWidget(m_hint);
     auto *const both = new QHBoxLayout;
     both->addWidget(m_control, 1);
-    both->addWidget(m_amount);
+    both->addWidget(m_entry);
     form.setLayout(form.rowCount() - 1, QFormLayout::FieldRole, both);
 }
 
@@ -124,13 +127,13 @@ void OptionRow::show(const QString &choice)
     case ShownOption::Appearance::checkBox: as<CheckControl>(m_control)->setState(std::max(index, 0)); break;
     case ShownOption::Appearance::list: as<RadioControl>(m_control)->select(index); break;
     }
-    if (!m_amount)
+    if (!m_entry)
         return;
-    const auto &amount = *m_option->amount;
-    m_amount->setVisible(showsAmount());
+    const CustomEntry &entry = *m_option->entry;
+    m_entry->setVisible(showsEntry());
     // What means the same is left as it was written.
-    if (showsAmount() && amount.valueOf(m_field->stringValue()) != amount.valueOf(amount.current()))
-        m_field->setStringValue(amount.current());
+    if (showsEntry() && entry.valueOf(m_field->stringValue()) != entry.valueOf(entry.current()))
+        m_field->setStringValue(entry.current());
 }
 
 int OptionRow::shownIndex() const
@@ -143,26 +146,26 @@ int OptionRow::shownIndex() const
     return as<PopUpControl>(m_control)->currentIndex();
 }
 
-bool OptionRow::showsAmount() const
+bool OptionRow::showsEntry() const
 {
     const int index = shownIndex();
-    return m_amount && index >= 0 && m_option->choices[static_cast<std::size_t>(index)].keyword == kCustom;
+    return m_entry && index >= 0 && m_option->choices[static_cast<std::size_t>(index)].keyword == kCustom;
 }
 
 std::optional<QString> OptionRow::shownValue() const
 {
-    if (showsAmount())
-        return m_option->amount->valueOf(m_field->stringValue());
+    if (showsEntry())
+        return m_option->entry->valueOf(m_field->stringValue());
     const int index = shownIndex();
     return index < 0 ? std::nullopt : std::optional(m_option->choices[static_cast<std::size_t>(index)].keyword);
 }
 
 std::optional<QString> OptionRow::chosenValue() const
 {
-    return showsAmount() ? m_option->amount->firstValue() : shownValue();
+    return showsEntry() ? m_option->entry->firstValue().value_or(kCustom) : shownValue();
 }
 
-void OptionRow::beginAmount()
+void OptionRow::beginEntry()
 {
     m_field->setFocus(Qt::OtherFocusReason);
     m_field->selectAll();
@@ -172,7 +175,7 @@ std::vector<PDEPanelInspection::Control> OptionRow::controls() const
 {
     std::vector<PDEPanelInspection::Control> controls;
     for (QWidget *each :
-         {static_cast<QWidget *>(m_label), m_control, static_cast<QWidget *>(m_field), static_cast<QWidget *>(m_unit)})
+         {static_cast<QWidget *>(m_label), m_control, static_cast<QWidget *>(m_field), static_cast<QWidget *>(m_hint)})
         if (each)
             controls.push_back({each->objectName(), each});
     return controls;

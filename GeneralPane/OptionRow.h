@@ -1,4 +1,4 @@
-// The controls of an option in a row of a form: a menu, a check box or a list, and the field of an amount.
+// The controls of an option in a row of a form: a menu, a check box or a list, and the field of a custom value.
 #pragma once
 
 #include "PDEPlugInInterface.h"
@@ -12,7 +12,7 @@ class OptionRow
 {
 public:
     /// Adds the row to a form, whose widgets own the controls. Option and owner are borrowed.
-    OptionRow(const ShownOption &option, QFormLayout &form, toolkit::InterfaceOwner &owner, const QString &range);
+    OptionRow(const ShownOption &option, QFormLayout &form, toolkit::InterfaceOwner &owner);
 
     const ShownOption &option() const { return *m_option; }
     bool owns(const QWidget *control) const { return control == m_control || control == m_field; }
@@ -20,25 +20,26 @@ public:
 
     /// Shows a choice, by its keyword; none when the option has no such choice.
     void show(const QString &choice);
-    /// What to mark for what the controls show; nil when that is no choice, or an amount out of its range.
+    /// What to mark for what the controls show; nil when that is no choice, or a custom value out of its limits.
     std::optional<QString> shownValue() const;
-    /// What to mark when a person has just chosen: an amount is one that can be, whatever is in the field.
+    /// What to mark when a person has just chosen: a custom value is one that can be, whatever is in the field; where
+    /// there is none yet, the custom choice itself.
     std::optional<QString> chosenValue() const;
-    bool showsAmount() const;
-    /// Lets a person write an amount at once.
-    void beginAmount();
+    bool showsEntry() const;
+    /// Lets a person write a custom value at once.
+    void beginEntry();
 
     std::vector<PDEPanelInspection::Control> controls() const;
 
 private:
     QWidget *makeControl(QWidget *parent);
-    void addAmount(QFormLayout &form, QWidget *parent, const QString &range);
+    void addEntry(QFormLayout &form, QWidget *parent);
     int shownIndex() const;
 
     const ShownOption *m_option;
     toolkit::LabelControl *m_label = nullptr; // a check box has its own text
     QWidget *m_control = nullptr;
-    QWidget *m_amount = nullptr; // field and unit; shown while the custom choice is
+    QWidget *m_entry = nullptr; // field and hint; shown while the custom choice is
     toolkit::FieldControl *m_field = nullptr;
-    toolkit::LabelControl *m_unit = nullptr;
+    toolkit::LabelControl *m_hint = nullptr;
 };

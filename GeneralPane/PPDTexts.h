@@ -21,6 +21,8 @@ public:
     QString option(const ppd_option_t &option) const;
     QString choice(const ppd_option_t &option, const ppd_choice_t &choice) const;
 
+    const foundation::Bundle &bundle() const { return m_bundle; }
+
 private:
     QString translated(const char *table, const char *of, const char *text) const;
 

@@ -43,10 +43,10 @@ bool isOfTheSystem(const QString &keyword)
            std::ranges::any_of(kOptionsOfTheDialog, [&](const char *each) { return isSame(keyword, each); });
 }
 
-/// A custom choice that stands for anything but an amount can't be made.
-std::vector<ShownChoice> choicesOf(ppd_file_t &ppd, const ppd_option_t &option, bool takesAmount, const PPDTexts &texts)
+/// A custom choice can't be made that stands for something which can't be entered.
+std::vector<ShownChoice> choicesOf(ppd_file_t &ppd, const ppd_option_t &option, bool hasEntry, const PPDTexts &texts)
 {
-    const bool leavesCustomOut = !takesAmount && ppdFindCustomOption(&ppd, option.keyword);
+    const bool leavesCustomOut = !hasEntry && ppdFindCustomOption(&ppd, option.keyword);
     std::vector<ShownChoice> choices;
     for (int i = 0; i < option.num_choices; ++i) {
         const ppd_choice_t &choice = option.choices[i];
@@ -69,11 +69,11 @@ ShownOption shown(ppd_file_t &ppd, const ppd_option_t &option, const PPDTexts &t
     ShownOption result;
     result.keyword = QString::fromUtf8(option.keyword);
     result.title = texts.option(option);
-    result.amount = CustomAmount::of(ppd, option);
-    result.choices = choicesOf(ppd, option, result.amount.has_value(), texts);
+    result.entry = CustomEntry::of(ppd, option, texts.bundle());
+    result.choices = choicesOf(ppd, option, result.entry != nullptr, texts);
     if (option.ui == PPD_UI_PICKMANY)
         result.appearance = ShownOption::Appearance::list;
-    if (result.choices.size() != 2 || result.amount)
+    if (result.choices.size() != 2 || result.entry)
         return result;
     if (areOffAndOn(result.choices[1], result.choices[0]))
         std::swap(result.choices[0], result.choices[1]);

@@ -1,7 +1,7 @@
 // What of a PPD is shown to a person, and as what.
 #pragma once
 
-#include "CustomAmount.h"
+#include "CustomEntry.h"
 
 #include <QString>
 #include <QStringList>
@@ -24,8 +24,8 @@ struct ShownOption
     QString title;
     QString heading; // of a group within the group, above its first option; else empty
     Appearance appearance = Appearance::menu;
-    std::vector<ShownChoice> choices; // of a check box: off, on
-    std::optional<CustomAmount> amount;
+    std::vector<ShownChoice> choices;   // of a check box: off, on
+    std::unique_ptr<CustomEntry> entry; // null: nothing but the choices
 };
 
 struct ShownGroup

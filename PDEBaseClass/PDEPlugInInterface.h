@@ -82,10 +82,11 @@ public:
     virtual ppd_file_t *ppdFile() const = 0; // open, never null; panels neither close it nor mark choices in it
 
     /// Marks a choice: the only way for a panel to change one. `choice` is a choice's keyword, or a number (digits, a
-    /// sign, a full stop) for an option with a custom option, within the range of its first parameter. False when
-    /// nothing could be marked; nothing has changed then. Else the choice is marked, the PPD's constraints have moved
-    /// what stood against it, and every option whose marked choice is another than before has been reported to all
-    /// panels. A choice that is marked already is reported to nobody.
+    /// sign, a full stop) for an option with a custom option, within the range of its first parameter, or "Custom." and
+    /// a text that printing::CustomText allows the option. False when nothing could be marked; nothing has changed
+    /// then. Else the choice is marked, the PPD's constraints have moved what stood against it, and every option whose
+    /// marked choice is another than before has been reported to all panels. A choice that is marked already is
+    /// reported to nobody.
     virtual bool willChangePPDOptionKeyValue(const QString &key, const QString &choice) = 0;
 };
 
@@ -189,7 +190,8 @@ public:
     virtual bool shouldShowHelp() = 0;
 
     /// The host's report that `key` is now marked with `choice`, whoever asked for it. The panel takes note, and marks
-    /// nothing: the host is in the middle of marking. `choice` is "Custom" for a number, which the PPD then has.
+    /// nothing: the host is in the middle of marking. `choice` is "Custom" for a number or a text, which the PPD then
+    /// has.
     virtual void PPDOptionKeyValueDidChange(const std::optional<QString> &key,
                                             const std::optional<QString> &choice) = 0;
 

@@ -36,6 +36,26 @@
         <translation>Dieser Wert wird nicht unterstützt.</translation>
     </message>
     <message>
+        <source>up to %1</source>
+        <translation>bis zu %1</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 Ziffern</translation>
+    </message>
+    <message>
+        <source>The text is not supported.</source>
+        <translation>Dieser Text wird nicht unterstützt.</translation>
+    </message>
+    <message>
+        <source>The code is not supported.</source>
+        <translation>Dieser Code wird nicht unterstützt.</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>

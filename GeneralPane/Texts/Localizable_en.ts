@@ -36,6 +36,26 @@
         <translation>The amount is not supported.</translation>
     </message>
     <message>
+        <source>up to %1</source>
+        <translation>up to %1</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 characters</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 digits</translation>
+    </message>
+    <message>
+        <source>The text is not supported.</source>
+        <translation>The text is not supported.</translation>
+    </message>
+    <message>
+        <source>The code is not supported.</source>
+        <translation>The code is not supported.</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>

@@ -36,6 +36,26 @@
         <translation>Este valor no se admite.</translation>
     </message>
     <message>
+        <source>up to %1</source>
+        <translation>hasta %1</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 caracteres</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 cifras</translation>
+    </message>
+    <message>
+        <source>The text is not supported.</source>
+        <translation>Este texto no se admite.</translation>
+    </message>
+    <message>
+        <source>The code is not supported.</source>
+        <translation>Este código no se admite.</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>

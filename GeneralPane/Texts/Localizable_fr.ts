@@ -36,6 +36,26 @@
         <translation>Cette valeur n’est pas prise en charge.</translation>
     </message>
     <message>
+        <source>up to %1</source>
+        <translation>jusqu’à %1</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 caractères</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 chiffres</translation>
+    </message>
+    <message>
+        <source>The text is not supported.</source>
+        <translation>Ce texte n’est pas pris en charge.</translation>
+    </message>
+    <message>
+        <source>The code is not supported.</source>
+        <translation>Ce code n’est pas pris en charge.</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>

@@ -36,6 +36,26 @@
         <translation>この値には対応していません。</translation>
     </message>
     <message>
+        <source>up to %1</source>
+        <translation>最大%1</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1文字</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1桁</translation>
+    </message>
+    <message>
+        <source>The text is not supported.</source>
+        <translation>このテキストには対応していません。</translation>
+    </message>
+    <message>
+        <source>The code is not supported.</source>
+        <translation>このコードには対応していません。</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>

@@ -36,6 +36,26 @@
         <translation>不支持此数值。</translation>
     </message>
     <message>
+        <source>up to %1</source>
+        <translation>最多 %1</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 个字符</translation>
+    </message>
+    <message>
+        <source>%1 digits</source>
+        <translation>%1 位数字</translation>
+    </message>
+    <message>
+        <source>The text is not supported.</source>
+        <translation>不支持此文本。</translation>
+    </message>
+    <message>
+        <source>The code is not supported.</source>
+        <translation>不支持此代码。</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>好</translation>
     </message>

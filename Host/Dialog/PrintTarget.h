@@ -95,6 +95,8 @@ public:
     bool agrees() { return !m_session || m_session->shouldPrint(); }
     /// What a job has to say, after the panels have agreed.
     virtual OptionValues jobOptions() const { return m_serverOptions; }
+    /// Those of which nobody keeps a custom value: passcodes and passwords.
+    virtual QStringList secretOptions() const { return {}; }
 
 protected:
     PrintTarget() = default;
@@ -150,6 +152,7 @@ public:
     Resolution resolution() const override;
     std::optional<Preparation> preparation() const override;
     OptionValues jobOptions() const override;
+    QStringList secretOptions() const override { return m_session->ppd().secretOptions(); }
 
 private:
     OptionValues forSession(const OptionValues &options) const override { return withMediaAsPageSize(options); }

@@ -70,8 +70,9 @@ std::optional<printing::Paper> CustomValue::size() const
 bool isSameValue(const CustomValue &one, const CustomValue &other)
 {
     constexpr double kSmallest = 1e-4; // of inches or millimetres
-    return one.m_bare == other.m_bare ||
-           std::abs(foundation::doubleValue(one.m_bare) - foundation::doubleValue(other.m_bare)) < kSmallest;
+    const auto number = one.number();
+    const auto otherNumber = other.number();
+    return one.m_bare == other.m_bare || (number && otherNumber && std::abs(*number - *otherNumber) < kSmallest);
 }
 
 ChoiceValue ChoiceValue::ofCustom(CustomValue value) { return {kCustomChoice, std::move(value)}; }
@@ -80,6 +81,14 @@ ChoiceValue ChoiceValue::fromText(const QString &text)
 {
     auto custom = CustomValue::fromText(text);
     return custom ? ofCustom(*std::move(custom)) : ChoiceValue{text};
+}
+
+OptionValues withoutSecrets(OptionValues options, const QStringList &secrets)
+{
+    for (const auto &[keyword, value] : options.asKeyValueRange())
+        if (secrets.contains(keyword) && CustomValue::fromText(value))
+            value = kCustomChoice;
+    return options;
 }
 
 bool isSameChoice(const QString &one, const QString &other)

@@ -1,6 +1,8 @@
 // Values that no PPD lists: a number or a text for a custom option, a size for a custom paper.
 #pragma once
 
+#include "OptionValues.h"
+
 #include "Printing/PrintSettings.h"
 
 #include <QString>
@@ -59,6 +61,9 @@ struct ChoiceValue
 
     QString text() const { return custom ? custom->text() : keyword; }
 };
+
+/// The same options for whoever keeps them: of those named in `secrets`, only that a custom value was marked.
+OptionValues withoutSecrets(OptionValues options, const QStringList &secrets);
 
 /// Whether two texts of saved options mean the same choice or value.
 bool isSameChoice(const QString &one, const QString &other);

@@ -113,6 +113,11 @@ std::optional<ChoiceValue> PPDDocument::choice(const ppd_option_t &option, const
         return ChoiceValue{text};
     if (isPageSize(option))
         return std::nullopt;
+    if (const auto allowed = customText(option)) { // bare, it could be taken for the keyword of a choice
+        auto custom = CustomValue::fromText(text);
+        return custom && allowed->allows(custom->bare()) ? std::optional(ChoiceValue::ofCustom(*std::move(custom)))
+                                                         : std::nullopt;
+    }
     ppd_coption_t *const custom = ppdFindCustomOption(m_file.get(), option.keyword);
     ppd_cparam_t *const parameter = custom ? ppdFirstCustomParam(custom) : nullptr; // the first in the file
     const CustomValue value(text);
@@ -126,7 +131,7 @@ std::optional<ChoiceValue> PPDDocument::savedChoice(const ppd_option_t &option, 
     if (auto found = choice(option, text))
         return found;
     const auto custom = CustomValue::fromText(text);
-    if (!custom)
+    if (!custom || (!isPageSize(option) && customText(option)))
         return std::nullopt;
     if (!isPageSize(option))
         return choice(option, custom->bare());
@@ -146,6 +151,20 @@ bool PPDDocument::hasCustomParameter(const QString &keyword, const char *paramet
 {
     ppd_coption_t *const custom = ppdFindCustomOption(m_file.get(), keyword.toUtf8().constData());
     return custom && ppdFindCustomParam(custom, parameter);
+}
+
+std::optional<printing::CustomText> PPDDocument::customText(const ppd_option_t &option) const
+{
+    return printing::CustomText::of(*m_file, option.keyword);
+}
+
+QStringList PPDDocument::secretOptions() const
+{
+    QStringList keywords;
+    for (const ppd_option_t *option : m_options)
+        if (const auto allowed = customText(*option); allowed && allowed->isSecret())
+            keywords.append(text(option->keyword));
+    return keywords;
 }
 
 OptionValues PPDDocument::unknownAmong(const OptionValues &options) const

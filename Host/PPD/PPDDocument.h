@@ -5,6 +5,7 @@
 #include "OptionValues.h"
 
 #include "Foundation/Or.h"
+#include "Printing/CustomText.h"
 #include "Printing/ppd_api.h"
 
 #include <QCoreApplication>
@@ -53,8 +54,8 @@ public:
     ppd_option_t *option(const QString &keyword) const;
     bool hasOption(const QString &keyword) const { return option(keyword); }
 
-    /// What marks a listed choice, or a number within the range of a custom option's first parameter; nil when the
-    /// option takes no such choice.
+    /// What marks a listed choice, a number within the range of a custom option's first parameter, or a text, with the
+    /// prefix of custom values, that a custom option allows; nil when the option takes no such choice.
     std::optional<ChoiceValue> choice(const ppd_option_t &option, const QString &text) const;
     /// The same for a text as saved options and command lines write it: custom values and sizes with their prefix too.
     std::optional<ChoiceValue> savedChoice(const ppd_option_t &option, const QString &text) const;
@@ -63,6 +64,11 @@ public:
 
     /// Whether the custom choice of an option has a parameter of that name.
     bool hasCustomParameter(const QString &keyword, const char *parameter) const;
+
+    /// What texts an option takes beside its choices; nil when it takes none.
+    std::optional<printing::CustomText> customText(const ppd_option_t &option) const;
+    /// Keywords of the options that take a passcode or a password.
+    QStringList secretOptions() const;
 
     /// Those that the PPD does not know or can't mean: they concern the server and not the panels.
     OptionValues unknownAmong(const OptionValues &options) const;

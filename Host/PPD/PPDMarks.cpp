@@ -185,7 +185,9 @@ OptionValues PPDMarks::all() const
     OptionValues values;
     for (const ppd_option_t *option : m_document.options())
         if (const ChoiceValue choice = marked(*option); !choice.keyword.isEmpty())
-            values.insert(text(option->keyword), choice.custom ? choice.custom->shortText() : choice.keyword);
+            values.insert(text(option->keyword), choice.custom && !m_document.customText(*option)
+                                                     ? choice.custom->shortText()
+                                                     : choice.text());
     return values;
 }
 
@@ -196,7 +198,8 @@ OptionValues PPDMarks::forJob() const
         const ppd_option_t &option = *m_document.options()[i];
         const ChoiceValue choice = marked(option);
         const bool isPageSize = std::strcmp(option.keyword, kPageSize) == 0;
-        const bool isSaid = isPageSize || m_declaredDefaults[i] != choice.keyword.toUtf8();
+        const bool isText = choice.custom && m_document.customText(option); // of whatever default, it is another
+        const bool isSaid = isPageSize || isText || m_declaredDefaults[i] != choice.keyword.toUtf8();
         if (!choice.keyword.isEmpty() && isSaid && canBeDriverOption(text(option.keyword)))
             values.insert(text(option.keyword), choice.text());
     }

@@ -2,6 +2,7 @@
 
 #include "Foundation/PlainText.h"
 #include "Jobs/PageRanges.h"
+#include "PPD/CustomValue.h"
 
 #include <array>
 #include <limits>
@@ -100,7 +101,8 @@ QVariantMap settingsToReturn(const QVariantMap &own, const PreparedPrint &prepar
     }
     if (!prepared.queue.isEmpty())
         settings[kPrinter] = prepared.queue;
-    for (const auto &[keyword, value] : prepared.options.asKeyValueRange())
+    const OptionValues kept = withoutSecrets(prepared.options, prepared.secrets);
+    for (const auto &[keyword, value] : kept.asKeyValueRange())
         if (canBeDriverOption(keyword))
             settings[kDriverOption + keyword] = value;
     return settings;

@@ -1,5 +1,7 @@
 #include "PortalRequest.h"
 
+#include <QJsonArray>
+
 namespace host {
 
 namespace {
@@ -43,9 +45,13 @@ PreparedPaper paperFromJson(const QJsonObject &object)
 
 QJsonObject toJson(const PreparedPrint &prepared)
 {
-    return {{"queue", prepared.queue},         {"copies", prepared.copies},
-            {"pages", prepared.pages},         {"options", toJson(prepared.options)},
-            {"paper", toJson(prepared.paper)}, {"lookedAt", prepared.isToBeLookedAt}};
+    return {{"queue", prepared.queue},
+            {"copies", prepared.copies},
+            {"pages", prepared.pages},
+            {"options", toJson(prepared.options)},
+            {"paper", toJson(prepared.paper)},
+            {"lookedAt", prepared.isToBeLookedAt},
+            {"secrets", QJsonArray::fromStringList(prepared.secrets)}};
 }
 
 PreparedPrint preparedPrintFromJson(const QJsonObject &object)
@@ -55,7 +61,8 @@ PreparedPrint preparedPrintFromJson(const QJsonObject &object)
             object["pages"].toString(),
             optionsFromJson(object["options"].toObject()),
             paperFromJson(object["paper"].toObject()),
-            object["lookedAt"].toBool()};
+            object["lookedAt"].toBool(),
+            object["secrets"].toVariant().toStringList()};
 }
 
 QJsonObject toJson(const DialogWish &wish)

@@ -50,6 +50,7 @@ struct PreparedPrint
     OptionValues options;
     PreparedPaper paper;
     bool isToBeLookedAt = false; // the dialog comes again when the document is there
+    QStringList secrets;         // options whose custom values the application does not get to keep
 };
 
 QJsonObject toJson(const PreparedPrint &prepared);

@@ -82,7 +82,8 @@ PreparedPrint preparedBy(const PrintDialog &dialog, const DialogWish &wish, bool
             dialog.amount().pages,
             target.jobOptions(),
             paperOf(target),
-            isToBeLookedAt};
+            isToBeLookedAt,
+            target.secretOptions()};
 }
 
 int tell(const QJsonObject &answer)

@@ -304,7 +304,7 @@ OptionValues DialogSession::settings(const OptionValues &ownDefaults)
     for (const QString &keyword : ownDefaults.keys())
         if (!values.contains(keyword) && marked.contains(keyword))
             values.insert(keyword, marked.value(keyword));
-    return values;
+    return withoutSecrets(std::move(values), m_ppd->secretOptions());
 }
 
 void DialogSession::restore(const OptionValues &values)

@@ -114,7 +114,8 @@ public:
     bool mark(const QString &key, const QString &choice);
 
     /// What makes this dialog another than a fresh one, to be saved under a name: every choice that is not the PPD's
-    /// own default, and those that would be another without it because they are saved as the user's own defaults.
+    /// own default, and those that would be another without it because they are saved as the user's own defaults. Of a
+    /// passcode or password only that there is one.
     OptionValues settings(const OptionValues &ownDefaults);
     /// Takes over saved settings, through the panels' own restoring; their rules have the last word.
     void restore(const OptionValues &values);

@@ -31,7 +31,7 @@ QString OptionWords::option(const QString &keyword) const
 QString OptionWords::choice(const QString &keyword, const ChoiceValue &choice) const
 {
     if (choice.custom)
-        return amount(keyword, *choice.custom).value_or(choice.custom->shortText());
+        return custom(keyword, *choice.custom);
     const QString key = m_ppd.choiceText(keyword, choice.keyword);
     const QString text = m_bundle->localizedString(key);
     return text == key ? m_ppd.choiceText(keyword, choice.keyword, m_language) : text;
@@ -40,6 +40,14 @@ QString OptionWords::choice(const QString &keyword, const ChoiceValue &choice) c
 QString OptionWords::both(const QString &keyword, const ChoiceValue &choice) const
 {
     return QString("%1 “%2”").arg(option(keyword), this->choice(keyword, choice));
+}
+
+QString OptionWords::custom(const QString &keyword, const CustomValue &value) const
+{
+    const ppd_option_t *const option = m_ppd.option(keyword);
+    if (const auto allowed = option ? m_ppd.customText(*option) : std::nullopt)
+        return allowed->shown(value.bare());
+    return amount(keyword, value).value_or(value.shortText());
 }
 
 /// A driver that takes an amount in millimetres too says so by a parameter of that name; its first is in inches.

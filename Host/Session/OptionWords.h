@@ -20,12 +20,13 @@ public:
 
     /// "Form Feed"
     QString option(const QString &keyword) const;
-    /// "End of Page"; an amount with its unit, "26 mm", where the PPD tells which.
+    /// "End of Page"; an amount with its unit, "26 mm", where the PPD tells which; a text, or dots for a secret one.
     QString choice(const QString &keyword, const ChoiceValue &choice) const;
     /// "Form Feed “End of Page”"
     QString both(const QString &keyword, const ChoiceValue &choice) const;
 
 private:
+    QString custom(const QString &keyword, const CustomValue &value) const;
     std::optional<QString> amount(const QString &keyword, const CustomValue &value) const;
 
     const PPDDocument &m_ppd;

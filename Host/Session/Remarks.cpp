@@ -56,7 +56,8 @@ QStringList Remarks::ofExpected() const
     QStringList remarks;
     const OptionValues marked = m_marks.all();
     for (const auto &[keyword, value] : m_expected.asKeyValueRange()) {
-        if (keyword == kPageSize || !m_ppd.hasOption(keyword) || isSameChoice(marked.value(keyword), value))
+        if (keyword == kPageSize || !m_ppd.hasOption(keyword) || m_marks.choiceOf(keyword) == value ||
+            isSameChoice(marked.value(keyword), value))
             continue;
         const QString sentence = m_ppd.accepts(keyword, value)
                                      ? tr("%1 is not as it was saved: the rules for the paper decide it.")

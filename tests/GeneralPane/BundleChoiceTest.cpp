@@ -180,4 +180,26 @@ TEST_F(BundleChoice, LetsTheDialogHearOfEveryAmount)
     EXPECT_EQ(m_session->differences().back().value, "50,8 mm");
 }
 
+TEST_F(BundleChoice, LetsTheDialogTellATextAndNeverACode)
+{
+    open(office()
+             .option("Pin", "PIN Printing", "None", {{"None", "Off"}})
+             .line("*CustomPin True: \"x\"\n*ParamCustomPin Code: 1 passcode 4 8")
+             .option("Mark", "Watermark", "None", {{"None", "Off"}})
+             .line("*CustomMark True: \"x\"\n*ParamCustomMark Words: 1 string 0 20"));
+    EXPECT_TRUE(m_session->mark("Pin", "Custom.0042"));
+    EXPECT_TRUE(m_session->mark("Mark", "Custom.0012"));
+    const auto rows = m_session->differences();
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows.front().title + '=' + rows.front().value, "PIN Printing=••••••");
+    EXPECT_EQ(rows.back().title + '=' + rows.back().value, "Watermark=0012");
+    const host::OptionValues kept = m_session->settings({{"Pin", "Custom.0042"}});
+    EXPECT_EQ(kept["Pin"], "Custom");
+    EXPECT_EQ(kept["Mark"], "Custom.0012");
+    EXPECT_EQ(m_session->marks().forJob()["Pin"], "Custom.0042");
+    m_session->restore(kept);
+    EXPECT_TRUE(m_session->takeRemarks().isEmpty());
+    EXPECT_EQ(m_session->marks().forJob()["Pin"], "Custom.0042"); // of this dialog, still
+}
+
 } // namespace

@@ -94,12 +94,12 @@ TEST_F(GroupPanel, LeavesOutWhatIsNoneOfAPersonsBusiness)
     EXPECT_EQ(keys("All"), QStringList{"Shown"});
 }
 
-TEST_F(GroupPanel, LeavesOutCustomValuesThatAreNoAmount)
+TEST_F(GroupPanel, LeavesOutCustomValuesThatCanNotBeEntered)
 {
     open(PPDText()
              .line("*OpenGroup: All/All")
              .option("Text", "Text", "A", {{"A", "a"}, {"B", "b"}})
-             .line("*CustomText True: \"x\"\n*ParamCustomText Words: 1 string 0 20")
+             .line("*CustomText True: \"x\"\n*ParamCustomText Words: 1 string 9 8")
              .option("Area", "Area", "A", {{"A", "a"}, {"B", "b"}})
              .line("*CustomArea True: \"x\"\n*ParamCustomArea Width: 1 points 0 72\n"
                    "*ParamCustomArea Height: 2 points 0 72")

@@ -59,8 +59,8 @@ public:
     int run(const QString &program, const QStringList &arguments, QByteArray *output = nullptr) const;
 
     /// What the driver wrote down of a job: "user", "title", "copies", "options", "size", what is in its environment
-    /// under the name, marks under their keyword, parameters under "parameter NAME". Waits for it; empty when it does
-    /// not come.
+    /// under the name, marks under their keyword, parameters under "parameter NAME", texts under "text-KEYWORD". Waits
+    /// for it; empty when it does not come.
     QMap<QString, QString> record(int job) const;
     int recordCount() const;
     /// The document that the driver got with a job that has been recorded.

@@ -11,6 +11,16 @@
 
 namespace {
 
+/// Empty for what takes none.
+std::string markedText(ppd_file_t &ppd, const ppd_option_t &option)
+{
+    ppd_coption_t *const custom = ppdFindCustomOption(&ppd, option.keyword);
+    const ppd_cparam_t *const parameter = custom ? ppdFirstCustomParam(custom) : nullptr;
+    const bool isText = parameter && (parameter->type == PPD_CUSTOM_STRING || parameter->type == PPD_CUSTOM_PASSCODE ||
+                                      parameter->type == PPD_CUSTOM_PASSWORD);
+    return isText && parameter->current.custom_string ? parameter->current.custom_string : "";
+}
+
 void recordMarks(std::ostream &out, const char *arguments)
 {
     const printing::PPDFile ppd(ppdOpenFile(std::getenv("PPD")));
@@ -20,9 +30,11 @@ void recordMarks(std::ostream &out, const char *arguments)
     cups_option_t *options = nullptr;
     const int count = cupsParseOptions(arguments, 0, &options);
     cupsMarkOptions(ppd.get(), count, options);
-    for (auto *option = ppdFirstOption(ppd.get()); option; option = ppdNextOption(ppd.get()))
+    for (auto *option = ppdFirstOption(ppd.get()); option; option = ppdNextOption(ppd.get())) {
         if (const ppd_choice_t *choice = ppdFindMarkedChoice(ppd.get(), option->keyword))
             out << "mark " << option->keyword << '=' << choice->choice << '\n';
+        out << "text-" << option->keyword << ' ' << markedText(*ppd, *option) << '\n';
+    }
     if (ppd_coption_t *custom = ppdFindCustomOption(ppd.get(), "QnPaperFeed"))
         for (auto *parameter = ppdFirstCustomParam(custom); parameter; parameter = ppdNextCustomParam(custom))
             out << "parameter " << parameter->name << '=' << parameter->current.custom_real << '\n';

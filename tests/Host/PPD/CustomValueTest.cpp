@@ -85,11 +85,11 @@ TEST_P(Choices, AreTheSameWhenTheyMeanTheSame)
     EXPECT_EQ(isSameChoice(GetParam().other, GetParam().one), GetParam().same);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Choices,
-                         testing::Values(Pair{"A4", "A4", true}, Pair{"A4", "a4", false},
-                                         Pair{"Custom.1.5", "Custom.1.50", true},
-                                         Pair{"Custom.1.02362", "Custom.1.023622", true},
-                                         Pair{"Custom.1.5", "Custom.1.51", false}, Pair{"Custom.1.5", "1.5", false},
-                                         Pair{"", "", true}, Pair{"", "A4", false}));
+INSTANTIATE_TEST_SUITE_P(
+    Of, Choices,
+    testing::Values(Pair{"A4", "A4", true}, Pair{"A4", "a4", false}, Pair{"Custom.1.5", "Custom.1.50", true},
+                    Pair{"Custom.1.02362", "Custom.1.023622", true}, Pair{"Custom.1.5", "Custom.1.51", false},
+                    Pair{"Custom.some", "Custom.other", false}, Pair{"Custom.some", "Custom.0", false},
+                    Pair{"Custom.1.5", "1.5", false}, Pair{"", "", true}, Pair{"", "A4", false}));
 
 } // namespace

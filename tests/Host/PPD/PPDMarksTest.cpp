@@ -136,6 +136,39 @@ TEST_F(Marked, GiveAJobEveryDigitAndOnlyWhatTheFileDoesNotDeclare)
     EXPECT_EQ(m_marks->all()["QnPaperFeed"], "Custom.1.02362");
 }
 
+PPDText withText(const QByteArray &standard)
+{
+    return PPDText()
+        .option("Note", "Note", standard, {{"None", "None"}, {"No", "No"}})
+        .line("*CustomNote True: \"x\"\n*ParamCustomNote Words: 1 string 3 8");
+}
+
+TEST_F(Marked, TakeATextWithItsPrefixThatIsNeitherTooShortNorTooLong)
+{
+    open(withText("None"));
+    for (const char *wrong : {"abc", "Custom.ab", "Custom.abcdefghi", "Custom.", ""})
+        EXPECT_FALSE(m_marks->mark("Note", wrong)) << wrong;
+    for (const char *text : {"Custom.abc", "Custom.0012", "Custom.None", "Custom.1.500"}) {
+        ASSERT_TRUE(m_marks->mark("Note", text)) << text;
+        EXPECT_EQ(m_marks->all()["Note"], text); // digit for digit
+        EXPECT_EQ(m_marks->forJob()["Note"], text);
+    }
+    m_marks->restore({{"Note", "Custom.saved"}});
+    EXPECT_EQ(m_marks->valueOf("Note"), "Custom.saved");
+    m_marks->restore({{"Note", "Custom.too much to keep"}});
+    EXPECT_EQ(m_marks->valueOf("Note"), "None");
+    EXPECT_FALSE(m_document->accepts("Note", "Custom.No")); // nor is it the choice
+    m_marks->adoptDefaults({{"Note", "Custom.mine"}});
+    EXPECT_EQ(m_marks->valueOf("Note"), "Custom.mine");
+}
+
+TEST_F(Marked, GiveAJobATextAlsoWhereTheFileDeclaresACustomDefault)
+{
+    open(withText("Custom"));
+    ASSERT_TRUE(m_marks->mark("Note", "Custom.abc"));
+    EXPECT_EQ(m_marks->forJob()["Note"], "Custom.abc");
+}
+
 struct SavedSize
 {
     const char *text;

@@ -137,6 +137,19 @@ INSTANTIATE_TEST_SUITE_P(
                     ReturnedRow{"cups-QnSpeed", "Fast", nullptr}, ReturnedRow{"cups-PageSize", nullptr, "RollA4"},
                     ReturnedRow{"use-color", "true", "true"}, ReturnedRow{"some-app-key", "kept", "kept"}));
 
+TEST(ReturnedSettings, SayOfACodeOnlyThatThereIsOne)
+{
+    PreparedPrint prepared = onRoll();
+    prepared.options["Pin"] = "Custom.0042";
+    prepared.options["Key"] = "None";
+    prepared.options["Mark"] = "Custom.shown";
+    prepared.secrets = QStringList{"Pin", "Key"};
+    const QVariantMap returned = host::settingsToReturn({}, host::preparedPrintFromJson(toJson(prepared)));
+    EXPECT_EQ(returned["cups-Pin"], "Custom");
+    EXPECT_EQ(returned["cups-Key"], "None");
+    EXPECT_EQ(returned["cups-Mark"], "Custom.shown");
+}
+
 TEST(ReturnedPageSetup, IsAlwaysWhole)
 {
     const QVariantMap setup = host::pageSetupToReturn({}, onRoll());
