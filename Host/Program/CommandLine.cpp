@@ -101,6 +101,17 @@ Or<PrintRequest> readRequest(const QCommandLineParser &parser, Face face)
     return request;
 }
 
+/// What a variable that nobody has set leaves of a line is not taken for nothing: it would mean another printer, or no
+/// comparison.
+Or<void> checkValues(const QCommandLineParser &parser)
+{
+    for (const char *word : {"destination", "ppd", "output", "panel", "record", "expect", "compare", "bundle",
+                             "explain", "print-settings"})
+        if (parser.isSet(word) && parser.values(word).contains(QString()))
+            return Problem{QString("--%1: needs a value").arg(word)};
+    return {};
+}
+
 struct OwnOption
 {
     const char *word;
@@ -254,6 +265,8 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
         return environment.problem();
     if (const auto owned = checkOwnOptions(parser, line.face); !owned)
         return owned.problem();
+    if (const auto values = checkValues(parser); !values)
+        return values.problem();
     if (const auto preview = readPreview(parser, line); !preview)
         return preview.problem();
     if (const auto portal = readPortal(parser, line); !portal)
@@ -267,6 +280,9 @@ Or<CommandLine> readCommandLine(const QStringList &arguments)
     line.panel = parser.value("panel");
     line.compared = parser.value("compare");
     line.script = {parser.value("record"), parser.value("expect")};
+    if (line.face == Face::script && !line.files.isEmpty())
+        return Problem{
+            QString("script: takes no file, and not %1; its lines come by standard input").arg(line.files[0])};
     line.environment = *std::move(environment);
     line.request = *std::move(request);
     line.request.language = parser.isSet("language") ? parser.value("language") : line.environment.locale.name();
