@@ -15,7 +15,6 @@ using toolkit::RadioControl;
 namespace {
 
 constexpr int kWidestLabel = 180; // the controls keep the larger part of the panel
-constexpr int kWidthOfAmount = 60;
 constexpr int kShortestMenu = 5; // in characters
 constexpr auto kCustom = "Custom";
 
