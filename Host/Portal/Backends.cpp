@@ -164,6 +164,18 @@ std::optional<QString> otherPrintBackend()
     return std::nullopt;
 }
 
+namespace {
+
+/// A line that is missing where all is well.
+QString whyNotFound()
+{
+    return std::ranges::any_of(printBackends(), isOurs)
+               ? QString()
+               : QString("\nThe portal does not find qnprint: qnprint.portal is not installed.");
+}
+
+} // namespace
+
 Or<QString> enablePortal()
 {
     const QString found = preferencesPath();
@@ -171,14 +183,15 @@ Or<QString> enablePortal()
     KeyFile file = preferences(Whose::anybodys);
     QStringList names = preferred(file);
     if (names.value(0) == kOurName)
-        return QString("Applications print with qnprint already, by %1.").arg(found);
+        return QString("Applications print with qnprint already, by %1.").arg(found) + whyNotFound();
     names.removeAll(kOurName);
     names.prepend(kOurName);
     file.setValue(kPreferred, kPrint, names.join(';'));
     if (auto written = write(path, isUsers(found) ? file.text() : kMark + file.text()); !written)
         return written.problem();
-    return QString("Written into %1:\n    %2=%3\nIt counts when the portal is started again:\n    %4")
-        .arg(path, QString(kPrint), names.join(';'), QString(kRestart));
+    return QString("Written into %1:\n    %2=%3\nIt counts when the portal, 1.18 or later, is started again:\n    %4")
+               .arg(path, QString(kPrint), names.join(';'), QString(kRestart)) +
+           whyNotFound();
 }
 
 Or<QString> disablePortal()
@@ -208,15 +221,16 @@ Or<QString> disablePortal()
 
 QString portalStatus()
 {
-    const auto backends = printBackends();
     const QString path = preferencesPath();
     const auto file = read(path);
     const bool isFirst = file && preferred(*file).value(0) == kOurName;
+    const QString missing = whyNotFound();
+    const QString byUs = missing.isEmpty() ? "Applications print with qnprint, by %1." : "%1 prefers qnprint.";
     QStringList lines{isFirst
-                          ? QString("Applications print with qnprint, by %1.").arg(path)
+                          ? byUs.arg(path)
                           : QString("Applications don't print with qnprint (“qnprint portal --enable” changes that).")};
-    if (std::ranges::none_of(backends, isOurs))
-        lines.append(QString("The portal does not find qnprint: qnprint.portal is not installed."));
+    if (!missing.isEmpty())
+        lines.append(missing.trimmed());
     const auto other = otherPrintBackend();
     lines.append(other ? QString("Other printers have the dialog of %1.").arg(*other)
                        : QString("There is no other print dialog for other printers."));

@@ -139,6 +139,7 @@ TEST_F(Portals, OfTheAdministratorStay)
     EXPECT_TRUE(answer.problem().sentence.contains("administrator"));
     EXPECT_EQ(text("system/xdg-desktop-portal/portals.conf"), ours);
     EXPECT_TRUE(host::portalStatus().startsWith("Applications print with qnprint"));
+    EXPECT_TRUE(support::value(host::enablePortal()).contains(path("system/xdg-desktop-portal/portals.conf")));
 }
 
 TEST_F(Portals, ThatCantBeWrittenAreNamed)
@@ -156,7 +157,8 @@ TEST_F(Portals, TellHowTheyStand)
     EXPECT_TRUE(host::portalStatus().contains("print with qnprint, by " + path(kUsers)));
     EXPECT_TRUE(host::portalStatus().contains("org.test.gtk"));
     QFile::remove(path("share/xdg-desktop-portal/portals/qnprint.portal"));
-    EXPECT_TRUE(host::portalStatus().contains("qnprint.portal is not installed"));
+    EXPECT_TRUE(host::portalStatus().startsWith(path(kUsers) + " prefers qnprint.\nThe portal does not find qnprint"));
+    EXPECT_TRUE(support::value(host::enablePortal()).endsWith("qnprint.portal is not installed."));
 }
 
 struct OtherRow
