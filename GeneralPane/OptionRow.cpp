@@ -15,7 +15,7 @@ using toolkit::RadioControl;
 namespace {
 
 constexpr int kWidestLabel = 180; // the controls keep the larger part of the panel
-constexpr int kShortestMenu = 5; // in characters
+constexpr int kShortestMenu = 5;  // in characters
 constexpr auto kCustom = "Custom";
 
 template <class C>
