@@ -20,6 +20,8 @@ using foundation::Problem;
 
 namespace {
 
+constexpr auto kByteOrderMark = "\xef\xbb\xbf";
+
 std::vector<PDECheck> allChecks(const PDEChecks *ofBundle)
 {
     std::vector<PDECheck> all = commonChecks();
@@ -153,7 +155,11 @@ Or<Linted> lint(const QString &path, const LintRequest &request)
     const auto content = file ? ppdContent(**file) : Or<QByteArray>(file.problem());
     if (!ppd || !content) {
         const Problem &problem = ppd ? content.problem() : ppd.problem();
-        findings.add(check::kOpen, line, withoutPath(problem, path) + "; the dialog refuses the printer");
+        const bool hasMark = content && content->startsWith(kByteOrderMark);
+        findings.add(
+            check::kOpen, line,
+            (hasMark ? "the file begins with a byte order mark, which no PPD has" : withoutPath(problem, path)) +
+                "; the dialog refuses the printer");
     } else if (checks = findAll(path, *std::move(ppd), *content, request, findings); !checks) {
         return checks.problem();
     }
