@@ -291,23 +291,24 @@ QString PanelRun::choiceAt(const QString &keyword, int position) const
                : QString();
 }
 
-/// The constraint that forbids a choice beside what is marked; else the first one on the option; null without any.
+/// The constraint that forbids a choice beside what is marked; else one that has the choice, as what it was forbidden
+/// by may have moved since; null without any.
 const PDEStatement *PanelRun::constraintOn(const QString &option, const QString &wanted) const
 {
-    const PDEStatement *first = nullptr;
+    const PDEStatement *withChoice = nullptr;
     const OptionValues marked = m_session.marks().all();
     for (const char *keyword : {"UIConstraints", "cupsUIConstraints"})
         for (const PDEStatement *each : m_index.of(keyword)) {
             const auto sides = sidesOf(*each);
-            if (std::ranges::none_of(sides, [&](const Side &side) { return side.option == option; }))
+            const auto isOn = [&](const Side &side) { return side.option == option && holds(side, wanted); };
+            const auto isMarked = [&](const Side &side) { return holds(side, marked.value(side.option)); };
+            if (std::ranges::none_of(sides, isOn))
                 continue;
-            first = first ? first : each;
-            if (std::ranges::all_of(sides, [&](const Side &side) {
-                    return holds(side, side.option == option ? wanted : marked.value(side.option));
-                }))
+            if (std::ranges::all_of(sides, [&](const Side &side) { return isOn(side) || isMarked(side); }))
                 return each;
+            withChoice = withChoice ? withChoice : each;
         }
-    return first;
+    return withChoice;
 }
 
 /// One finding an option: what leads there on one paper mostly does so on others.
@@ -317,11 +318,11 @@ void PanelRun::add(const QString &option, const QString &wanted, const QString &
         return;
     m_told.insert(option);
     const PDEStatement *const constraint = constraintOn(option, wanted);
-    const QString by =
+    const QString see =
         constraint ? QString("; see *%1: %2").arg(QString::fromUtf8(constraint->keyword), quoted(constraint->value))
                    : QString();
     m_findings.add(check::kConflict, constraint ? constraint->line : m_index.lineOfOption(option.toUtf8()),
-                   QString("%1: %2%3").arg(m_steps, message, by), option.toUtf8());
+                   QString("%1: %2%3").arg(m_steps, message, see), option.toUtf8());
 }
 
 } // namespace
