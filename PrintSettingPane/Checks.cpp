@@ -22,8 +22,8 @@ struct CheckRow
 constexpr std::array kRows{
     CheckRow{
         kHiddenFlag, PDESeverity::warning,
-        "For each option its hidden flag, with the value \"False\", letter for letter; QnRollPrinterCaseHidden has no "
-        "\"Obj\" in its name.",
+        "For each option its hidden flag, once, with the value \"False\", letter for letter; QnRollPrinterCaseHidden "
+        "has no \"Obj\" in its name.",
         "The control stays grey, whatever the option offers.", "*QnMediaObjHidden: \"False\"",
         "*QnMediaObjHidden: \"false\"", findHiddenFlags},
     CheckRow{kOffFirst, PDESeverity::error,
@@ -41,8 +41,8 @@ constexpr std::array kRows{
              "*QnFormFeedMode FF3/Retract Paper: \"<</QnFormFeedMode(FF3)>>setpagedevice\"\n", "", findChoiceCounts},
     CheckRow{
         kChoiceOrder, PDESeverity::error,
-        "Form feed: none, fixed page length, end of page, retract. Halftone: binary, dither, error diffusion. Numbers "
-        "at the end of keywords of form feed, density and speed that count upward.",
+        "Form feed: none, fixed page length, end of page, retract. Halftone: binary, dither, error diffusion; by "
+        "keywords and texts. Numbers at the end of keywords of form feed, density and speed that count upward.",
         "The panels know these choices by their position: the paper allows another one than it says, and the fixed "
         "titles are another's.",
         "*QnHalftonePattern Binary/Binary: \"<</QnHalftonePattern(Binary)>>setpagedevice\"\n"
@@ -72,7 +72,8 @@ constexpr std::array kRows{
         "*PageSize RollA4/A4, Roll: \"<</PageSize[595 842]/ImagingBBox null>>setpagedevice\"",
         "*PageSize rollA4/A4, Roll: \"<</PageSize[595 842]/ImagingBBox null>>setpagedevice\"", findPaperNames},
     CheckRow{kFeedCustom, PDESeverity::error,
-             "For QnPaperFeed a custom option with the real parameters QnPaperFeed (inches, first in the file) and mm, "
+             "For QnPaperFeed a custom option, CustomQnPaperFeed True, with the real parameters QnPaperFeed (inches, "
+             "first in the file) and mm, "
              "whose ranges agree within 1 mm and hold 26 mm, 1 inch.",
              "The amount can't be typed, is refused, or is marked as another one.",
              "*ParamCustomQnPaperFeed mm/Millimetres: 2 real 1 51",
@@ -83,14 +84,20 @@ constexpr std::array kRows{
              "The basic panel refuses to print on a paper beyond the limits, and without any on every paper.",
              "*ParamCustomPageSize Width: 1 points 72 612", "*ParamCustomPageSize Width: 1 points 72 600",
              findCustomSizes},
-    CheckRow{kOrigin, PDESeverity::warning,
-             "For each control that the PPD places, a point \"{x, y}\" on the page of 520 x 336 that has room for it.",
-             "Without one the control stands in the lower left corner; else over another one, or out of sight.",
-             "*QnPerforatedPopBtnOrigin: \"{216, 164}\"", "*QnPerforatedPopBtnOrigin: \"{216, 120}\"", findOrigins},
-    CheckRow{kOriginUnused, PDESeverity::note, "Places that are known and deliberately not applied.",
-             "Nothing: the control stays where the interface file has it.", "", "*QnDensityStrOrigin: \"{16, 296}\"",
-             findUnusedOrigins},
-    CheckRow{kUnknownOption, PDESeverity::warning, "Qn keywords that no panel reads, and keywords that are nearly one.",
+    CheckRow{
+        kOrigin, PDESeverity::warning,
+        "For each control that the PPD places, a point \"{x, y}\" from the lower left corner of a page of 520 x 336 "
+        "that has room for it: QnPerforatedStrOrigin and QnPerforatedPopBtnOrigin for the title and the menu of "
+        "perforation on the basic panel, QnMirrorChkBtnOrigin and QnBiDiPrintChkBtnOrigin for the boxes of the "
+        "advanced one.",
+        "Without one the control stands in the lower left corner; else over another one, or out of sight.",
+        "*QnPerforatedPopBtnOrigin: \"{216, 164}\"", "*QnPerforatedPopBtnOrigin: \"{216, 120}\"", findOrigins},
+    CheckRow{kOriginUnused, PDESeverity::note,
+             "Places that are known and move no control that people see: not applied, or on a page that is not shown.",
+             "Nothing: the control that people see stays where the interface file has it.", "",
+             "*QnDensityStrOrigin: \"{16, 296}\"", findUnusedOrigins},
+    CheckRow{kUnknownOption, PDESeverity::warning,
+             "Qn keywords that no panel reads, and keywords of a PPD for the panels that are nearly one.",
              "No control shows the option, and the attribute does nothing.", "*QnSpeedObjHidden: \"False\"",
              "*QnSpedeObjHidden: \"False\"", findUnknownOptions},
     CheckRow{kVersion, PDESeverity::warning, "FileVersion and ModelName.",
@@ -196,6 +203,17 @@ int File::lineOfChoice(const char *keyword, QByteArrayView choice) const
 void File::add(const char *check, int line, const QString &message, const char *option)
 {
     m_findings.push_back({.line = line, .check = check, .message = message, .option = option});
+}
+
+void File::addIfContradicted(const char *check, const char *attribute, const char *option)
+{
+    const PDEStatement *const counts = first(attribute);
+    for (const PDEStatement &each : statements())
+        if (counts && each.keyword == attribute && each.value != counts->value)
+            return add(check, each.line,
+                       QString("%1 stands again, with another value: the one in line %2 counts")
+                           .arg(attribute, QString::number(counts->line)),
+                       option);
 }
 
 } // namespace checks

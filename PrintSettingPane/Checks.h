@@ -54,6 +54,8 @@ public:
     int lineOfChoice(const char *keyword, QByteArrayView choice) const;
 
     void add(const char *check, int line, const QString &message, const char *option = "");
+    /// Where an attribute stands again and says something else.
+    void addIfContradicted(const char *check, const char *attribute, const char *option);
     std::vector<PDEFinding> take() { return std::move(m_findings); }
 
 private:
@@ -85,7 +87,7 @@ struct OriginRow
     const char *attribute;
     const char *option;
     const char *control;
-    bool isApplied;
+    bool isSeen; // false: known, and not applied to a control that people see
 };
 std::span<const OriginRow> originRows();
 

@@ -39,11 +39,11 @@ QByteArrayView bareName(QByteArrayView keyword)
     return dot > 0 ? keyword.sliced(dot + 1) : keyword;
 }
 
-/// The known name that is nearest; empty when none is near.
-QByteArray nearest(QByteArrayView name, const QByteArrayList &known)
+/// The known name that is nearest; empty when none is within so many letters.
+QByteArray nearest(QByteArrayView name, const QByteArrayList &known, qsizetype most)
 {
     QByteArray found;
-    qsizetype least = 3; // more letters are another word
+    qsizetype least = most + 1;
     const QString wanted = QString::fromUtf8(name).toLower();
     for (const QByteArray &each : known)
         if (qAbs(each.size() - name.size()) < least)
@@ -53,6 +53,14 @@ QByteArray nearest(QByteArrayView name, const QByteArrayList &known)
                 least = letters;
             }
     return found;
+}
+
+/// How many letters may be wrong in a name that is meant for a panel: without the prefix it may well be another word.
+qsizetype mostWrongLetters(const QByteArray &name, bool isForPanels)
+{
+    if (name.startsWith(kPrefix))
+        return 2;
+    return isForPanels ? 1 : -1;
 }
 
 /// The keyword that a statement is about: of an option that it begins, else its own.
@@ -71,6 +79,7 @@ void findUnknownOptions(File &file)
     constexpr int kMostNames = 1000; // the looking for near ones takes its time
     const QByteArrayList known = knownNames();
     const QSet<QByteArray> knownSet(known.cbegin(), known.cend());
+    const bool isForPanels = file.isForPanels();
     QSet<QByteArray> seen;
     for (const PDEStatement &each : file.statements()) {
         const QByteArray name = nameIn(each).toByteArray();
@@ -79,15 +88,17 @@ void findUnknownOptions(File &file)
         if (seen.size() == kMostNames)
             return;
         seen.insert(name);
-        const QByteArray near = nearest(name, known);
-        const bool isOurs = name.startsWith(kPrefix);
+        const QByteArray near = nearest(name, known, mostWrongLetters(name, isForPanels));
         if (!near.isEmpty())
             file.add(
                 kUnknownOption, each.line,
                 QString("no panel reads %1; is %2 meant?").arg(QString::fromUtf8(name), QString::fromLatin1(near)));
-        else if (isOurs)
+        else if (name.startsWith(kPrefix))
             file.add(kUnknownOption, each.line,
-                     QString("no panel reads %1: nobody can choose it").arg(QString::fromUtf8(name)));
+                     QString("no panel reads %1: %2")
+                         .arg(QString::fromUtf8(name), ppdFindOption(file.ppd(), name.constData())
+                                                           ? "nobody can choose it"
+                                                           : "it does nothing"));
     }
 }
 

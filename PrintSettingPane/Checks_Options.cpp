@@ -1,6 +1,8 @@
 // Checks of single options: flags, choices, and what the panels expect of them by position.
 #include "Checks.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 
@@ -37,6 +39,8 @@ constexpr auto kWrongCaseFlag = "QnRollPrinterCaseObjHidden";
 void findHiddenFlags(File &file)
 {
     for (const FlagRow &row : kFlagRows) {
+        if (file.option(row.option))
+            file.addIfContradicted(kHiddenFlag, row.flag, row.option);
         if (!file.option(row.option) || PDEUtilsMethod::isSupportedItem(file.ppd(), row.flag))
             continue;
         const auto value = PDEUtilsMethod::ppdAttrValStr(file.ppd(), row.flag);
@@ -161,15 +165,25 @@ namespace {
 struct OrderRow
 {
     const char *option;
-    std::vector<const char *> words; // in the keywords or texts, in the order of the choices
+    std::vector<const char *> words; // in keywords, in the order of the choices
+    std::vector<QRegularExpression> inTexts = {};
+    bool countsUpward = false; // numbers at the end of keywords do
 };
 
 const std::vector<OrderRow> &orderRows()
 {
-    static const std::vector<OrderRow> rows{{"QnFormFeedMode", {"no", "fix", "end", "ret"}},
-                                            {"QnHalftonePattern", {"binary", "dither", "diffusion"}},
-                                            {"QnDensity", {}},
-                                            {"QnSpeed", {}}};
+    const auto word = [](const char *beginning) {
+        return QRegularExpression(QString("\\b") + beginning, QRegularExpression::CaseInsensitiveOption);
+    };
+    static const std::vector<OrderRow> rows{{"QnFormFeedMode",
+                                             {"no", "fix", "end", "ret"},
+                                             {word("(no|none)\\b"), word("fix"), word("end"), word("ret")},
+                                             true},
+                                            {"QnHalftonePattern",
+                                             {"binary", "dither", "diffusion"},
+                                             {word("binary"), word("dither"), word("(error )?diffusion")}},
+                                            {"QnDensity", {}, {}, true},
+                                            {"QnSpeed", {}, {}, true}};
     return rows;
 }
 
@@ -195,6 +209,21 @@ QByteArray misplacedWord(const std::vector<QByteArray> &choices, const std::vect
     return {};
 }
 
+/// The first choice whose text says what another one is, which does not say so itself: texts are free, and one may
+/// well mention its neighbour. Null when there is none.
+const ppd_choice_t *misplacedText(const ppd_option_t &option, const std::vector<QRegularExpression> &words)
+{
+    const std::span choices(option.choices, static_cast<std::size_t>(option.num_choices));
+    const auto says = [&](std::size_t i, std::size_t word) {
+        return words[word].match(QString::fromUtf8(choices[i].text)).hasMatch();
+    };
+    for (std::size_t i = 0; i < std::min(choices.size(), words.size()); ++i)
+        for (std::size_t j = 0; j < std::min(choices.size(), words.size()); ++j)
+            if (i != j && says(i, j) && !says(i, i) && !says(j, j))
+                return &choices[i];
+    return nullptr;
+}
+
 QByteArray misplacedNumber(const std::vector<QByteArray> &choices)
 {
     int last = -1;
@@ -217,7 +246,12 @@ void findChoiceOrder(File &file)
             continue;
         const auto choices = file.choices(*option);
         const QByteArray word = misplacedWord(choices, row.words);
-        const QByteArray misplaced = word.isEmpty() ? misplacedNumber(choices) : word;
+        const QByteArray misplaced = word.isEmpty() && row.countsUpward ? misplacedNumber(choices) : word;
+        if (const ppd_choice_t *const told = misplaced.isEmpty() ? misplacedText(*option, row.inTexts) : nullptr)
+            file.add(kChoiceOrder, file.lineOfChoice(row.option, told->choice),
+                     QString("%1 of %2 says \"%3\", which the panels take for the choice of another position")
+                         .arg(QString::fromUtf8(told->choice), row.option, QString::fromUtf8(told->text)),
+                     row.option);
         if (!misplaced.isEmpty())
             file.add(kChoiceOrder, file.lineOfChoice(row.option, misplaced),
                      QString("%1 of %2 is out of order: the panels know it by its position, as another one")

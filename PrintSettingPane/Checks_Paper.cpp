@@ -90,12 +90,14 @@ std::optional<Range> rangeOf(ppd_coption_t &custom, const char *name, File &file
     return std::nullopt;
 }
 
-/// Says what is wrong with one range; the amount of the beginning has to be in it.
-void findInRange(const char *name, const Range &range, const paper::FeedUnit &unit, File &file)
+/// Says what is wrong with one range; the amount of the beginning has to be in it. Whether nothing is.
+bool isRight(const char *name, const Range &range, const paper::FeedUnit &unit, File &file)
 {
     const int line = file.lineOfChoice("ParamCustomQnPaperFeed", name);
     const QString limits = QString("%1 to %2 %3").arg(range.least).arg(range.most).arg(unit.label);
-    if (range.most <= 0 || range.most < range.least)
+    if (!std::isfinite(range.least) || !std::isfinite(range.most))
+        file.add(kFeedCustom, line, QString("the range %1 is not between two numbers").arg(limits), kFeed);
+    else if (range.most <= 0 || range.most < range.least)
         file.add(kFeedCustom, line, QString("the range %1 holds no amount: each one is refused").arg(limits), kFeed);
     else if (unit.initial < range.least || unit.initial > range.most)
         file.add(kFeedCustom, line,
@@ -104,6 +106,9 @@ void findInRange(const char *name, const Range &range, const paper::FeedUnit &un
                      .arg(unit.initial)
                      .arg(unit.label),
                  kFeed);
+    else
+        return true;
+    return false;
 }
 
 void findInParameters(ppd_coption_t &custom, File &file)
@@ -117,11 +122,10 @@ void findInParameters(ppd_coption_t &custom, File &file)
                  kFeed);
     const auto inches = rangeOf(custom, kFeed, file);
     const auto millimetres = rangeOf(custom, kMillimetreParameter, file);
-    if (inches)
-        findInRange(kFeed, *inches, paper::kInches, file);
-    if (millimetres)
-        findInRange(kMillimetreParameter, *millimetres, paper::kMillimetres, file);
-    if (!inches || !millimetres)
+    const bool areInchesRight = inches && isRight(kFeed, *inches, paper::kInches, file);
+    const bool areMillimetresRight =
+        millimetres && isRight(kMillimetreParameter, *millimetres, paper::kMillimetres, file);
+    if (!areInchesRight || !areMillimetresRight)
         return;
     const auto differs = [](double inch, double mm) {
         return std::abs(inch * printing::kMillimetresPerInch - mm) > kTolerance;
@@ -140,13 +144,17 @@ void findInParameters(ppd_coption_t &custom, File &file)
 
 void findFeedCustom(File &file)
 {
+    ppd_option_t *const option = ppdFindOption(file.ppd(), kFeed);
     if (!file.option(kFeed))
         return;
-    if (ppd_coption_t *const custom = ppdFindCustomOption(file.ppd(), kFeed))
+    // The parameters alone make one for the library, and then no choice that could be marked.
+    ppd_coption_t *const custom = ppdFindCustomOption(file.ppd(), kFeed);
+    if (custom && ppdFindChoice(option, "Custom"))
         findInParameters(*custom, file);
     else
-        file.add(kFeedCustom, file.lineOfOption(kFeed),
-                 QString("%1 has no custom option: no amount can be marked").arg(kFeed), kFeed);
+        file.add(kFeedCustom, file.lineOf(kCustomKeyword, kFeed),
+                 QString("%1 has no custom option, *%2 True: no amount can be marked").arg(kFeed, kCustomKeyword),
+                 kFeed);
 }
 
 namespace {
@@ -166,6 +174,14 @@ void findInSide(const SideRow &side, File &file)
     const double most = static_cast<double>(ppd.custom_max[side.index]);
     const int line = file.lineOfChoice("ParamCustomPageSize", side.parameter);
     const QString limits = QString("%1 from %2 to %3 points").arg(side.parameter).arg(least).arg(most);
+    const bool hasLimits = std::ranges::any_of(file.statements(), [&](const PDEStatement &each) {
+        return each.keyword == "ParamCustomPageSize" && each.option == side.parameter;
+    });
+    if (most <= 0 && !hasLimits)
+        return file.add(
+            kCustomSize, file.lineOf("CustomPageSize", "PageSize"),
+            QString("*ParamCustomPageSize %1 is missing: no paper at all is printed on").arg(side.parameter),
+            "PageSize");
     if (most <= 0 || most < least)
         return file.add(kCustomSize, line, QString("own sizes have a %1: no paper at all is printed on").arg(limits),
                         "PageSize");

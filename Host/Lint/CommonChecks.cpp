@@ -54,9 +54,15 @@ constexpr std::array kRows{
     CheckRow{check::kTranslation, PDESeverity::warning,
              "Languages that translate an option in part, and translations of what the PPD does not have.",
              "A list in two languages at once.", "*de.PageSize A5/A5: \"\"\n", ""},
-    CheckRow{check::kExtension, PDESeverity::warning, "APDialogExtension, and a bundle of that name.",
-             "The dialog takes the first bundle that it finds, whatever printers that one is for.",
+    CheckRow{check::kExtension, PDESeverity::warning,
+             "APDialogExtension, where a bundle takes care of an option of the PPD, and the bundle that it names.",
+             "The dialog takes the first bundle whose panels take care of an option, else the general one: panels "
+             "that were made for another printer, or for whatever printer.",
              "*APDialogExtension: \"Installed.plugin\"", "*APDialogExtension: \"Another.plugin\""},
+    CheckRow{check::kNoBundle, PDESeverity::note,
+             "Nothing: it tells of a PPD that no installed bundle is made for, and which panels people get.",
+             "Nothing: the dialog serves the printer. A bundle of its own could say more, in the dialog and here.", "",
+             ""},
     CheckRow{
         check::kConflict, PDESeverity::error,
         "Settings in which the panels show one choice and another one is marked, or which never settle: the real "

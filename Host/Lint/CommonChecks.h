@@ -24,6 +24,7 @@ inline constexpr auto kEmptyText = "empty-text";
 inline constexpr auto kEncoding = "encoding";
 inline constexpr auto kTranslation = "translation";
 inline constexpr auto kExtension = "extension";
+inline constexpr auto kNoBundle = "no-bundle";
 inline constexpr auto kConflict = "conflict";
 inline constexpr auto kUnchecked = "unchecked";
 

@@ -12,14 +12,14 @@ namespace host {
 struct LintRequest
 {
     QStringList files = {};
-    QString bundle = {};   // path; empty: the one that each PPD names, or the first there is
+    QString bundle = {};   // path; empty: for each PPD the one that serves it in the dialog
     QString explain = {};  // name of a check, or "all"; empty: files are looked over
     bool asJson = false;   // else lines as those of a compiler
     bool isStrict = false; // warnings count as errors do
 };
 
-/// What there is to look for: the host's own, then the bundle's. A problem as below. Without files it is the first
-/// bundle there is.
+/// What there is to look for: the host's own, then those of the bundle that looks the first file over; without files,
+/// of the first bundle there is. A problem as below.
 foundation::Or<std::vector<PDECheck>> checksFor(const LintRequest &request);
 
 struct Linted

@@ -55,7 +55,7 @@ constexpr auto kDocumentHead = R"md(# What `qnprint lint` looks for
 
 A finding is a line: `file:line: severity: what is wrong and what it leads to [check]`; with `--json` an object with the members `file`, `line`, `severity`, `check`, `message` and `option`. The exit status is 1 when there are errors, with `--strict` also when there are warnings, and 2 for wrong use. What is missing is found where it would belong: at the option, or in line 1.
 
-The first checks are common to all PPDs; those from `%1` on are the bundle's, the one that the PPD names or the one of `--bundle`. `qnprint lint --explain` shows one of them; this page is what `--explain all` shows.
+The first checks are common to all PPDs; those from `%1` on are a bundle's: of the one that serves the PPD in the dialog, or of the one of `--bundle`. A printer that no bundle is made for gets the common ones only. `qnprint lint --explain` shows one of them; this page is what `--explain all` shows.
 )md";
 
 } // namespace

@@ -35,6 +35,31 @@ std::optional<int> shownBy(const QWidget &widget)
     return std::nullopt;
 }
 
+/// What a constraint is about.
+struct Side
+{
+    QString option;
+    QString choice; // empty: whatever is not off
+};
+
+std::vector<Side> sidesOf(const PDEStatement &constraint)
+{
+    std::vector<Side> sides;
+    for (const QString &word : QString::fromUtf8(constraint.value).simplified().split(' '))
+        if (word.startsWith('*'))
+            sides.push_back({word.mid(1), {}});
+        else if (!sides.empty())
+            sides.back().choice = word;
+    return sides;
+}
+
+/// Whether a marked choice is one that a constraint is about.
+bool holds(const Side &side, const QString &marked)
+{
+    static const QStringList kOff{"", "None", "Off", "False"}; // as the library has it
+    return side.choice.isEmpty() ? !kOff.contains(marked, Qt::CaseInsensitive) : side.choice == marked;
+}
+
 class PanelRun
 {
 public:
@@ -71,20 +96,21 @@ private:
     std::vector<Picks> allPicks() const;
     void runOn(const ChosenPaper &paper, const std::vector<Picks> &all);
     bool take(const ChosenPaper &paper, const Picks &picks);
-    void look(const ChosenPaper &paper, const Picks &picks);
+    void pick(const Pick &pick);
+    void look(const ChosenPaper &paper);
     bool settles();
-    bool lookAt(const PDEOptionControl &control, const QString &steps);
-    bool lookAtAsked(const QString &steps);
-    QString stepsTo(const ChosenPaper &paper, const Picks &picks) const;
+    bool lookAt(const PDEOptionControl &control);
+    bool lookAtAsked();
     QString choiceAt(const QString &option, int position) const;
-    int constraintOn(const QString &option) const;
-    void add(const QString &option, const QString &message);
+    const PDEStatement *constraintOn(const QString &option, const QString &wanted) const;
+    void add(const QString &option, const QString &wanted, const QString &message);
 
     DialogSession &m_session;
     const std::vector<PDEOptionControl> &m_controls;
     const StatementIndex &m_index;
     Findings &m_findings;
     std::clock_t m_end;
+    QString m_steps;      // of a person, that led to what is looked at
     OptionValues m_asked; // by a panel in the last save
     QSet<QString> m_told; // once is enough
 };
@@ -167,7 +193,7 @@ void PanelRun::runOn(const ChosenPaper &paper, const std::vector<Picks> &all)
         if (std::clock() > m_end)
             return;
         if (take(paper, picks))
-            look(paper, picks);
+            look(paper);
     }
 }
 
@@ -177,16 +203,28 @@ bool PanelRun::take(const ChosenPaper &paper, const Picks &picks)
     m_session.restore({});
     m_session.changePaper(paper);
     m_session.takeRemarks(); // nobody reads them
-    for (const auto &[control, item] : picks) {
-        toolkit::PopUpControl *const menu = menuOf(*control);
-        if (!panelShows(*control) || !menu->isEnabled())
+    m_steps = "with the paper " + nameOf(paper);
+    for (const Pick &each : picks) {
+        toolkit::PopUpControl *const menu = menuOf(*each.control);
+        if (!panelShows(*each.control) || !menu->isEnabled())
             continue; // the panel has it as it has it
         menu->validateItems();
-        if (!menu->isItemEnabled(item))
+        if (!menu->isItemEnabled(each.item))
             return false;
-        menu->choose(item);
+        pick(each);
     }
     return true;
+}
+
+/// What shows already and changes nothing is no step.
+void PanelRun::pick(const Pick &pick)
+{
+    toolkit::PopUpControl *const menu = menuOf(*pick.control);
+    const bool isShown = menu->currentIndex() == pick.item;
+    const OptionValues before = isShown ? m_session.marks().all() : OptionValues();
+    menu->choose(pick.item);
+    if (!isShown || before != m_session.marks().all())
+        m_steps += QString(", then %1 of %2").arg(choiceAt(pick.control->option, pick.item), pick.control->option);
 }
 
 bool PanelRun::settles()
@@ -201,36 +239,36 @@ bool PanelRun::settles()
     return false;
 }
 
-void PanelRun::look(const ChosenPaper &paper, const Picks &picks)
+void PanelRun::look(const ChosenPaper &paper)
 {
-    const QString steps = stepsTo(paper, picks);
     if (!settles())
-        return add({}, QString("%1: what is marked is another with each save, and never settles").arg(steps));
+        return add({}, {}, "what is marked is another with each save, and never settles");
     for (const PDEOptionControl &control : m_controls)
-        if (panelShows(control) && lookAt(control, steps))
+        if (panelShows(control) && lookAt(control))
             return;
-    if (lookAtAsked(steps))
+    if (lookAtAsked())
         return;
     const QString marked = m_session.marks().pageSizeName();
     if (paper.name != printing::kUserDefinedPaper && marked != paper.name)
-        add(kPageSize, QString("%1: the page size that is marked is %2").arg(steps, marked));
+        add(kPageSize, nameOf(paper), "the page size that is marked is " + marked);
 }
 
 /// Whether there was something to find.
-bool PanelRun::lookAt(const PDEOptionControl &control, const QString &steps)
+bool PanelRun::lookAt(const PDEOptionControl &control)
 {
     const auto shown = shownBy(*widgetOf(control));
     const QString marked = m_session.marks().choiceOf(control.option);
     const QString choice = shown ? choiceAt(control.option, *shown) : QString();
     if (marked.isEmpty() || marked == kCustomChoice || choice == marked)
         return false;
-    add(control.option, QString("%1: the panel shows %2 of %3, and %4 is marked and printed")
-                            .arg(steps, choice.isEmpty() ? "no choice" : choice, control.option, marked));
+    add(control.option, choice,
+        QString("the panel shows %1 of %2, and %3 is marked and printed")
+            .arg(choice.isEmpty() ? "no choice" : choice, control.option, marked));
     return true;
 }
 
 /// The same for what a panel marks and no control shows.
-bool PanelRun::lookAtAsked(const QString &steps)
+bool PanelRun::lookAtAsked()
 {
     for (const auto &[keyword, choice] : m_asked.asKeyValueRange()) {
         const ppd_option_t *const option = m_session.ppd().option(keyword);
@@ -238,19 +276,10 @@ bool PanelRun::lookAtAsked(const QString &steps)
         const QString marked = m_session.marks().choiceOf(keyword);
         if (!value || value->custom || marked == choice)
             continue;
-        add(keyword, QString("%1: the panels mark %2 of %3, and %4 is printed").arg(steps, choice, keyword, marked));
+        add(keyword, choice, QString("the panels mark %1 of %2, and %3 is printed").arg(choice, keyword, marked));
         return true;
     }
     return false;
-}
-
-QString PanelRun::stepsTo(const ChosenPaper &paper, const Picks &picks) const
-{
-    QString steps = "with the paper " + nameOf(paper);
-    for (const auto &[control, item] : picks)
-        if (panelShows(*control) && menuOf(*control)->isEnabled())
-            steps += QString(", then %1 of %2").arg(choiceAt(control->option, item), control->option);
-    return steps;
 }
 
 /// Its keyword; empty where there is none at that position.
@@ -262,24 +291,38 @@ QString PanelRun::choiceAt(const QString &keyword, int position) const
                : QString();
 }
 
-/// The line of the first constraint on the option; else of the option.
-int PanelRun::constraintOn(const QString &option) const
+/// The constraint that forbids a choice beside what is marked; else one that has the choice, as what it was forbidden
+/// by may have moved since; null without any.
+const PDEStatement *PanelRun::constraintOn(const QString &option, const QString &wanted) const
 {
-    const QByteArray word = '*' + option.toUtf8();
+    const PDEStatement *withChoice = nullptr;
+    const OptionValues marked = m_session.marks().all();
     for (const char *keyword : {"UIConstraints", "cupsUIConstraints"})
-        for (const PDEStatement *each : m_index.of(keyword))
-            if (each->value.toByteArray().split(' ').contains(word))
-                return each->line;
-    return m_index.lineOfOption(option.toUtf8());
+        for (const PDEStatement *each : m_index.of(keyword)) {
+            const auto sides = sidesOf(*each);
+            const auto isOn = [&](const Side &side) { return side.option == option && holds(side, wanted); };
+            const auto isMarked = [&](const Side &side) { return holds(side, marked.value(side.option)); };
+            if (std::ranges::none_of(sides, isOn))
+                continue;
+            if (std::ranges::all_of(sides, [&](const Side &side) { return isOn(side) || isMarked(side); }))
+                return each;
+            withChoice = withChoice ? withChoice : each;
+        }
+    return withChoice;
 }
 
 /// One finding an option: what leads there on one paper mostly does so on others.
-void PanelRun::add(const QString &option, const QString &message)
+void PanelRun::add(const QString &option, const QString &wanted, const QString &message)
 {
     if (m_told.contains(option))
         return;
     m_told.insert(option);
-    m_findings.add(check::kConflict, constraintOn(option), message, option.toUtf8());
+    const PDEStatement *const constraint = constraintOn(option, wanted);
+    const QString see =
+        constraint ? QString("; see *%1: %2").arg(QString::fromUtf8(constraint->keyword), quoted(constraint->value))
+                   : QString();
+    m_findings.add(check::kConflict, constraint ? constraint->line : m_index.lineOfOption(option.toUtf8()),
+                   QString("%1: %2%3").arg(m_steps, message, see), option.toUtf8());
 }
 
 } // namespace

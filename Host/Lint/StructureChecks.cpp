@@ -211,13 +211,13 @@ namespace {
 void findUnknownInConstraint(const PDEStatement &statement, const CheckedText &text, Findings &findings)
 {
     const QStringList words = QString::fromUtf8(statement.value).split(' ', Qt::SkipEmptyParts);
-    qsizetype options = 0;
+    QSet<QString> options; // with itself nothing is in conflict
     for (qsizetype i = 0; i < words.size(); ++i) {
         if (!words[i].startsWith('*'))
             continue;
-        ++options;
-        QString keyword = words[i].mid(1);
+        const QString keyword = words[i].mid(1);
         const bool isCustom = keyword.startsWith("Custom") && text.ppd.hasOption(keyword.mid(6));
+        options.insert(isCustom ? keyword.mid(6) : keyword);
         const ppd_option_t *const option = text.ppd.option(isCustom ? keyword.mid(6) : keyword);
         const QString choice = i + 1 < words.size() && !words[i + 1].startsWith('*') ? words[i + 1] : QString();
         if (!option)
@@ -231,7 +231,7 @@ void findUnknownInConstraint(const PDEStatement &statement, const CheckedText &t
                     .arg(quoted(choice.toUtf8()), keyword),
                 QByteArrayView(option->keyword));
     }
-    if (options < 2)
+    if (options.size() < 2)
         findings.add(check::kConstraint, statement.line, "the constraint is not about two options: it never holds");
 }
 
