@@ -45,6 +45,9 @@ struct Credentials
     QString password;
 };
 
+/// So often a person is asked to say who they are before that counts as failed.
+inline constexpr int kMostTriesToSayWho = 3;
+
 /// Of the conversations from now on; nil for none.
 void setConversationCredentials(const std::optional<Credentials> &credentials);
 

@@ -59,11 +59,12 @@ QString value(const QString &word, const QString &text)
     return number > 0 ? QString::number(number) : text;
 }
 
-/// What can stand in a PPD as it is.
+/// What can stand in a PPD as it is, and stays so: the library gives choices that begin with "Custom" other names.
 bool isPlain(const QString &value)
 {
     constexpr qsizetype kLongest = 40;
-    static const QRegularExpression plain("^[A-Za-z0-9._-]+$", QRegularExpression::NoPatternOption);
+    static const QRegularExpression plain(
+        QRegularExpression::anchoredPattern("(?![Cc][Uu][Ss][Tt][Oo][Mm])[A-Za-z0-9._-]+"));
     return value.size() <= kLongest && plain.match(value).hasMatch();
 }
 

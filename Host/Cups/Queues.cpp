@@ -40,12 +40,25 @@ Or<Queue> findQueue(const QueueName &name, const std::stop_token &stop, const Pa
     return Problem{QStringLiteral("%1: %2").arg(owner, answer.problem().sentence)};
 }
 
+namespace {
+
+/// A panel is all that is missing where the offers are nothing, or more than a PPD may have.
+std::unique_ptr<PPDDocument> offered(const Queue &queue)
+{
+    const QByteArray text = ppdOf(queue.offers);
+    auto ppd = text.isEmpty() ? Or<std::unique_ptr<PPDDocument>>(nullptr) : PPDDocument::ofText(text);
+    return ppd ? *std::move(ppd) : nullptr;
+}
+
+} // namespace
+
 Or<OpenedQueue> withPPDOpened(Queue queue)
 {
-    const QByteArray offers = queue.ppd ? QByteArray() : ppdOf(queue.offers);
-    if (!queue.ppd && offers.isEmpty())
-        return OpenedQueue{std::move(queue), nullptr};
-    auto ppd = queue.ppd ? PPDDocument::open(queue.ppd->path) : PPDDocument::ofText(offers);
+    if (!queue.ppd) {
+        auto ppd = offered(queue);
+        return OpenedQueue{std::move(queue), std::move(ppd)};
+    }
+    auto ppd = PPDDocument::open(queue.ppd->path);
     if (!ppd)
         return Problem{QStringLiteral("%1: %2").arg(queue.name, ppd.problem().sentence)};
     return OpenedQueue{std::move(queue), *std::move(ppd)};

@@ -21,7 +21,6 @@ using foundation::UserDefaults;
 
 namespace {
 
-constexpr int kMostTries = 3;                // to say who one is
 constexpr auto kLastPrinter = "LastPrinter"; // with its preset, as `lp -d` takes it
 
 QString inUsersUnit(const printing::Paper &size)
@@ -502,7 +501,7 @@ void PrintDialog::askForCredentials(const Problem &problem, std::function<void()
     if (problem.kind != Problem::Kind::noAccess)
         return;
     setConversationCredentials(std::nullopt);
-    if (m_refusedCredentials == kMostTries)
+    if (m_refusedCredentials == kMostTriesToSayWho)
         return;
     m_again = std::move(again);
     Q_EMIT credentialsWanted(problem.sentence);

@@ -27,8 +27,6 @@ using foundation::Problem;
 
 namespace {
 
-constexpr int kMostTries = 3; // to say who one is
-
 PrintRequest requestFor(const JobWish &wish)
 {
     PrintRequest request = requestFor(wish.dialog);
@@ -148,7 +146,7 @@ Or<void> printIdentified(const JobWish &wish, const std::shared_ptr<Document> &d
                          QWidget *over)
 {
     QString user = qEnvironmentVariable("USER");
-    for (int i = 0; i < kMostTries && !printed && printed.problem().kind == Problem::Kind::noAccess; ++i) {
+    for (int i = 0; i < kMostTriesToSayWho && !printed && printed.problem().kind == Problem::Kind::noAccess; ++i) {
         CredentialsBox box(printed.problem().sentence, user, over);
         if (!over)
             setForeignParent(box, wish.dialog.parentWindow, false);

@@ -1,5 +1,5 @@
 // What a server offers for a queue without a PPD, as a PPD.
-#include "Cups/OfferedOptions.h"
+#include "Cups/Queues.h"
 
 #include "PPD/PPDDocument.h"
 
@@ -124,14 +124,47 @@ TEST(Offers, AreNothingWhereThereIsNothingToChoose)
     EXPECT_EQ(ppdOf({{"copies", {"1", "2"}, "1"}}), "");
 }
 
-TEST(Offers, PutNothingOfTheServersOwnIntoAPPD)
+struct OddRow
 {
-    const QByteArray ppd =
-        ppdOf({{"sides", {"one-sided", "two-sided-long-edge", "x/y: \"\"\n*cupsFilter: \"z\""}, "\n*Bad"},
-               {"print-quality\n*Bad", {"3", "4"}, "3"}});
-    EXPECT_FALSE(ppd.contains("Bad"));
-    EXPECT_FALSE(ppd.contains("cupsFilter"));
-    EXPECT_EQ(support::value(PPDDocument::ofText(ppd))->options().size(), 1U);
+    const char *name;
+    const char *value;
+};
+
+void PrintTo(const OddRow &row, std::ostream *out) { *out << row.name; }
+
+class OddValue : public testing::TestWithParam<OddRow>
+{};
+
+TEST_P(OddValue, OfAServerDoesNotGetIntoAPPD)
+{
+    const QStringList sound{"one-sided", "two-sided-long-edge"};
+    const QString odd = GetParam().value;
+    EXPECT_EQ(ppdOf({{"sides", sound + QStringList(odd), "one-sided"}}), ppdOf({{"sides", sound, "one-sided"}}));
+    EXPECT_EQ(ppdOf({{"sides", sound, odd}}), ppdOf({{"sides", sound, ""}}));
+    EXPECT_EQ(ppdOf({{odd, sound, "one-sided"}}), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Such, OddValue,
+                         testing::Values(OddRow{"AStatement", "x/y: \"\"\n*cupsFilter: \"z\""},
+                                         OddRow{"ALineEndBehindAWord", "word\n"}, OddRow{"ALineEnd", "\n"},
+                                         OddRow{"NoWord", ""}, OddRow{"TwoWords", "two words"}, OddRow{"ASlash", "a/b"},
+                                         OddRow{"AColon", "a:b"}, OddRow{"Letters", "b\u00e9id"},
+                                         OddRow{"WhatTheLibraryRenames", "Custom"},
+                                         OddRow{"WhatItRenamesToo", "custom.sides"}, OddRow{"OurOwn", "own"},
+                                         OddRow{"ALongWord", "a-word-of-forty-one-letters-is-one-too-many"}),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+TEST(Offers, WithoutAnEndLeaveTheQueueWithoutAPanel)
+{
+    Queue queue;
+    queue.name = "endless";
+    queue.offers = {{"sides", {}, ""}};
+    for (int i = 0; i < 100'000; ++i)
+        queue.offers[0].choices.append(QString("side-%1").arg(i));
+    const auto opened = withPPDOpened(queue);
+    EXPECT_EQ(support::sentence(opened), "(none)");
+    EXPECT_FALSE(opened->ppd);
+    EXPECT_EQ(opened->queue.name, "endless");
 }
 
 TEST(Offers, AreOptionsOfADriverAndNoWordsOfServers)

@@ -747,6 +747,23 @@ protected:
         ASSERT_TRUE(m_othersBus->registerService(kOthersName));
     }
 
+    /// A request that the others have, and have heard that nobody wants any more; they have not answered yet.
+    QDBusPendingCall handOverAndTakeBack()
+    {
+        startOthers();
+        m_others.m_isSlow = true;
+        startService();
+        auto pending = prepare();
+        EXPECT_TRUE(showsDialog());
+        m_screen.press("alt+o");
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !m_others.m_handle.isEmpty(); }, kMilliseconds));
+        OthersRequest request;
+        EXPECT_TRUE(m_othersBus->registerObject(m_others.m_handle, &request, QDBusConnection::ExportScriptableSlots));
+        takeBack(m_handles);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return request.m_isClosed; }, kMilliseconds));
+        return pending;
+    }
+
     Others m_others;
     std::unique_ptr<QDBusConnection> m_othersBus;
 };
@@ -772,32 +789,14 @@ TEST_F(HandOver, BringsTheOtherDialogAndLaterItsDocument)
 
 TEST_F(HandOver, IsTakenBackWhereItHasGone)
 {
-    startOthers();
-    m_others.m_isSlow = true;
-    startService();
-    const auto pending = prepare();
-    ASSERT_TRUE(showsDialog());
-    m_screen.press("alt+o");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_others.m_handle.isEmpty(); }, kMilliseconds));
-    OthersRequest request;
-    ASSERT_TRUE(m_othersBus->registerObject(m_others.m_handle, &request, QDBusConnection::ExportScriptableSlots));
-    takeBack(m_handles);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return request.m_isClosed; }, kMilliseconds));
+    const auto pending = handOverAndTakeBack();
     m_othersBus->send(m_others.m_pending.createReply({2U, QVariantMap()}));
     EXPECT_EQ(answerOf(pending).response, 2U);
 }
 
 TEST_F(HandOver, DoesNotComeBackWhenNobodyWantsItAnyMore)
 {
-    startOthers();
-    m_others.m_isSlow = true;
-    startService();
-    const auto pending = prepare();
-    ASSERT_TRUE(showsDialog());
-    m_screen.press("alt+o");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_others.m_handle.isEmpty(); }, kMilliseconds));
-    takeBack(m_handles);
-    QTest::qWait(100);
+    const auto pending = handOverAndTakeBack();
     m_othersBus->send(m_others.m_pending.createErrorReply(QDBusError::Failed, "taken back"));
     EXPECT_EQ(answerOf(pending).response, 1U);
     EXPECT_TRUE(showsNothing());

@@ -139,6 +139,14 @@ TEST_F(Preview, FollowsTheOptionsOfTheJob)
     EXPECT_EQ(readPicture(picture()).size, QSize(564, 846));
 }
 
+TEST_F(Preview, SaysWhatTheServerDoesBesides)
+{
+    ASSERT_EQ(preview({"-o", "number-up=2", "-o", "mirror=true"}), 0);
+    EXPECT_EQ(m_said, "qnprint: not in this picture: mirror=true\nqnprint: not in this picture: number-up=2\n");
+    ASSERT_EQ(preview({"-o", "number-up=1"}), 0);
+    EXPECT_EQ(m_said, "");
+}
+
 struct RefusalRow
 {
     QStringList options;

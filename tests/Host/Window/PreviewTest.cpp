@@ -408,6 +408,9 @@ TEST_F(Preview, SaysInTheWordsOfThePanelWhatItDoesNotShow)
     settle();
     EXPECT_TRUE(find<QLabel>("unseen")->isVisible());
     EXPECT_EQ(find<QLabel>("unseen")->text(), "Not in this picture: Orientation: Landscape");
+    m_dialog->chooseDocuments({});
+    settle();
+    EXPECT_FALSE(find<QLabel>("unseen")->isVisible()); // there is none
 }
 
 TEST_F(Preview, GoesWithTheWindowInTheMiddleOfItsWork)
