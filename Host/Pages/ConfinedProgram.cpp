@@ -82,18 +82,23 @@ std::optional<QByteArray> ConfinedProgram::output(const std::stop_token &stop)
 {
     const QDeadlineTimer deadline(m_allowance.time);
     QByteArray output;
-    while (m_process.state() != QProcess::NotRunning && !stop.stop_requested() && !deadline.hasExpired()) {
-        m_process.waitForFinished(kLook);
+    bool isWanted = true;
+    const auto look = [&] {
         readComplaints();
         output += m_process.readAllStandardOutput();
-        if (output.size() > m_allowance.output)
-            return std::nullopt;
+        isWanted = isWanted && output.size() <= m_allowance.output && !stop.stop_requested() && !deadline.hasExpired();
+        if (!isWanted)
+            m_process.kill();
+    };
+    // Waiting goes on, whatever its time, for as long as there is more to be read.
+    const QObject whileWaiting;
+    QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &whileWaiting, look);
+    QObject::connect(&m_process, &QProcess::readyReadStandardError, &whileWaiting, look);
+    while (m_process.state() != QProcess::NotRunning && isWanted) {
+        m_process.waitForFinished(kLook);
+        look();
     }
-    if (m_process.state() != QProcess::NotRunning)
-        return std::nullopt;
-    readComplaints();
-    output += m_process.readAllStandardOutput();
-    return output.size() > m_allowance.output ? std::nullopt : std::optional(std::move(output));
+    return isWanted ? std::optional(std::move(output)) : std::nullopt;
 }
 
 std::optional<int> ConfinedProgram::status() const

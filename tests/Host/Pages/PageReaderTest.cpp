@@ -316,6 +316,18 @@ TEST_F(Programs, AreEndedWhenTheySayTooMuch)
     EXPECT_EQ(saidOf(draw()), kTakesTooLong);
 }
 
+/// Several of them write faster than one reads, so there is always more to be read.
+TEST_F(Programs, AreEndedAlthoughTheyNeverStopTalking)
+{
+    m_patience = 300ms;
+    const QByteArray forEver = "/usr/bin/yes";
+    for (const QByteArray &stream : {QByteArray(), QByteArray(" >&2")}) {
+        const QByteArray talker = forEver + stream;
+        put("pdfinfo", talker + " & " + talker + " & " + talker + " & exec " + talker);
+        EXPECT_EQ(saidOf(sizes()), kTakesTooLong) << stream.toStdString();
+    }
+}
+
 TEST_F(Programs, AreNotBelievedWhenTheyFail)
 {
     put("pdfinfo", "echo 'Page 1 size: 3 x 4 pts'; exit 1");
