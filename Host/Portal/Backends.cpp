@@ -211,8 +211,10 @@ Or<QString> disablePortal()
         file->setValue(kPreferred, kPrint, names.join(';'));
     const QByteArray own = kMark;
     const bool isAsMade = file->text() == own + preferences(Whose::others).text(); // nobody has changed it since
-    if (isAsMade && QFile::remove(path))
+    if (isAsMade && QFile::remove(path)) {
+        QDir().rmdir(userFolder()); // stays where there is more in it
         return QString("Removed: %1\nIt counts when the portal is started again:\n    %2").arg(path, QString(kRestart));
+    }
     if (auto written = write(path, file->text()); !written)
         return written.problem();
     return QString("Taken out of %1: %2\nIt counts when the portal is started again:\n    %3")

@@ -79,8 +79,18 @@ TEST_F(Portals, AreAsBeforeWhenItIsTakenBack)
     write(kDesktops, "[preferred]\ndefault=gnome;gtk;\n");
     support::value(host::enablePortal());
     const QString told = support::value(host::disablePortal());
-    EXPECT_FALSE(QFile::exists(path(kUsers)));
+    EXPECT_FALSE(QFileInfo(path(kUsers)).dir().exists());
     EXPECT_TRUE(told.contains(path(kUsers))) << told.toStdString();
+}
+
+TEST_F(Portals, KeepWhatElseAUserHasInTheFolder)
+{
+    constexpr auto kOther = "config/xdg-desktop-portal/notes";
+    write(kOther, "mine");
+    support::value(host::enablePortal());
+    support::value(host::disablePortal());
+    EXPECT_FALSE(QFile::exists(path(kUsers)));
+    EXPECT_EQ(text(kOther), "mine");
 }
 
 TEST_F(Portals, KeepAUsersOwnFile)
