@@ -168,7 +168,13 @@ Or<void> SavedOptions::save(const QString &preset, const OptionValues &options) 
     return replace(preset, &options);
 }
 
-Or<void> SavedOptions::remove(const QString &preset) const { return replace(preset, nullptr); }
+Or<void> SavedOptions::remove(const QString &preset) const
+{
+    auto removed = replace(preset, nullptr);
+    if (removed && presets().contains(preset, Qt::CaseInsensitive))
+        return Problem{tr("%1: has the preset “%2” for all users; it stays").arg(systemFile(), preset)};
+    return removed;
+}
 
 Or<void> SavedOptions::replace(const QString &preset, const OptionValues *options) const
 {

@@ -1003,6 +1003,10 @@
         <source>%1: can&apos;t hold a value with a line end</source>
         <translation>%1: ein Wert mit Zeilenende geht nicht hinein</translation>
     </message>
+    <message>
+        <source>%1: has the preset “%2” for all users; it stays</source>
+        <translation>%1: hat die Vorlage „%2“ für alle Benutzer; sie bleibt</translation>
+    </message>
 </context>
 <context>
     <name>host::ServerConnection</name>

@@ -1003,6 +1003,10 @@
         <source>%1: can&apos;t hold a value with a line end</source>
         <translation>%1: no admite un valor con salto de línea</translation>
     </message>
+    <message>
+        <source>%1: has the preset “%2” for all users; it stays</source>
+        <translation>%1: tiene el ajuste «%2» para todos los usuarios; se queda</translation>
+    </message>
 </context>
 <context>
     <name>host::ServerConnection</name>

@@ -1003,6 +1003,10 @@
         <source>%1: can&apos;t hold a value with a line end</source>
         <translation>%1 : ne peut contenir une valeur avec un saut de ligne</translation>
     </message>
+    <message>
+        <source>%1: has the preset “%2” for all users; it stays</source>
+        <translation>%1 : contient le préréglage « %2 » pour tous les utilisateurs ; il reste</translation>
+    </message>
 </context>
 <context>
     <name>host::ServerConnection</name>

@@ -1003,6 +1003,10 @@
         <source>%1: can&apos;t hold a value with a line end</source>
         <translation>%1：改行を含む値は保存できません</translation>
     </message>
+    <message>
+        <source>%1: has the preset “%2” for all users; it stays</source>
+        <translation>%1: プリセット「%2」はすべてのユーザー用で、そのまま残ります</translation>
+    </message>
 </context>
 <context>
     <name>host::ServerConnection</name>

@@ -1003,6 +1003,10 @@
         <source>%1: can&apos;t hold a value with a line end</source>
         <translation>%1：不能保存含换行的值</translation>
     </message>
+    <message>
+        <source>%1: has the preset “%2” for all users; it stays</source>
+        <translation>%1：含有供所有用户使用的预设“%2”；它会保留</translation>
+    </message>
 </context>
 <context>
     <name>host::ServerConnection</name>

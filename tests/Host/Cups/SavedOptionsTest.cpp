@@ -118,6 +118,19 @@ TEST_F(Saved, OfTheUserCountForMoreThanThoseOfTheSystem)
     EXPECT_EQ(m_saved.presets(), QStringList("all"));
 }
 
+TEST_F(Saved, AreNotDeletedWhereTheyAreTheSystems)
+{
+    const QByteArray systems = "Dest counter/All QnSpeed=S1\n";
+    write("system/lpoptions", systems);
+    for (const char *own : {"Dest counter/all QnSpeed=S2\n", ""}) {
+        write(".cups/lpoptions", own);
+        EXPECT_EQ(sentence(m_saved.remove("all")),
+                  m_home.filePath("system/lpoptions: has the preset “all” for all users; it stays"));
+        EXPECT_EQ(content(), "");
+        EXPECT_EQ(m_saved.options("all"), (OptionValues{{"QnSpeed", "S1"}}));
+    }
+}
+
 struct Value
 {
     const char *text;
