@@ -68,11 +68,15 @@ QImage onWhite(QImage image)
     return image;
 }
 
-/// What an image of more pixels is read as: all of it, with fewer.
-QSize bearable(QSize size)
+/// All of an image of more pixels, with fewer. No matter for the readers: some of Qt's copy an image that has
+/// transparent parts for it.
+QImage bearable(QImage image)
 {
-    const double pixels = double(size.width()) * size.height();
-    return pixels <= kMostPixels ? size : (QSizeF(size) * std::sqrt(kMostPixels / pixels)).toSize();
+    const double pixels = double(image.width()) * image.height();
+    if (pixels <= kMostPixels)
+        return image;
+    const QSize size = (QSizeF(image.size()) * std::sqrt(kMostPixels / pixels)).toSize();
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 /// What a file without a resolution says is the screen's, which is no matter of the paper.
@@ -103,7 +107,7 @@ void draw(PDFPages &pages, QImage image, QSizeF own)
     const double scale = std::min({1.0, area.width() / own.width(), area.height() / own.height()});
     const QSizeF size = own * scale;
     const QPointF corner((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
-    pages.painter().drawImage(QRectF(corner, size), onWhite(std::move(image)));
+    pages.painter().drawImage(QRectF(corner, size), bearable(onWhite(std::move(image))));
 }
 
 Or<void> drawNext(PDFPages &pages, QImageReader &reader, const QString &title)
@@ -111,7 +115,6 @@ Or<void> drawNext(PDFPages &pages, QImageReader &reader, const QString &title)
     const QSize size = reader.size();
     if (isTooLarge(size))
         return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(title)};
-    reader.setScaledSize(size == bearable(size) ? QSize() : bearable(size));
     const bool isOnItsSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
     QImage image = reader.read();
     if (image.isNull())
