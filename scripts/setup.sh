@@ -4,7 +4,7 @@
 build_packages=(cmake ninja-build g++ qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev
     libgl1-mesa-dev libcups2-dev libgnutls28-dev libpng-dev libqpdf-dev fonts-dejavu-core)
 test_packages=(libgtest-dev poppler-utils qpdf cups cups-daemon cups-client fonts-noto-cjk xvfb openbox xdotool dbus at-spi2-core
-    libatspi2.0-dev pkg-config qt6-translations-l10n libpam-wrapper groff-base zsh fish adwaita-qt6
+    libatspi2.0-dev pkg-config qt6-translations-l10n libpam-wrapper groff-base zsh fish adwaita-qt6 qt6-image-formats-plugins
     xdg-desktop-portal xdg-desktop-portal-gtk bubblewrap python3-gi python3-gi-cairo gir1.2-gtk-3.0 gir1.2-gtk-4.0 x11-utils)
 package_packages=(dpkg-dev debhelper cups fakeroot lintian mmdebstrap appstream desktop-file-utils git)
 lint_packages=(clang-format-19 clang-tidy-19 shellcheck python3)

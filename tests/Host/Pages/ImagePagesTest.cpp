@@ -201,6 +201,14 @@ TEST_F(ImagePages, OfATIFFAreAllOfItsOrWhatIsMissingIsSaid)
         EXPECT_EQ(pdf(tiff(3), kSheet).pages(), 3);
 }
 
+TEST_F(ImagePages, OfATIFFAreAThousandAtMost)
+{
+    if (!QImageReader::supportedImageFormats().contains("tif"))
+        GTEST_SKIP() << "Qt's further image formats are not installed";
+    EXPECT_EQ(pdf(tiff(1000), kSheet).pages(), 1000);
+    EXPECT_EQ(refusal(tiff(1001), "scans.tif"), "scans.tif: the image is too large to be laid out");
+}
+
 TEST_F(ImagePages, ThatAreDamagedAreNamed)
 {
     const support::RecordMessages remarks; // of the libraries that read them
