@@ -13,7 +13,8 @@ namespace support {
 class QueueWindow : public support::WindowTest
 {
 protected:
-    static constexpr int kPatience = 20000; // in milliseconds
+    static constexpr int kPatience =
+        60'000; // in milliseconds: a long text takes a quarter of that under the sanitizers
 
     void SetUp() override
     {

@@ -20,7 +20,7 @@ using State = PrintDialog::State;
 
 namespace {
 
-constexpr int kMilliseconds = 20000;
+constexpr int kMilliseconds = 120'000; // a large PPD takes a sixth of that under the sanitizers
 
 /// What is known of the files that the library is given to open, and what becomes of them.
 struct Openings
