@@ -107,7 +107,8 @@ void draw(PDFPages &pages, QImage image, QSizeF own)
     const double scale = std::min({1.0, area.width() / own.width(), area.height() / own.height()});
     const QSizeF size = own * scale;
     const QPointF corner((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
-    pages.painter().drawImage(QRectF(corner, size), bearable(onWhite(std::move(image))));
+    image = bearable(onWhite(std::move(image))); // by itself: what these are given lasts as long as the statement
+    pages.painter().drawImage(QRectF(corner, size), image);
 }
 
 Or<void> drawNext(PDFPages &pages, QImageReader &reader, const QString &title)
