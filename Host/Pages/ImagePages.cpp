@@ -2,6 +2,7 @@
 #include "ImagePages.h"
 
 #include "PDFPages.h"
+#include "TIFFParts.h"
 
 #include "Printing/Units.h"
 
@@ -21,12 +22,18 @@ using foundation::Problem;
 namespace {
 
 constexpr qsizetype kMostBytes = 128 << 20; // of the file
-constexpr int kMostMegabytes = 256;         // of the picture
+constexpr int kMostMegabytes = 256;         // of the picture; of a TIFF, of a part of it and the file together
+constexpr qint64 kMostBytesOfPicture = qint64{kMostMegabytes} << 20;
 constexpr int kMostPages = 1000;
 constexpr double kMostPixels = 36e6;     // A4 at 600 dots an inch; no head has dots for more, and memory would be short
 constexpr double kLowestResolution = 72; // in dots an inch, as those below
 constexpr double kHighestResolution = 1200;
 constexpr double kUsualResolution = 96;
+
+Problem tooLarge(const Document &image)
+{
+    return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(image.title())};
+}
 
 Or<QByteArray> contentOf(Document &image)
 {
@@ -40,7 +47,7 @@ Or<QByteArray> contentOf(Document &image)
             break;
         content += *part;
         if (content.size() > kMostBytes)
-            return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(image.title())};
+            return tooLarge(image);
     }
     if (image.hasChanged())
         return Problem{PDFPages::tr("%1: has changed while it was read").arg(image.title())};
@@ -51,7 +58,7 @@ Or<QByteArray> contentOf(Document &image)
 bool isTooLarge(QSize size)
 {
     constexpr qint64 kBytesOfPixel = 4;
-    return kBytesOfPixel * size.width() * size.height() > qint64(kMostMegabytes) << 20;
+    return kBytesOfPixel * size.width() * size.height() > kMostBytesOfPicture;
 }
 
 /// Transparent parts are paper. Painted beneath the image, as a copy would take as much memory again.
@@ -101,27 +108,31 @@ QSizeF ownSize(const QImage &image, QSize size, bool isOnItsSide)
     return {upright.width() * PDFPages::kUnitsPerInch / across, upright.height() * PDFPages::kUnitsPerInch / down};
 }
 
-void draw(PDFPages &pages, QImage image, QSizeF own)
+void draw(PDFPages &pages, const QImage &image, QSizeF own)
 {
     const QSizeF area = pages.area();
     const double scale = std::min({1.0, area.width() / own.width(), area.height() / own.height()});
     const QSizeF size = own * scale;
     const QPointF corner((area.width() - size.width()) / 2, (area.height() - size.height()) / 2);
-    image = bearable(onWhite(std::move(image))); // by itself: what these are given lasts as long as the statement
     pages.painter().drawImage(QRectF(corner, size), image);
 }
 
-Or<void> drawNext(PDFPages &pages, QImageReader &reader, const QString &title)
+Or<void> drawNext(PDFPages &pages, QImageReader &reader, const Document &image)
 {
     const QSize size = reader.size();
     if (isTooLarge(size))
-        return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(title)};
+        return tooLarge(image);
     const bool isOnItsSide = reader.transformation() & QImageIOHandler::TransformationRotate90;
-    QImage image = reader.read();
-    if (image.isNull())
-        return Problem{PDFPages::tr("%1: the image is damaged").arg(title)};
-    const QSizeF own = ownSize(image, size, isOnItsSide);
-    draw(pages, std::move(image), own);
+    QImage picture = reader.read();
+    if (picture.isNull())
+        return Problem{PDFPages::tr("%1: the image is damaged").arg(image.title())};
+    const QSizeF own = ownSize(picture, size, isOnItsSide);
+    // A step each: what one is given lasts as long as the statement. Without memory for it nothing comes of a step.
+    picture = onWhite(std::move(picture));
+    picture = bearable(std::move(picture));
+    if (picture.isNull())
+        return tooLarge(image);
+    draw(pages, picture, own);
     return {};
 }
 
@@ -135,13 +146,13 @@ Or<std::shared_ptr<Document>> drawAll(QImageReader &reader, const Document &imag
     for (int page = 1;; ++page) {
         if (stop.stop_requested())
             return Problem{PDFPages::tr("cancelled")};
-        if (const auto drawn = drawNext(**pages, reader, image.title()); !drawn)
+        if (const auto drawn = drawNext(**pages, reader, image); !drawn)
             return drawn.problem();
         reader.device()->seek(0); // where Qt's reader of TIFF has to find it to count the pages
         if (!hasPages || !reader.jumpToNextImage())
             return (*pages)->finish();
         if (page == kMostPages)
-            return Problem{PDFPages::tr("%1: the image is too large to be laid out").arg(image.title())};
+            return tooLarge(image);
         (*pages)->newPage();
     }
 }
@@ -158,6 +169,8 @@ Or<std::shared_ptr<Document>> imagePages(Document &image, const Sheet &sheet, co
     auto content = contentOf(image);
     if (!content)
         return content.problem();
+    if (format == "tif" && largestPartOfTIFF(*content, kMostPages + 1) + content->size() > kMostBytesOfPicture)
+        return tooLarge(image);
     QBuffer buffer(&*content);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);

@@ -10,7 +10,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <random>
+#include <sys/resource.h>
+#include <unistd.h>
+#include <vector>
 
 using host::laidOut;
 using host::Sheet;
@@ -174,20 +179,37 @@ QByteArray number(quint32 value, int bytes)
     return little;
 }
 
-/// Each page is one black pixel.
-QByteArray tiff(int pages)
+struct Entry
 {
-    QByteArray content("II*\0\x08\0\0\0", 8);
+    quint32 tag;
+    quint32 value;
+    quint32 type = 4; // a number of 32 bits
+    quint32 count = 1;
+};
+
+/// Each page is one black pixel. `told`: what the last one says besides, or in place of that.
+QByteArray tiff(int pages, const std::vector<Entry> &told = {}, bool isBigEndian = false)
+{
+    const auto number = [isBigEndian](quint32 value, int bytes) {
+        QByteArray text = ::number(value, bytes);
+        if (isBigEndian)
+            std::reverse(text.begin(), text.end());
+        return text;
+    };
+    QByteArray content = (isBigEndian ? "MM" : "II") + number(42, 2) + number(8, 4);
     for (int i = 0; i < pages; ++i) {
-        constexpr int kEntries = 9;
-        const auto end = static_cast<quint32>(content.size()) + 2 + 12 * kEntries + 4;
-        QByteArray page = number(kEntries, 2);
-        const std::pair<quint32, quint32> entries[kEntries] = {{256, 1},   {257, 1}, {258, 8}, {259, 1}, {262, 1},
-                                                               {273, end}, {277, 1}, {278, 1}, {279, 1}};
+        std::map<quint32, Entry> entries;
+        for (const quint32 one : {256, 257, 259, 262, 277, 278, 279})
+            entries[one] = {one, 1};
+        entries[258] = {258, 8};
+        entries[273] = {273, static_cast<quint32>(content.size()) + 2}; // black is 0
+        for (const Entry &entry : i + 1 < pages ? std::vector<Entry>() : told)
+            entries[entry.tag] = entry;
+        QByteArray page = number(static_cast<quint32>(entries.size()), 2);
         for (const auto &[tag, entry] : entries)
-            page += number(tag, 2) + number(4, 2) + number(1, 4) + number(entry, 4); // one number of 32 bits
-        page += number(i + 1 < pages ? end + 2 : 0, 4) + QByteArray(2, '\0');
+            page += number(tag, 2) + number(entry.type, 2) + number(entry.count, 4) + number(entry.value, 4);
         content += page;
+        content += number(i + 1 < pages ? static_cast<quint32>(content.size()) + 4 : 0, 4);
     }
     return content;
 }
@@ -198,7 +220,8 @@ TEST_F(ImagePages, OfATIFFAreAllOfItsOrWhatIsMissingIsSaid)
         EXPECT_EQ(refusal(tiff(3), "scan.tif"),
                   "scan.tif: this kind of image can't be read; Qt's further image formats are not installed");
     else
-        EXPECT_EQ(pdf(tiff(3), kSheet).pages(), 3);
+        for (const bool isBigEndian : {false, true})
+            EXPECT_EQ(pdf(tiff(3, {}, isBigEndian), kSheet).pages(), 3);
 }
 
 TEST_F(ImagePages, OfATIFFAreAThousandAtMost)
@@ -207,6 +230,50 @@ TEST_F(ImagePages, OfATIFFAreAThousandAtMost)
         GTEST_SKIP() << "Qt's further image formats are not installed";
     EXPECT_EQ(pdf(tiff(1000), kSheet).pages(), 1000);
     EXPECT_EQ(refusal(tiff(1001), "scans.tif"), "scans.tif: the image is too large to be laid out");
+}
+
+struct PartRow
+{
+    const char *name;
+    std::vector<Entry> told;
+};
+void PrintTo(const PartRow &row, std::ostream *out) { *out << row.name; }
+
+class VastPart : public ImagePages, public testing::WithParamInterface<PartRow>
+{};
+
+/// A reader would take the memory at once.
+TEST_P(VastPart, OfATIFFIsNotRead)
+{
+    if (!QImageReader::supportedImageFormats().contains("tif"))
+        GTEST_SKIP() << "Qt's further image formats are not installed";
+    for (const bool isBigEndian : {false, true})
+        EXPECT_EQ(refusal(tiff(2, GetParam().told, isBigEndian), "scan.tif"),
+                  "scan.tif: the image is too large to be laid out");
+}
+
+constexpr quint32 kShort = 3;
+constexpr quint32 kLong8 = 16;
+constexpr quint32 kAll = 0xffffffff;
+
+INSTANTIATE_TEST_SUITE_P(Of, VastPart,
+                         testing::Values(PartRow{"ALine", {{256, 60'000}, {277, 65'535}}},
+                                         PartRow{"AStrip", {{256, 8192}, {257, 8193}, {277, 4}, {278, kAll}}},
+                                         PartRow{"AStripOfNoRows", {{256, 60'000}, {277, 65'535}, {278, 0}}},
+                                         PartRow{"ATile", {{322, 20'000}, {323, 20'000}}},
+                                         PartRow{"BitsOfASample", {{256, 60'000}, {258, 65'535}}},
+                                         PartRow{"BitsThatStandElsewhere",
+                                                 {{256, 60'000}, {258, 0, kShort, 3}, {277, 3}}},
+                                         PartRow{"ANumberBehindTheEnd", {{277, 1'000'000, kShort, 3}}},
+                                         PartRow{"ANumberOf64Bits", {{277, 8, kLong8}}}),
+                         [](const auto &row) { return std::string(row.param.name); });
+
+TEST_F(ImagePages, OfATIFFMayBeInParts)
+{
+    if (!QImageReader::supportedImageFormats().contains("tif"))
+        GTEST_SKIP() << "Qt's further image formats are not installed";
+    const QImage whole = black(300, 200, 96, 96);
+    EXPECT_EQ(pdf(file(whole, "tiff"), kSheet).image().convertToFormat(QImage::Format_RGB32), whole);
 }
 
 TEST_F(ImagePages, ThatAreDamagedAreNamed)
@@ -264,6 +331,26 @@ TEST_F(ImagePages, OfMorePixelsThanAnyHeadBurnsKeepTheirSizeOnPaper)
     EXPECT_LE(kept.width() * kept.height(), 36'000'000);
     EXPECT_GE(kept.width() * kept.height(), 35'000'000);
 }
+
+#ifndef __SANITIZE_ADDRESS__
+TEST_F(ImagePages, WithoutMemoryForThemAreNotEmpty)
+{
+    const support::RecordMessages remarks;
+    QImage large(8000, 6000, QImage::Format_Mono); // six megabytes; as many colours as a page has take 192
+    large.fill(Qt::color0);
+    const auto image = document(file(large), "large.png");
+    QFile memory("/proc/self/statm");
+    ASSERT_TRUE(memory.open(QIODevice::ReadOnly));
+    const auto taken = memory.readAll().split(' ').first().toULongLong() * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_AS, &limit), 0);
+    const rlimit little{taken + (rlim_t{100} << 20), limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_AS, &little), 0);
+    const auto result = laidOut(image, kSheet);
+    ASSERT_EQ(::setrlimit(RLIMIT_AS, &limit), 0);
+    EXPECT_EQ(support::sentence(result), "large.png: the image is too large to be laid out");
+}
+#endif
 
 TEST_F(ImagePages, OfFilesThatAreTooLargeAreRefused)
 {
