@@ -32,7 +32,7 @@ public:
     /// Puts options in place of what was saved under the name, and nothing else. They are on disk then, or there is a
     /// problem and the file is as it was.
     foundation::Or<void> save(const QString &preset, const OptionValues &options) const;
-    /// The user's own. One that the system has as well stays, which is a problem.
+    /// Takes the user's own away. Where the system has one of the name as well, that stays, which is a problem.
     foundation::Or<void> remove(const QString &preset) const;
 
     /// Whether a preset can go by the name, so that other programs can read it.

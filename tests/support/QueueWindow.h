@@ -13,8 +13,8 @@ namespace support {
 class QueueWindow : public support::WindowTest
 {
 protected:
-    static constexpr int kPatience =
-        60'000; // in milliseconds: a long text takes a quarter of that under the sanitizers
+    /// In milliseconds. A long text takes a quarter of that under the sanitizers.
+    static constexpr int kPatience = 60'000;
 
     void SetUp() override
     {

@@ -3,6 +3,7 @@
 #include "Print.h"
 #include "Results.h"
 
+#include "Foundation/Shadow.h"
 #include "Pages/PrintedPages.h"
 
 #include <QDir>
@@ -320,11 +321,15 @@ TEST_F(Programs, AreEndedWhenTheySayTooMuch)
 TEST_F(Programs, AreEndedAlthoughTheyNeverStopTalking)
 {
     m_patience = 300ms;
+    const long before = memory(RUSAGE_SELF);
     const QByteArray forEver = "/usr/bin/yes";
     for (const QByteArray &stream : {QByteArray(), QByteArray(" >&2")}) {
         const QByteArray talker = forEver + stream;
         put("pdfinfo", talker + " & " + talker + " & " + talker + " & exec " + talker);
         EXPECT_EQ(saidOf(sizes()), kTakesTooLong) << stream.toStdString();
+    }
+    if (!foundation::kHasShadow) {
+        EXPECT_LT(memory(RUSAGE_SELF) - before, 32 * 1024); // ten megabytes are taken from a program, and no more kept
     }
 }
 

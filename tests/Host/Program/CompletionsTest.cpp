@@ -271,7 +271,7 @@ TEST_F(Fish, OffersEveryOption)
 
 TEST_F(Fish, CompletesWhatIsMeant)
 {
-    EXPECT_EQ(offers("qnprint --no-d"), QStringList{"--no-dialog"}); // without that --destination has these letters too
+    EXPECT_EQ(offers("qnprint --no-d"), QStringList{"--no-dialog"}); // --destination has the letters of --no as well
     EXPECT_EQ(offers("qnprint -d "), QStringList({"counter", "office"}));
     EXPECT_EQ(offers("qnprint --destination "), QStringList({"counter", "office"}));
     EXPECT_EQ(offers("qnprint -d counter/e"), QStringList());

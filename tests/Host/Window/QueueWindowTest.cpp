@@ -275,8 +275,8 @@ TEST_F(QueueWindow, SaysThatAPresetWasChanged)
 
 TEST_F(QueueWindow, AsksBeforeAPresetIsReplacedOrDeleted)
 {
-    ASSERT_TRUE(
-        SavedOptions("counter").save("express", {{"QnSpeed", "S1"}})); // lpoptions may save root's for all users
+    // The user's own: lpoptions may save root's for all users.
+    ASSERT_TRUE(SavedOptions("counter").save("express", {{"QnSpeed", "S1"}}));
     openAndWait();
     meetBox<PresetNameBox>([this](PresetNameBox &box) {
         auto *const name = box.findChild<QLineEdit *>();
@@ -307,6 +307,19 @@ TEST_F(QueueWindow, AsksBeforeAPresetIsReplacedOrDeleted)
     }
     EXPECT_EQ(SavedOptions("counter").presets(), QStringList());
     EXPECT_EQ(presets()->currentText(), "Defaults (changed)"); // what is set stays as it is
+}
+
+TEST_F(QueueWindow, SaysThatAPresetOfTheSystemStays)
+{
+    QFile system(m_server.path("etc/lpoptions"));
+    ASSERT_TRUE(system.open(QIODevice::WriteOnly) && system.write("Dest counter/express QnSpeed=S1\n") > 0);
+    system.close();
+    openAndWait();
+    choose(*presets(), "express");
+    meetBox<QMessageBox>([](QMessageBox &box) { box.buttons().first()->click(); });
+    trigger("De&lete Preset…");
+    EXPECT_EQ(message(), system.fileName() + ": has the preset “express” for all users; it stays");
+    EXPECT_EQ(presets()->currentText(), "express");
 }
 
 TEST_F(QueueWindow, LeavesMenusAndNumbersToTheWheelOnlyWhileTheyHaveTheFocus)
