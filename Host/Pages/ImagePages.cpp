@@ -169,7 +169,8 @@ Or<std::shared_ptr<Document>> imagePages(Document &image, const Sheet &sheet, co
     auto content = contentOf(image);
     if (!content)
         return content.problem();
-    if (format == "tif" && largestPartOfTIFF(*content, kMostPages + 1) + content->size() > kMostBytesOfPicture)
+    const auto room = static_cast<double>(kMostBytesOfPicture - content->size());
+    if (format == "tif" && largestPartOfTIFF(*content, kMostPages + 1) > room)
         return tooLarge(image);
     QBuffer buffer(&*content);
     buffer.open(QIODevice::ReadOnly);
